@@ -1,0 +1,37 @@
+// Where a path enters the program, and how the view is searched.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// A path from the platform (dialog, drop, command line, settings) in the program's form.
+std::string FromPlatform(std::string_view Path);
+/// A path as messages and captions show it: native, catalog and "vfs://" forms recognised.
+std::string ShownPath(std::string_view Path);
+
+/// The real place of a "vfs://" name or of a name relative to the view, whole; empty if it is nowhere.
+std::optional<std::string> FindInVFS(std::string_view NameInView);
+/// Plain and catalog paths as they are, "vfs://" paths found in the view; empty if nowhere.
+std::optional<std::string> RealPath(std::string_view Path);
+
+/// Walks the entries that a mask matches in the view, with whole names; closes its handle.
+class VfsSearch {
+public:
+    explicit VfsSearch(std::string_view Mask);
+    VfsSearch(const VfsSearch&) = delete;
+    VfsSearch& operator=(const VfsSearch&) = delete;
+    ~VfsSearch();
+
+    [[nodiscard]] bool Found() const noexcept { return m_found; } ///< standing on an entry
+    void Next();
+    [[nodiscard]] std::string Name() const;     ///< without the directory searched
+    [[nodiscard]] std::string RealName() const; ///< for LornFD_OpenFile
+    [[nodiscard]] bool IsDirectory() const noexcept { return m_directory; }
+
+private:
+    std::int32_t m_find = 0;
+    bool m_found = false;
+    bool m_directory = false;
+};

@@ -1,0 +1,22 @@
+// Reading a value at its place in a loaded text.
+#pragma once
+
+#include "keshobjects/keshobjects.h"
+
+#include <string_view>
+
+namespace keshobjects {
+
+constexpr bool isBlank(char c) noexcept {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+/// The spelling of the value at a place.
+std::string_view valueAt(std::string_view text, KeshPlace place) noexcept;
+/// The raw rest of line at a place.
+std::string_view rawAt(std::string_view text, KeshPlace place) noexcept;
+/// The number at a place, found without looking for the value's end first.
+std::optional<double> numberAt(std::string_view text, KeshPlace place) noexcept;
+std::optional<std::int32_t> integerAt(std::string_view text, KeshPlace place) noexcept;
+
+} // namespace keshobjects

@@ -1,0 +1,1 @@
+#include "keshobjects/value.h"

@@ -1,0 +1,1 @@
+#include "keshvfs/keshvfs.h"

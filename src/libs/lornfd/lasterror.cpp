@@ -1,0 +1,1 @@
+#include "lornfd/lasterror.h"

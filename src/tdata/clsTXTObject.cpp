@@ -1,0 +1,1 @@
+#include "tdata/clsTXTObject.h"

@@ -1,0 +1,71 @@
+// The values of one record: places in a loaded text until something changes, cells of its own after that.
+//
+// Copying is cheap and shares; a copy is what undo keeps. A cell that is not set anew keeps its place, so
+// its spelling.
+#pragma once
+
+#include "keshobjects/value.h"
+#include "tdata/clsLoadedText.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+/// How the places of a record read.
+enum class ValueForm : std::uint8_t {
+    AsShown,  ///< number or text by its spelling
+    AllText,  ///< every value is text (ware lists)
+    LastText, ///< the last value is text (icon entries)
+    LastRaw,  ///< the last value is the raw rest of its line, text (jobs)
+};
+
+class clsValueArray {
+public:
+    clsValueArray() = default;
+    /// `size` places of `text` from `first` on. `written`: the values stand in written form, in one piece.
+    clsValueArray(std::shared_ptr<const clsLoadedText> text, std::uint32_t first, std::uint32_t size,
+                  ValueForm form, bool written);
+    /// `size` cells, each the whole number 0.
+    explicit clsValueArray(std::uint32_t size);
+
+    [[nodiscard]] std::uint32_t Size() const noexcept { return m_size; }
+    [[nodiscard]] KeshValue Get(std::uint32_t index) const;
+    [[nodiscard]] std::string_view Spelling(std::uint32_t index) const; ///< valid until the next change
+    [[nodiscard]] std::optional<double> Number(std::uint32_t index) const;
+    [[nodiscard]] bool Equals(std::uint32_t index, const KeshValue& value) const;
+
+    void Set(std::uint32_t index, const KeshValue& value);
+    /// Takes over a cell of another array with its spelling.
+    void SetFrom(std::uint32_t index, const clsValueArray& from, std::uint32_t fromIndex);
+    void Insert(std::uint32_t index, std::uint32_t count); ///< unset cells
+    void Remove(std::uint32_t index, std::uint32_t count);
+
+    /// The record as the file has it, all values with their ";", if it stands there in one piece.
+    [[nodiscard]] std::optional<std::string_view> Written() const;
+    [[nodiscard]] ValueForm Form() const noexcept { return m_form; }
+
+    friend bool operator==(const clsValueArray& a, const clsValueArray& b); ///< same kinds and spellings
+
+private:
+    struct Own {
+        std::string spelling;
+        bool text; ///< set as text, also if it spells a number
+    };
+    using Cell = std::variant<std::monostate, KeshPlace, Own>;
+
+    [[nodiscard]] bool IsText(std::uint32_t index) const noexcept;
+    [[nodiscard]] KeshPlace PlaceAt(std::uint32_t index) const noexcept;
+    [[nodiscard]] std::string_view PlaceSpelling(std::uint32_t index, KeshPlace place) const noexcept;
+    std::vector<Cell>& OwnCells();
+
+    std::shared_ptr<const clsLoadedText> m_text;
+    std::shared_ptr<std::vector<Cell>> m_cells; ///< null while every value is at its place
+    std::uint32_t m_first = 0;
+    std::uint32_t m_size = 0;
+    ValueForm m_form = ValueForm::AsShown;
+    bool m_written = false;
+};

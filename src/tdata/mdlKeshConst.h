@@ -1,0 +1,60 @@
+// What every record needs before any field has a name: object types, record sizes, the common frame.
+//
+// Some words here are misspelt; they are the game's own and stand as they are.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace otype {
+inline constexpr std::int32_t None = 0;
+inline constexpr std::int32_t Ships = 1;
+inline constexpr std::int32_t Shields = 2;
+inline constexpr std::int32_t Laser = 3;
+inline constexpr std::int32_t Bullets = 4;
+inline constexpr std::int32_t Missiles = 5;
+inline constexpr std::int32_t Ware = 6;
+inline constexpr std::int32_t Factories = 7;
+inline constexpr std::int32_t Special = 8;
+inline constexpr std::int32_t Cockpits = 9;
+inline constexpr std::int32_t Docks = 10;
+inline constexpr std::int32_t Wrecks = 11;
+inline constexpr std::int32_t Gates = 12;
+inline constexpr std::int32_t Planets = 13;
+inline constexpr std::int32_t Suns = 14;
+inline constexpr std::int32_t Asteroids = 15;
+inline constexpr std::int32_t Debris = 16;
+inline constexpr std::int32_t Backgrounds = 17;
+inline constexpr std::int32_t Nebula = 18;
+inline constexpr std::int32_t Jobs = 19;
+inline constexpr std::int32_t JobWings = 20;
+inline constexpr std::int32_t WareLists = 21;
+inline constexpr std::int32_t IconData = 22;
+} // namespace otype
+
+/// A file key and what it stands for, in search order: the first key found anywhere in a name wins.
+struct ObjectTypeKey {
+    std::string_view Key;
+    std::int32_t Code;
+    std::string_view PanelTitle;
+};
+std::span<const ObjectTypeKey> ObjectTypeKeys();
+std::span<const std::string_view> WareFileNames();
+
+/// Fills what the tables derive from each other; called once at start-up.
+void InitArrays();
+/// Type code for a file's name without regard to case and extension; 0 if it is no object file.
+std::int32_t ObjectTypeFromFile(std::string_view Path);
+/// The key of a type ("TShips"); empty for an unknown code.
+std::string_view ObjectTypeName(std::int32_t Type);
+/// Fields of a record by type; 0 for a type without fixed size.
+std::int32_t ObjectSize(std::int32_t Type);
+
+inline constexpr std::int32_t CommonHeadCount = 7;
+inline constexpr std::int32_t CommonTailCount = 10;
+std::span<const std::string_view> CommonHeadNames();
+std::span<const std::int32_t> CommonHeadTypes();
+/// Addressed with N - index - 2 for a record of N fields.
+std::span<const std::string_view> CommonTailNames();

@@ -1,0 +1,1 @@
+#include "textres/clsDescServer.h"

@@ -1,8 +1,8 @@
 // Every persistent setting, recent lists, the temporary directory and the trace log.
 //
-// The store is four INI files in one directory (KESH_CONFIG_DIR, else the platform's own): user.ini,
-// machine.ini, game.ini, outfitter.ini. Nothing is cached: each access reads the store. No access reports
-// failure: what is missing or broken gives its default.
+// The store is four INI files in one directory (KESH_CONFIG_DIR, else the platform's own):
+// user.ini, machine.ini, game.ini, outfitter.ini. Nothing is cached: each access reads the store.
+// No access reports failure: what is missing or broken gives its default.
 #pragma once
 
 #include <cstdint>
@@ -50,16 +50,25 @@ public:
     [[nodiscard]] std::string ActiveModFullName() const; ///< below DataRoot\mods
     [[nodiscard]] std::string KeshMMFullPath() const;    ///< the mod tool; empty if there is none
     [[nodiscard]] std::string HelpPath() const;
-    [[nodiscard]] std::string TraceFilePath() const; ///< log.txt beside the program, else the state directory
+    [[nodiscard]] std::string
+    TraceFilePath() const; ///< log.txt beside the program, else the state directory
     [[nodiscard]] std::string TempDirectory() const; ///< empty before InitEnviroment
     [[nodiscard]] std::string ConfigDirectory() const;
-    [[nodiscard]] std::string StateDirectory() const; ///< KESH_STATE_DIR, else the platform's own; made if missing
+    [[nodiscard]] std::string
+    StateDirectory() const; ///< KESH_STATE_DIR, else the platform's own; made if missing
 
-    /// A value of the user root; the key is empty for the root itself, a group otherwise ("TE", "main\icons").
-    [[nodiscard]] std::optional<std::string> ReadRegString(std::string_view Key, std::string_view Name) const;
-    [[nodiscard]] std::optional<std::int32_t> ReadRegLong(std::string_view Key, std::string_view Name) const;
-    bool SaveRegValue(std::string_view Key, std::string_view Name, const std::string& Value, bool DeleteIfEmpty);
+    /// A value of the user root; the key is empty for the root itself, a group otherwise ("TE",
+    /// "main\icons").
+    [[nodiscard]] std::optional<std::string> ReadRegString(std::string_view Key,
+                                                           std::string_view Name) const;
+    [[nodiscard]] std::optional<std::int32_t> ReadRegLong(std::string_view Key,
+                                                          std::string_view Name) const;
+    bool SaveRegValue(std::string_view Key, std::string_view Name, const std::string& Value,
+                      bool DeleteIfEmpty);
     bool SaveRegValue(std::string_view Key, std::string_view Name, std::int32_t Value);
+
+    /// Names of the groups directly below a key, in the store's order.
+    [[nodiscard]] std::vector<std::string> SubKeys(std::string_view Key) const;
 
     /// Writes the program's own entry and makes the temporary directory.
     bool InitEnviroment();
@@ -75,12 +84,14 @@ public:
     [[nodiscard]] std::vector<std::string> LoadRecentGalaxyMaps() const;
 
     // Trace log
-    /// Writes "date time - Text"; with AutoOpen opens first and closes after. False if no file is open.
+    /// Writes "date time - Text"; with AutoOpen opens first and closes after. False if no file is
+    /// open.
     bool Trace(std::string_view Text, bool AutoOpen);
-    std::int32_t OpenTraceFile();  ///< opens for appending, counts the use; the file number, 0 on failure
-    std::int32_t CloseTraceFile(); ///< gives the use count that is left
+    std::int32_t
+    OpenTraceFile(); ///< opens for appending, counts the use; the file number, 0 on failure
+    std::int32_t CloseTraceFile();             ///< gives the use count that is left
     bool ClearTraceFile(std::int64_t MaxSize); ///< deletes a log longer than MaxSize bytes
-    bool ReopenTraceFile();        ///< force-closes, clears read-only, reopens with the former use count
+    bool ReopenTraceFile(); ///< force-closes, clears read-only, reopens with the former use count
 
 private:
     struct Data;

@@ -1,9 +1,12 @@
-// Paths, strings, numbers, small lookups and values with units. Plain routines without state or windows.
+// Paths, strings, numbers, small lookups and values with units. Plain routines without state or
+// windows.
 //
-// A path inside the program has "\" throughout; files/mdlPaths.h brings a platform's path into that form.
+// A path inside the program has "\" throughout; files/mdlPaths.h brings a platform's path into that
+// form.
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <span>
@@ -27,25 +30,38 @@ std::string TempPath(); ///< the system's temporary path, in the program's form
 // Strings
 enum class TextCompare { Binary, NoCase };
 std::string TrimNull(std::string_view Text); ///< up to the first zero character
-/// Replaces in place every occurrence and gives their count; nothing if Find is empty or equals With.
+/// Replaces in place every occurrence and gives their count; nothing if Find is empty or equals
+/// With.
 std::int32_t ReplaceAll(std::string& Text, std::string_view Find, std::string_view With,
                         TextCompare Compare = TextCompare::Binary);
 /// Appends; the separator stands only between two non-empty texts.
 void AppendLine(std::string& Text, std::string_view Line, std::string_view Separator);
-constexpr std::int32_t BoolToInt(bool Flag) noexcept { return Flag ? 1 : 0; }
-constexpr bool IntToBool(std::int32_t N) noexcept { return N != 0; }
+constexpr std::int32_t BoolToInt(bool Flag) noexcept {
+    return Flag ? 1 : 0;
+}
+constexpr bool IntToBool(std::int32_t N) noexcept {
+    return N != 0;
+}
 
 // Numbers
-std::uint32_t ParseHex(std::string_view Text); ///< of the leading run of hexadecimal digits, low 32 bits
+std::uint32_t
+ParseHex(std::string_view Text); ///< of the leading run of hexadecimal digits, low 32 bits
 bool IsHexText(std::string_view Text);
 bool IsWholeNumber(std::string_view Text); ///< a number whose real and 32-bit readings agree
-/// Upper case, padded with "0" to Digits; with Digits 0 a value other than 0 gets an even number of them.
+/// Upper case, padded with "0" to Digits; with Digits 0 a value other than 0 gets an even number of
+/// them.
 std::string ToHex(std::uint32_t Value, std::int32_t Digits);
 std::int32_t HiWord(std::int32_t N);
 std::int32_t LoWord(std::int32_t N);
-constexpr std::int32_t GetRed(std::int32_t Colour) noexcept { return Colour & 0xFF; }
-constexpr std::int32_t GetGreen(std::int32_t Colour) noexcept { return (Colour >> 8) & 0xFF; }
-constexpr std::int32_t GetBlue(std::int32_t Colour) noexcept { return (Colour >> 16) & 0xFF; }
+constexpr std::int32_t GetRed(std::int32_t Colour) noexcept {
+    return Colour & 0xFF;
+}
+constexpr std::int32_t GetGreen(std::int32_t Colour) noexcept {
+    return (Colour >> 8) & 0xFF;
+}
+constexpr std::int32_t GetBlue(std::int32_t Colour) noexcept {
+    return (Colour >> 16) & 0xFF;
+}
 /// Exchange of red (byte 0) and blue (byte 2); byte 3 stays.
 std::int32_t SwapRB(std::int32_t Colour);
 std::int32_t SwapBytes(std::int32_t Colour);
@@ -56,7 +72,8 @@ std::string FormatFixed(double Value, std::int32_t Decimals);
 std::string ValueErrorText(std::string_view Name, std::int32_t Kind);
 
 // Lookups
-std::string TableText(std::span<const std::string_view> Table, std::int64_t Index);    ///< or "Unknown value"
+std::string TableText(std::span<const std::string_view> Table,
+                      std::int64_t Index); ///< or "Unknown value"
 std::string TableTextRaw(std::span<const std::string_view> Table, std::int64_t Index); ///< or empty
 template <class T>
 std::int32_t IndexInArray(std::span<const T> Array, const T& Value) {
@@ -79,5 +96,6 @@ void AddSorted(std::vector<std::shared_ptr<T>>& Collection, std::shared_ptr<T> O
     Collection.insert(at, std::move(Object));
 }
 
-/// A distance in game units (500 a metre) with its unit, or bare with Plain; Miles gives nautical miles.
+/// A distance in game units (500 a metre) with its unit, or bare with Plain; Miles gives nautical
+/// miles.
 std::string FormatDistance(double GameUnits, bool Plain, bool Miles);

@@ -11,7 +11,8 @@ std::string FromPlatform(std::string_view Path);
 /// A path as messages and captions show it: native, catalog and "vfs://" forms recognised.
 std::string ShownPath(std::string_view Path);
 
-/// The real place of a "vfs://" name or of a name relative to the view, whole; empty if it is nowhere.
+/// The real place of a "vfs://" name or of a name relative to the view, whole; empty if it is
+/// nowhere.
 std::optional<std::string> FindInVFS(std::string_view NameInView);
 /// Plain and catalog paths as they are, "vfs://" paths found in the view; empty if nowhere.
 std::optional<std::string> RealPath(std::string_view Path);

@@ -12,14 +12,16 @@ class clsArchive {
 public:
     [[nodiscard]] bool ParseError() const noexcept { return m_loadError; }
     [[nodiscard]] std::string LoadError() const; ///< the flag as text: "True" or "False"
-    [[nodiscard]] const std::string& NotLoadedFiles() const noexcept { return m_notLoaded; } ///< with reasons
+    [[nodiscard]] const std::string& NotLoadedFiles() const noexcept {
+        return m_notLoaded;
+    } ///< with reasons
     [[nodiscard]] const std::string& NotParsedFiles() const noexcept { return m_notParsed; }
     [[nodiscard]] const std::string& GetLastError() const noexcept { return m_lastError; }
 
     /// `Name` with or without directory and extension; "TShips" is the usual form.
     [[nodiscard]] bool IsFileLoaded(std::string_view Name) const;
-    /// The parsed file, from "types" in the view; none if it cannot be read or holds no record. Failures are
-    /// kept as text and not remembered: the next call tries again.
+    /// The parsed file, from "types" in the view; none if it cannot be read or holds no record. A
+    /// failure is kept as text and not remembered: the next call tries again.
     std::shared_ptr<clsTxtParser> GetFile(std::string_view Name);
     void ClearErrors();
     void Clear();
@@ -28,7 +30,7 @@ private:
     std::shared_ptr<clsTxtParser> LoadParser(const std::string& Path, bool ReportFailure);
     std::int32_t LoadText(const std::string& Path);
 
-    std::map<std::string, std::shared_ptr<clsTxtParser>, std::less<>> m_files; ///< by folded base name
+    std::map<std::string, std::shared_ptr<clsTxtParser>> m_files; ///< by base name in lower case
     std::string m_lastError;
     std::string m_notLoaded;
     std::string m_notParsed;

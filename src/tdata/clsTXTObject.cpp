@@ -1,1 +1,146 @@
 #include "tdata/clsTXTObject.h"
+
+#include "core/KeshError.h"
+
+#include <cmath>
+#include <limits>
+#include <utility>
+
+clsTXTObject::Seldom& clsTXTObject::Rare() const {
+    if (!m_seldom)
+        m_seldom = std::make_unique<Seldom>();
+    return *m_seldom;
+}
+
+void clsTXTObject::FailBounds(std::int32_t index, std::int32_t count) const {
+    auto& text = Rare().lastError;
+    text = "Index " + std::to_string(index) + " is outside the record";
+    if (count > 0)
+        text += " for " + std::to_string(count) + " values";
+    text += " (" + std::to_string(size()) + " values, ID \"" + std::string(ObjectName()) + "\").";
+    throw KeshError(errnum::Bounds, "clsTXTObject", text);
+}
+
+std::uint32_t clsTXTObject::Checked(std::int32_t index) const {
+    if (index < 0 || index >= size())
+        FailBounds(index, 0);
+    return static_cast<std::uint32_t>(index);
+}
+
+std::string clsTXTObject::GetLastError() const {
+    return m_seldom ? m_seldom->lastError : std::string();
+}
+
+std::string clsTXTObject::GSubType() const {
+    return std::string(ValueText(5));
+}
+
+std::int32_t clsTXTObject::TailNumber(std::int32_t fromEnd) const {
+    const auto number = std::nearbyint(ValueNumber(size() - fromEnd).value_or(0));
+    return std::abs(number) <= std::numeric_limits<std::int32_t>::max()
+               ? static_cast<std::int32_t>(number)
+               : 0;
+}
+
+std::string clsTXTObject::key() const {
+    return "k" + std::to_string(ID);
+}
+
+std::string_view clsTXTObject::ObjectName() const {
+    return size() == 0 ? std::string_view() : m_values.Spelling(m_values.Size() - 1);
+}
+
+void clsTXTObject::SetObjectName(const std::string& name) {
+    SetValue(size() - 1, name);
+}
+
+KeshValue clsTXTObject::Value(std::int32_t index) const {
+    return m_values.Get(Checked(index));
+}
+
+void clsTXTObject::SetValue(std::int32_t index, const KeshValue& value) {
+    const auto at = Checked(index);
+    if (keshobjects::equalValues(m_values.Get(at), value))
+        return;
+    Remember();
+    m_values.Set(at, value);
+    Dirty = true;
+}
+
+std::string_view clsTXTObject::ValueText(std::int32_t index) const {
+    return m_values.Spelling(Checked(index));
+}
+
+std::optional<double> clsTXTObject::ValueNumber(std::int32_t index) const {
+    return m_values.Number(Checked(index));
+}
+
+std::int32_t clsTXTObject::size() const noexcept {
+    return static_cast<std::int32_t>(m_values.Size());
+}
+
+void clsTXTObject::InsertSpaceToArray(std::int32_t index, std::int32_t count) {
+    const bool fits = count >= 0 && count <= std::numeric_limits<std::int32_t>::max() - size();
+    if (index < 1 || index >= size() || !fits)
+        FailBounds(index, count);
+    Remember();
+    m_values.Insert(static_cast<std::uint32_t>(index), static_cast<std::uint32_t>(count));
+}
+
+void clsTXTObject::RemoveSpaceFromArray(std::int32_t index, std::int32_t count) {
+    if (index < 1 || count < 0 || index >= size() || count > size() - 1 - index)
+        FailBounds(index, count);
+    Remember();
+    m_values.Remove(static_cast<std::uint32_t>(index), static_cast<std::uint32_t>(count));
+}
+
+void clsTXTObject::Construct(std::int32_t size) {
+    if (size < 0)
+        FailBounds(size, 0);
+    Remember();
+    m_values = clsValueArray(static_cast<std::uint32_t>(size));
+    if (size > 0)
+        m_values.Set(static_cast<std::uint32_t>(size - 1), std::string());
+}
+
+void clsTXTObject::CopyTo(clsTXTObject& target) const {
+    target.ID = ID;
+    target.otype = otype;
+    target.Index = Index;
+    target.Dirty = Dirty;
+    target.Construct(size());
+    for (std::int32_t i = 0; i < size() && !target.Dirty; ++i)
+        target.Dirty = !keshobjects::equalValues(target.Value(i), Value(i));
+    target.m_values = m_values;
+}
+
+std::shared_ptr<clsTXTObject> clsTXTObject::Clone() const {
+    auto copy = std::make_shared<clsTXTObject>();
+    CopyTo(*copy);
+    return copy;
+}
+
+std::string clsTXTObject::GetObjectTData() const {
+    std::string data;
+    for (std::int32_t i = 0; i < size(); ++i)
+        data.append(ValueText(i)) += ';';
+    return data;
+}
+
+void clsTXTObject::LoadValues(clsValueArray values) {
+    m_values = std::move(values);
+    Dirty = false;
+}
+
+void clsTXTObject::SetValues(clsValueArray values) {
+    m_values = std::move(values);
+}
+
+void clsTXTObject::Remember() {
+    if (!m_seldom || !m_seldom->former)
+        Rare().former = m_values;
+}
+
+std::optional<clsValueArray> clsTXTObject::TakeFormerValues() {
+    return m_seldom ? std::exchange(m_seldom->former, std::nullopt) : std::nullopt;
+}

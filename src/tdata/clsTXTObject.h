@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 class clsTXTObject {
 public:
@@ -15,56 +16,73 @@ public:
     std::int32_t ID = 0;    ///< unique in its container, never reused there
     bool Dirty = false;     ///< a value was changed
 
-    // Older positions of the tail, relative to the record's end; the editors go by the tail table instead.
+    // Older positions of the tail, counted from the record's end; the editors go by the tail table
+    // instead.
     [[nodiscard]] std::string GSubType() const; ///< value 5 as text
-    [[nodiscard]] std::int32_t Volume() const;
-    void SetVolume(std::int32_t value);
-    [[nodiscard]] std::int32_t Price() const;
-    void SetPrice(std::int32_t value);
-    [[nodiscard]] std::int32_t PriceVarPrim() const;
-    void SetPriceVarPrim(std::int32_t value);
-    [[nodiscard]] std::int32_t PriceVarSec() const;
-    void SetPriceVarSec(std::int32_t value);
-    [[nodiscard]] std::int32_t WareClass() const;
-    void SetWareClass(std::int32_t value);
-    [[nodiscard]] std::string PropertyName(std::int32_t) const { return {}; }
+    [[nodiscard]] std::int32_t Volume() const { return TailNumber(5); }
+    void SetVolume(std::int32_t value) { SetTailNumber(5, value); }
+    [[nodiscard]] std::int32_t Price() const { return TailNumber(4); }
+    void SetPrice(std::int32_t value) { SetTailNumber(4, value); }
+    [[nodiscard]] std::int32_t PriceVarPrim() const { return TailNumber(3); }
+    void SetPriceVarPrim(std::int32_t value) { SetTailNumber(3, value); }
+    [[nodiscard]] std::int32_t PriceVarSec() const { return TailNumber(2); }
+    void SetPriceVarSec(std::int32_t value) { SetTailNumber(2, value); }
+    [[nodiscard]] std::int32_t WareClass() const { return TailNumber(1); }
+    void SetWareClass(std::int32_t value) { SetTailNumber(1, value); }
+    /// Always empty: names of fields come from the tables by type and index.
+    [[nodiscard]] static std::string PropertyName(std::int32_t) { return {}; }
 
     [[nodiscard]] std::string key() const; ///< "k" + ID
-    [[nodiscard]] std::string ObjectName() const; ///< last value as text; empty for a record of size 0
-    [[nodiscard]] std::string_view ObjectNameView() const; ///< the same without a copy, until the next change
+    /// The last value as text; empty for a record of size 0. Valid until the next change.
+    [[nodiscard]] std::string_view ObjectName() const;
     void SetObjectName(const std::string& name);
 
-    /// Throws KeshError (errnum::Bounds) for an index outside 0 to size - 1.
+    /// Throws KeshError (errnum::Bounds) for an index outside 0 to size - 1, as all that take an
+    /// index.
     [[nodiscard]] KeshValue Value(std::int32_t index) const;
     void SetValue(std::int32_t index, const KeshValue& value);
-    [[nodiscard]] std::string ValueText(std::int32_t index) const; ///< the value's spelling
-    [[nodiscard]] std::optional<double> ValueNumber(std::int32_t index) const; ///< if it is a number
+    /// The value's spelling, valid until the next change.
+    [[nodiscard]] std::string_view ValueText(std::int32_t index) const;
+    [[nodiscard]] std::optional<double>
+    ValueNumber(std::int32_t index) const; ///< if it is a number
     [[nodiscard]] std::int32_t size() const noexcept;
-    [[nodiscard]] std::string GetLastError() const;
+    [[nodiscard]] std::string GetLastError() const; ///< of the last operation that failed here
 
-    /// Makes room: `count` unset values at `index`, which must lie from 1 to size - 1. Dirty is untouched.
+    /// Makes room: `count` unset values at `index`, which must lie from 1 to size - 1. Dirty is
+    /// untouched.
     void InsertSpaceToArray(std::int32_t index, std::int32_t count);
     /// `index` at least 1, `index` + `count` at most size - 1.
     void RemoveSpaceFromArray(std::int32_t index, std::int32_t count);
     /// `size` zeros, the last the empty text. Former values are lost.
     void Construct(std::int32_t size);
-    /// Copies everything; the target's Dirty is set if any value differs from a constructed record's.
+    /// Copies everything, spelling too; the target is dirty unless all values are a constructed
+    /// record's.
     void CopyTo(clsTXTObject& target) const;
     [[nodiscard]] std::shared_ptr<clsTXTObject> Clone() const;
     [[nodiscard]] std::string GetObjectTData() const; ///< each value as text with ";" behind
 
-    // For the container and the window's undo
+    // For the loader, the writer and the window's undo
     [[nodiscard]] const clsValueArray& Values() const noexcept { return m_values; }
-    void SetValues(clsValueArray values); ///< replaces all; remembers the former like any change
     void LoadValues(clsValueArray values); ///< of a loader: nothing is remembered, Dirty false
-    /// The value array before the first change since the last call; empty if nothing changed.
-    std::optional<clsValueArray> TakeFormerValues();
-    [[nodiscard]] bool HasFormerValues() const noexcept { return m_former != nullptr; }
+    void SetValues(clsValueArray values);  ///< replaces all as undo does: Dirty is untouched
+    /// The value array before the first change since the last call; empty if nothing was changed.
+    [[nodiscard]] std::optional<clsValueArray> TakeFormerValues();
 
 private:
+    struct Seldom { ///< kept apart, since hundreds of thousands of records never need it
+        std::optional<clsValueArray> former;
+        std::string lastError;
+    };
+
     void Remember();
+    [[noreturn]] void FailBounds(std::int32_t index, std::int32_t count) const;
     [[nodiscard]] std::uint32_t Checked(std::int32_t index) const;
+    [[nodiscard]] std::int32_t TailNumber(std::int32_t fromEnd) const;
+    void SetTailNumber(std::int32_t fromEnd, std::int32_t value) {
+        SetValue(size() - fromEnd, value);
+    }
+    Seldom& Rare() const;
 
     clsValueArray m_values;
-    std::unique_ptr<clsValueArray> m_former;
+    mutable std::unique_ptr<Seldom> m_seldom;
 };

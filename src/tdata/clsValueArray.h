@@ -1,7 +1,8 @@
-// The values of one record: places in a loaded text until something changes, cells of its own after that.
+// The values of one record: places in a loaded text until something changes, cells of its own after
+// that.
 //
-// Copying is cheap and shares; a copy is what undo keeps. A cell that is not set anew keeps its place, so
-// its spelling.
+// Copying is cheap and shares; a copy is what undo keeps. A cell that is not set anew keeps its
+// place, so its spelling.
 #pragma once
 
 #include "keshobjects/value.h"
@@ -9,7 +10,7 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -26,41 +27,45 @@ enum class ValueForm : std::uint8_t {
 class clsValueArray {
 public:
     clsValueArray() = default;
-    /// `size` places of `text` from `first` on. `written`: the values stand in written form, in one piece.
-    clsValueArray(std::shared_ptr<const clsLoadedText> text, std::uint32_t first, std::uint32_t size,
-                  ValueForm form, bool written);
+    /// `size` places of `text` from `first` on. `written`: the values stand in written form, in one
+    /// piece.
+    clsValueArray(std::shared_ptr<const clsLoadedText> text, std::uint32_t first,
+                  std::uint32_t size, ValueForm form, bool written);
     /// `size` cells, each the whole number 0.
     explicit clsValueArray(std::uint32_t size);
 
     [[nodiscard]] std::uint32_t Size() const noexcept { return m_size; }
     [[nodiscard]] KeshValue Get(std::uint32_t index) const;
-    [[nodiscard]] std::string_view Spelling(std::uint32_t index) const; ///< valid until the next change
+    /// Valid until the next change; an unset cell spells the empty text.
+    [[nodiscard]] std::string_view Spelling(std::uint32_t index) const;
     [[nodiscard]] std::optional<double> Number(std::uint32_t index) const;
-    [[nodiscard]] bool Equals(std::uint32_t index, const KeshValue& value) const;
 
     void Set(std::uint32_t index, const KeshValue& value);
-    /// Takes over a cell of another array with its spelling.
-    void SetFrom(std::uint32_t index, const clsValueArray& from, std::uint32_t fromIndex);
+    /// Sets a cell to a spelling read elsewhere, number or text as it shows.
+    void SetSpelling(std::uint32_t index, std::string spelling);
     void Insert(std::uint32_t index, std::uint32_t count); ///< unset cells
     void Remove(std::uint32_t index, std::uint32_t count);
 
     /// The record as the file has it, all values with their ";", if it stands there in one piece.
     [[nodiscard]] std::optional<std::string_view> Written() const;
-    [[nodiscard]] ValueForm Form() const noexcept { return m_form; }
 
-    friend bool operator==(const clsValueArray& a, const clsValueArray& b); ///< same kinds and spellings
+    /// Same number of values, each of the same kind and spelling.
+    [[nodiscard]] bool SameAs(const clsValueArray& other) const;
 
 private:
     struct Own {
         std::string spelling;
-        bool text; ///< set as text, also if it spells a number
+        bool text; ///< set as text, even if it spells a number
     };
     using Cell = std::variant<std::monostate, KeshPlace, Own>;
 
-    [[nodiscard]] bool IsText(std::uint32_t index) const noexcept;
-    [[nodiscard]] KeshPlace PlaceAt(std::uint32_t index) const noexcept;
-    [[nodiscard]] std::string_view PlaceSpelling(std::uint32_t index, KeshPlace place) const noexcept;
-    std::vector<Cell>& OwnCells();
+    [[nodiscard]] KeshPlace PlaceAt(std::uint32_t index) const {
+        return m_text->Places[m_first + index];
+    }
+    [[nodiscard]] bool IsTextPlace(std::uint32_t index) const noexcept;
+    [[nodiscard]] std::string_view PlaceSpelling(std::uint32_t index) const;
+    [[nodiscard]] bool IsText(std::uint32_t index) const;
+    std::vector<Cell>& OwnCells(); ///< made, or copied from a shared one, before a change
 
     std::shared_ptr<const clsLoadedText> m_text;
     std::shared_ptr<std::vector<Cell>> m_cells; ///< null while every value is at its place

@@ -12,7 +12,8 @@ public:
     [[nodiscard]] std::int32_t size() const { return m_object->size(); }
     [[nodiscard]] KeshValue Value(std::int32_t index) const { return m_object->Value(index); }
     void SetValue(std::int32_t index, const KeshValue& value) { m_object->SetValue(index, value); }
-    /// Name of the race of a factory or dock (value 13), "Unknown value" outside the table; else empty.
+    /// Name of the race of a factory or dock (value 13), "Unknown value" outside the table; else
+    /// empty.
     [[nodiscard]] std::string Race() const;
 
 private:

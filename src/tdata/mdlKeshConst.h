@@ -1,4 +1,5 @@
-// What every record needs before any field has a name: object types, record sizes, the common frame.
+// What every record needs before any field has a name: object types, record sizes, the common
+// frame.
 //
 // Some words here are misspelt; they are the game's own and stand as they are.
 #pragma once
@@ -47,8 +48,8 @@ std::span<const std::string_view> WareFileNames();
 void InitArrays();
 /// Type code for a file's name without regard to case and extension; 0 if it is no object file.
 std::int32_t ObjectTypeFromFile(std::string_view Path);
-/// The key of a type ("TShips"); empty for an unknown code.
-std::string_view ObjectTypeName(std::int32_t Type);
+/// The file key of a type ("TShips"); empty for an unknown code.
+std::string_view ObjectTypeKeyOf(std::int32_t Type);
 /// Fields of a record by type; 0 for a type without fixed size.
 std::int32_t ObjectSize(std::int32_t Type);
 
@@ -58,3 +59,5 @@ std::span<const std::string_view> CommonHeadNames();
 std::span<const std::int32_t> CommonHeadTypes();
 /// Addressed with N - index - 2 for a record of N fields.
 std::span<const std::string_view> CommonTailNames();
+/// Positions 1 to 19; 0 is empty.
+std::span<const std::string_view> RaceNames();

@@ -1,0 +1,254 @@
+#include "tdata/clsTxtParser.h"
+
+#include "core/mdlCommon.h"
+#include "lornfd/lornfd.h"
+#include "lornfd/paths.h"
+#include "tdata/mdlKeshConst.h"
+#include "tdata/mdlTxtLoaders.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+
+bool NameBefore(const clsTXTObject* a, const clsTXTObject* b) {
+    return lornfd::compareNoCase(a->ObjectName(), b->ObjectName()) < 0;
+}
+
+/// Collects records for the file handle in large pieces.
+class RecordWriter {
+public:
+    explicit RecordWriter(std::int32_t file) : m_file(file) {
+        m_text.reserve(BlockSize + BlockSize / 4);
+    }
+
+    RecordWriter& operator<<(std::string_view text) {
+        m_text += text;
+        if (m_text.size() >= BlockSize)
+            static_cast<void>(Flush()); // what failed is remembered for the last one
+        return *this;
+    }
+    [[nodiscard]] bool Flush() {
+        m_good = m_good && Kesh_TXTWriteFile(m_file, m_text) != 0;
+        m_text.clear();
+        return m_good;
+    }
+
+private:
+    static constexpr std::size_t BlockSize = std::size_t{1} << 18;
+
+    std::int32_t m_file;
+    std::string m_text;
+    bool m_good = true;
+};
+
+void WriteValues(RecordWriter& out, const clsTXTObject& record, std::int32_t count) {
+    for (std::int32_t i = 0; i < count; ++i)
+        out << record.ValueText(i) << ";";
+}
+
+} // namespace
+
+void clsTxtParser::Reset() {
+    m_byIndex.clear();
+    m_byName.clear();
+    m_byId.clear();
+    m_text.reset();
+    m_lastError.clear();
+    m_version = 0;
+    m_nextID = 0;
+    m_dirty = false;
+    m_parsed = false;
+}
+
+bool clsTxtParser::SetError(std::string Text) {
+    m_lastError = std::move(Text);
+    return false;
+}
+
+bool clsTxtParser::Load(std::int32_t FileHandle, std::int32_t Type) {
+    Reset();
+    m_otype = Type;
+    Kesh_TXTIgnoreRemarks(Type == otype::Jobs ? 1 : 0);
+    const std::int32_t text = Kesh_LoadFromFile(FileHandle, 1);
+    if (Kesh_GetLastError() != 0)
+        return SetError(KeshObjectsErrorText());
+    return LoadFromHandle(text, Type);
+}
+
+bool clsTxtParser::LoadFromHandle(std::int32_t Text, std::int32_t Type) {
+    Reset();
+    m_otype = Type;
+    m_text = std::make_shared<clsLoadedText>(Text);
+    if (Kesh_GetObjectType(Text) != KESH_TYPE_T_TEXT)
+        return SetError("Invalid container type.");
+    if (Type == otype::None)
+        return SetError("Unrecognized T file.");
+    auto result = tdata::LoadTxtRecords(m_text, Type);
+    m_byIndex = std::move(result.records);
+    m_version = result.version;
+    m_nextID = result.lastID;
+    m_lastError = std::move(result.error);
+    m_parsed = result.ok;
+    return m_parsed;
+}
+
+// --- Saving
+
+bool clsTxtParser::Save(std::int32_t FileHandle) {
+    m_lastError.clear();
+    bool saved = m_otype == otype::Jobs ? SaveJobs(FileHandle) : SaveRecords(FileHandle);
+    if (LornFD_SetEndOfFile(FileHandle) == 0 && saved)
+        saved = SetError(LornFDErrorText());
+    if (saved) {
+        m_dirty = false;
+        for (const auto& record : m_byIndex)
+            record->Dirty = false;
+    }
+    return saved;
+}
+
+bool clsTxtParser::SaveRecords(std::int32_t FileHandle) {
+    RecordWriter out(FileHandle);
+    out << "// Created with " << ProgramID() << LineEnd;
+    out << std::to_string(m_version) << ";" << std::to_string(m_byIndex.size()) << ";" << LineEnd;
+    for (const auto& record : m_byIndex) {
+        if (const auto written = record->Values().Written())
+            out << *written << LineEnd;
+        else if (record->size() > 0)
+            (WriteValues(out, *record, record->size()), out << LineEnd);
+        else
+            return SetError("Record " + std::to_string(record->Index) +
+                            " has no values, so it cannot be written.");
+    }
+    if (!out.Flush())
+        return SetError(KeshObjectsErrorText());
+    return !m_byIndex.empty();
+}
+
+bool clsTxtParser::SaveJobs(std::int32_t FileHandle) {
+    RecordWriter out(FileHandle);
+    out << std::to_string(m_version) << ";" << LineEnd;
+    for (const auto& record : m_byIndex) {
+        WriteValues(out, *record, record->size() - 1);
+        out << record->ObjectName() << LineEnd;
+    }
+    return out.Flush() || SetError(KeshObjectsErrorText());
+}
+
+// --- Finding
+
+RecordPtr clsTxtParser::FindKey(std::string_view Key) const {
+    if (Key.empty() || lornfd::foldCase(Key.front()) != 'k')
+        return {};
+    const auto id = keshobjects::readInteger(Key.substr(1));
+    const RecordPtr found = id ? Find(*id) : RecordPtr();
+    return found && Key.substr(1) == std::string_view(found->key()).substr(1) ? found : RecordPtr();
+}
+
+RecordPtr clsTxtParser::Find(std::int32_t ID) const {
+    if (m_byId.empty())
+        for (const auto& record : m_byIndex)
+            SetById(record.get());
+    if (ID < 0 || ID >= std::ssize(m_byId) || m_byId[static_cast<std::size_t>(ID)] == nullptr)
+        return {};
+    return FindIndex(m_byId[static_cast<std::size_t>(ID)]->Index);
+}
+
+void clsTxtParser::SetById(clsTXTObject* record) const {
+    const auto id = static_cast<std::size_t>(record->ID);
+    if (id >= m_byId.size())
+        m_byId.resize(id + 1);
+    m_byId[id] = record;
+}
+
+RecordPtr clsTxtParser::FindID(std::string_view Name) const {
+    const auto found =
+        std::find_if(m_byIndex.begin(), m_byIndex.end(),
+                     [&](const RecordPtr& record) { return record->ObjectName() == Name; });
+    return found == m_byIndex.end() ? RecordPtr() : *found;
+}
+
+RecordPtr clsTxtParser::FindIndex(std::int32_t Index) const {
+    return Index >= 0 && Index < std::ssize(m_byIndex) ? m_byIndex[static_cast<std::size_t>(Index)]
+                                                       : RecordPtr();
+}
+
+const std::vector<clsTXTObject*>& clsTxtParser::ByName() const {
+    if (m_byName.empty()) {
+        m_byName.reserve(m_byIndex.size());
+        for (const auto& record : m_byIndex)
+            m_byName.push_back(record.get());
+        std::stable_sort(m_byName.begin(), m_byName.end(), NameBefore);
+    }
+    return m_byName;
+}
+
+bool clsTxtParser::CheckDirty() const {
+    return m_dirty || std::any_of(m_byIndex.begin(), m_byIndex.end(),
+                                  [](const auto& record) { return record->Dirty; });
+}
+
+// --- Changing
+
+bool clsTxtParser::RemoveObject(const RecordPtr& Record) {
+    if (!Record || Find(Record->ID) != Record)
+        return false;
+    const auto position = PositionOf(Record);
+    std::erase(m_byName, Record.get());
+    m_byId[static_cast<std::size_t>(Record->ID)] = nullptr;
+    const RecordPtr kept = Record; // the argument may be the element that goes
+    m_byIndex.erase(m_byIndex.begin() + static_cast<std::ptrdiff_t>(position));
+    Renumber(position);
+    m_dirty = true;
+    return true;
+}
+
+RecordPtr clsTxtParser::CreateObject(const RecordPtr& After) {
+    return AddNew(After ? PositionOf(After) + 1 : m_byIndex.size());
+}
+
+RecordPtr clsTxtParser::CreateObjectBefore(const RecordPtr& Before) {
+    return AddNew(Before ? PositionOf(Before) : m_byIndex.size());
+}
+
+RecordPtr clsTxtParser::AddNew(std::size_t Position) {
+    auto record = std::make_shared<clsTXTObject>();
+    record->ID = ++m_nextID;
+    record->otype = m_otype;
+    InsertAt(Position, record);
+    m_dirty = true;
+    return record;
+}
+
+void clsTxtParser::AddObjectP(RecordPtr Record, const RecordPtr& After) {
+    InsertAt(After ? PositionOf(After) + 1 : m_byIndex.size(), std::move(Record));
+}
+
+void clsTxtParser::RestoreObject(RecordPtr Record, std::int32_t Index) {
+    InsertAt(static_cast<std::size_t>(std::clamp<std::int64_t>(Index, 0, std::ssize(m_byIndex))),
+             std::move(Record));
+    m_dirty = true;
+}
+
+void clsTxtParser::InsertAt(std::size_t Position, RecordPtr Record) {
+    if (!m_byName.empty())
+        m_byName.insert(
+            std::upper_bound(m_byName.begin(), m_byName.end(), Record.get(), NameBefore),
+            Record.get());
+    if (!m_byId.empty())
+        SetById(Record.get());
+    m_byIndex.insert(m_byIndex.begin() + static_cast<std::ptrdiff_t>(Position), std::move(Record));
+    Renumber(Position);
+}
+
+void clsTxtParser::Renumber(std::size_t From) {
+    for (std::size_t i = From; i < m_byIndex.size(); ++i)
+        m_byIndex[i]->Index = static_cast<std::int32_t>(i);
+}
+
+std::size_t clsTxtParser::PositionOf(const RecordPtr& Record) const {
+    return static_cast<std::size_t>(Record->Index);
+}

@@ -1,0 +1,121 @@
+#include "tdata/clsValueArray.h"
+
+clsValueArray::clsValueArray(std::shared_ptr<const clsLoadedText> text, std::uint32_t first,
+                             std::uint32_t size, ValueForm form, bool written)
+    : m_text(std::move(text)), m_first(first), m_size(size), m_form(form), m_written(written) {}
+
+clsValueArray::clsValueArray(std::uint32_t size)
+    : m_cells(std::make_shared<std::vector<Cell>>(size, Own{"0", false})), m_size(size) {}
+
+bool clsValueArray::IsTextPlace(std::uint32_t index) const noexcept {
+    switch (m_form) {
+    case ValueForm::AsShown:
+        return false;
+    case ValueForm::AllText:
+        return true;
+    case ValueForm::LastText:
+    case ValueForm::LastRaw:
+        break;
+    }
+    return index + 1 == m_size;
+}
+
+std::string_view clsValueArray::PlaceSpelling(std::uint32_t index) const {
+    const auto text = m_text->Text();
+    return m_form == ValueForm::LastRaw && IsTextPlace(index)
+               ? keshobjects::rawAt(text, PlaceAt(index))
+               : keshobjects::valueAt(text, PlaceAt(index));
+}
+
+bool clsValueArray::IsText(std::uint32_t index) const {
+    if (!m_cells)
+        return IsTextPlace(index);
+    const auto* own = std::get_if<Own>(&(*m_cells)[index]);
+    return own != nullptr && own->text;
+}
+
+std::string_view clsValueArray::Spelling(std::uint32_t index) const {
+    if (!m_cells)
+        return PlaceSpelling(index);
+    const Cell& cell = (*m_cells)[index];
+    if (const auto* own = std::get_if<Own>(&cell))
+        return own->spelling;
+    if (const auto* place = std::get_if<KeshPlace>(&cell))
+        return keshobjects::valueAt(m_text->Text(), *place);
+    return {};
+}
+
+KeshValue clsValueArray::Get(std::uint32_t index) const {
+    if (m_cells && std::holds_alternative<std::monostate>((*m_cells)[index]))
+        return {};
+    const auto spelling = Spelling(index);
+    return IsText(index) ? KeshValue(std::string(spelling)) : keshobjects::readValue(spelling);
+}
+
+std::optional<double> clsValueArray::Number(std::uint32_t index) const {
+    if (IsText(index))
+        return {};
+    return m_cells ? keshobjects::readNumber(Spelling(index))
+                   : keshobjects::numberAt(m_text->Text(), PlaceAt(index));
+}
+
+std::vector<clsValueArray::Cell>& clsValueArray::OwnCells() {
+    if (!m_cells) {
+        auto cells = std::make_shared<std::vector<Cell>>();
+        cells->reserve(m_size);
+        for (std::uint32_t i = 0; i < m_size; ++i)
+            cells->push_back(IsTextPlace(i) ? Cell(Own{std::string(PlaceSpelling(i)), true})
+                                            : Cell(PlaceAt(i)));
+        m_cells = std::move(cells);
+        m_form = ValueForm::AsShown;
+        m_written = false;
+    } else if (m_cells.use_count() > 1) {
+        m_cells = std::make_shared<std::vector<Cell>>(*m_cells);
+    }
+    return *m_cells;
+}
+
+void clsValueArray::Set(std::uint32_t index, const KeshValue& value) {
+    Cell& cell = OwnCells()[index];
+    if (std::holds_alternative<std::monostate>(value))
+        cell = std::monostate();
+    else
+        cell = Own{keshobjects::spellValue(value), std::holds_alternative<std::string>(value)};
+}
+
+void clsValueArray::SetSpelling(std::uint32_t index, std::string spelling) {
+    OwnCells()[index] = Own{std::move(spelling), false};
+}
+
+void clsValueArray::Insert(std::uint32_t index, std::uint32_t count) {
+    auto& cells = OwnCells();
+    cells.insert(cells.begin() + index, count, std::monostate());
+    m_size += count;
+}
+
+void clsValueArray::Remove(std::uint32_t index, std::uint32_t count) {
+    auto& cells = OwnCells();
+    cells.erase(cells.begin() + index, cells.begin() + index + count);
+    m_size -= count;
+}
+
+std::optional<std::string_view> clsValueArray::Written() const {
+    if (!m_written || m_cells || m_size == 0)
+        return {};
+    const auto text = m_text->Text();
+    const std::size_t first = PlaceAt(0);
+    const std::size_t last = PlaceAt(m_size - 1) + PlaceSpelling(m_size - 1).size();
+    // A last value that ends with the text has no ";" to copy.
+    if (m_form == ValueForm::LastRaw || last >= text.size() || text[last] != ';')
+        return {};
+    return text.substr(first, last + 1 - first);
+}
+
+bool clsValueArray::SameAs(const clsValueArray& other) const {
+    if (m_size != other.m_size)
+        return false;
+    for (std::uint32_t i = 0; i < m_size; ++i)
+        if (IsText(i) != other.IsText(i) || Spelling(i) != other.Spelling(i))
+            return false;
+    return true;
+}

@@ -1,0 +1,376 @@
+#include "tdata/mdlTxtLoaders.h"
+
+#include "core/KeshError.h"
+#include "core/mdlCommon.h"
+#include "tdata/mdlKeshConst.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <limits>
+
+namespace tdata {
+namespace {
+
+// Records come in one block: hundreds of thousands of single allocations would cost more than the
+// parsing.
+using RecordBlock = std::vector<clsTXTObject>;
+
+class Loader {
+public:
+    Loader(std::shared_ptr<clsLoadedText> text, std::int32_t type)
+        : m_text(std::move(text)), m_handle(m_text->Handle()), m_type(type) {}
+
+    LoadResult Run();
+
+private:
+    using Routine = bool (Loader::*)();
+
+    bool LoadRecords();
+    bool LoadJobs();
+    bool LoadJobWings();
+    bool LoadWareLists();
+    bool LoadIconData();
+    bool ReadFixed();
+    bool ReadShip();
+    void ReadWing();
+    void ReadIcon();
+    [[nodiscard]] std::int32_t FixedSize();
+
+    [[nodiscard]] bool IsEOF() const { return Kesh_TXTGetTokenType(m_handle) == KESH_TOKEN_END; }
+    [[nodiscard]] std::int32_t ReadWhole() const;
+    [[nodiscard]] KeshPlace ReadPlace();
+    [[nodiscard]] KeshPlace ReadWholePlace();
+    [[nodiscard]] KeshPlace ReadRawPlace() const;
+    [[nodiscard]] std::string ReadNumber(bool& more) const;
+    void ReadPlaces(std::int64_t count);
+    [[nodiscard]] std::int32_t CountAt(std::int64_t indexInRecord) const;
+    [[nodiscard]] std::string_view SpellingOf(KeshPlace place) const {
+        return keshobjects::valueAt(m_text->Text(), place);
+    }
+
+    void Reserve(std::int64_t records, std::int64_t valuesEach);
+    void BeginRecord();
+    void AddRecord(ValueForm form);
+    clsTXTObject& AddRecord(std::int32_t id, clsValueArray values);
+    bool Fail(std::string text);
+
+    std::shared_ptr<clsLoadedText> m_text;
+    std::int32_t m_handle;
+    std::int32_t m_type;
+    std::int32_t m_nextID = 0;
+    std::shared_ptr<RecordBlock> m_block = std::make_shared<RecordBlock>();
+    std::size_t m_first = 0; ///< in Places, of the record being read
+    bool m_written = true;   ///< it stands in written form so far
+    LoadResult m_result;
+};
+
+[[noreturn]] void Throw(std::uint32_t number, const std::string& text) {
+    throw KeshError(number, "clsTxtParser", text);
+}
+
+LoadResult Loader::Run() {
+    static constexpr std::pair<std::int32_t, Routine> own[]{
+        {otype::Jobs, &Loader::LoadJobs},
+        {otype::JobWings, &Loader::LoadJobWings},
+        {otype::WareLists, &Loader::LoadWareLists},
+        {otype::IconData, &Loader::LoadIconData}};
+    const auto* found = std::find_if(std::begin(own), std::end(own),
+                                     [this](const auto& row) { return row.first == m_type; });
+    try {
+        m_result.ok =
+            std::invoke(found == std::end(own) ? &Loader::LoadRecords : found->second, *this);
+    } catch (const std::exception& failure) {
+        Fail((found == std::end(own) ? "Error loading T file:\r\n" : "") +
+             std::string(failure.what()));
+    }
+    m_result.lastID = m_nextID;
+    return std::move(m_result);
+}
+
+bool Loader::Fail(std::string text) {
+    m_result.ok = false;
+    m_result.error = std::move(text);
+    return false;
+}
+
+// --- The common layout
+
+bool Loader::LoadRecords() {
+    m_result.version = ReadWhole();
+    const std::int32_t count = ReadWhole();
+    const bool ships = m_type == otype::Ships;
+    Reserve(count, ships ? ObjectSize(otype::Ships) : std::max(1, ObjectSize(m_type)));
+    for (std::int32_t i = 0; i < count; ++i)
+        if (!(ships ? ReadShip() : ReadFixed()))
+            return false;
+    return count > 0;
+}
+
+std::int32_t Loader::FixedSize() {
+    struct Oldest {
+        std::int32_t type;
+        std::int32_t version;
+    };
+    static constexpr Oldest refused[]{{otype::Bullets, 53}, {otype::Missiles, 48}};
+    for (const auto& rule : refused)
+        if (m_type == rule.type && m_result.version < rule.version) {
+            Fail("This is old version of the file (ver. " + std::to_string(m_result.version) +
+                 ").\r\n\r\nIt is not supported by this version of " + ProgramTitle() + ".");
+            return -1;
+        }
+    constexpr std::int32_t oldNebulaVersion = 13;
+    constexpr std::int32_t oldNebulaSize = 27;
+    if (m_type == otype::Nebula && m_result.version <= oldNebulaVersion)
+        return oldNebulaSize;
+    return ObjectSize(m_type);
+}
+
+bool Loader::ReadFixed() {
+    const std::int32_t size = FixedSize();
+    if (size < 0)
+        return false;
+    if (size == 0)
+        return Fail("Unknown size of entries in file. Cannot load.");
+    BeginRecord();
+    ReadPlaces(size);
+    AddRecord(ValueForm::AsShown);
+    return true;
+}
+
+// A ship's record grows while it is read: each count in it tells how much comes next.
+bool Loader::ReadShip() {
+    constexpr std::int64_t head = 55;
+    constexpr std::int64_t tail = 10;
+    try {
+        BeginRecord();
+        ReadPlaces(head);
+        const std::int64_t turrets = std::max(0, CountAt(head - 2));
+        ReadPlaces(4 * turrets);
+        const std::int32_t groups = CountAt(head - 1 + 4 * turrets);
+        std::int64_t at = head + 4 * turrets;
+        for (std::int32_t i = 0; i < groups; ++i) {
+            ReadPlaces(4);
+            const std::int64_t guns = std::max(0, CountAt(at + 3));
+            ReadPlaces(6 * guns);
+            at += 4 + 6 * guns;
+        }
+        ReadPlaces(tail);
+        AddRecord(ValueForm::AsShown);
+        return true;
+    } catch (const std::exception& failure) {
+        return Fail("Error loading ship:\r\n" + std::string(failure.what()));
+    }
+}
+
+std::int32_t Loader::CountAt(std::int64_t indexInRecord) const {
+    const auto place = m_text->Places[m_first + static_cast<std::size_t>(indexInRecord)];
+    const auto number = keshobjects::numberAt(m_text->Text(), place);
+    const double rounded = std::nearbyint(number.value_or(std::numeric_limits<double>::infinity()));
+    if (std::abs(rounded) > std::numeric_limits<std::int32_t>::max())
+        Throw(errnum::Loader, "Expected a count, not \"" +
+                                  std::string(SpellingOf(place).substr(0, 40)) + "\" in " +
+                                  Kesh_TXTDescribePlace(m_handle, place) + ".");
+    return static_cast<std::int32_t>(rounded);
+}
+
+// --- Layouts of their own
+
+bool Loader::LoadJobs() {
+    struct Layout {
+        std::int32_t version;
+        std::int32_t fields;
+    };
+    static constexpr Layout layouts[]{{8, 117}, {9, 119}, {10, 120}};
+    m_result.version = ReadWhole();
+    const auto* layout =
+        std::find_if(std::begin(layouts), std::end(layouts),
+                     [this](const Layout& row) { return row.version == m_result.version; });
+    if (layout == std::end(layouts))
+        return Fail("Unsupported version: " + std::to_string(m_result.version));
+    while (!IsEOF()) {
+        BeginRecord();
+        ReadPlaces(layout->fields - 1);
+        m_text->Places.push_back(ReadRawPlace());
+        AddRecord(ValueForm::LastRaw);
+    }
+    return true;
+}
+
+bool Loader::LoadJobWings() {
+    while (!IsEOF())
+        ReadWing();
+    return true;
+}
+
+void Loader::ReadWing() {
+    std::vector<std::string> spellings{std::string(SpellingOf(ReadWholePlace()))};
+    for (bool more = true; more;)
+        spellings.push_back(ReadNumber(more));
+    clsValueArray values(static_cast<std::uint32_t>(spellings.size()));
+    for (std::uint32_t i = 0; i < values.Size(); ++i)
+        values.SetSpelling(i, std::move(spellings[i]));
+    AddRecord(++m_nextID, std::move(values));
+}
+
+bool Loader::LoadWareLists() {
+    const std::int32_t count = ReadWhole();
+    for (std::int32_t i = 0; i < count; ++i) {
+        const std::int32_t wares = ReadWhole();
+        BeginRecord();
+        ReadPlaces(wares);
+        AddRecord(ValueForm::AllText);
+    }
+    return true;
+}
+
+bool Loader::LoadIconData() {
+    if (IsEOF())
+        return Fail("File is empty");
+    clsTXTObject& root = AddRecord(++m_nextID, clsValueArray());
+    std::vector<KeshPlace> headers;
+    do {
+        for (int texts = 0; texts < 2; ++texts)
+            headers.push_back(ReadPlace());
+        for (int numbers = 0; numbers < 3; ++numbers)
+            headers.push_back(ReadWholePlace());
+        const std::int32_t entries = *keshobjects::integerAt(m_text->Text(), headers.back());
+        for (std::int32_t i = 0; i < entries; ++i)
+            ReadIcon();
+    } while (!IsEOF());
+    clsValueArray values(static_cast<std::uint32_t>(headers.size()));
+    for (std::uint32_t i = 0; i < values.Size(); ++i)
+        if (i % 5 < 2)
+            values.Set(i, std::string(SpellingOf(headers[i])));
+        else
+            values.SetSpelling(i, std::string(SpellingOf(headers[i])));
+    root.LoadValues(std::move(values));
+    return true;
+}
+
+void Loader::ReadIcon() {
+    const KeshPlace name = ReadPlace();
+    static_cast<void>(ReadPlace()); // the game's own number of the entry; nothing reads it
+    BeginRecord();
+    m_written = false; // the name stands in front of its numbers
+    for (int i = 0; i < 4; ++i)
+        m_text->Places.push_back(ReadWholePlace());
+    m_text->Places.push_back(name);
+    AddRecord(ValueForm::LastText);
+}
+
+// --- Reading
+
+std::int32_t Loader::ReadWhole() const {
+    KeshValue value;
+    if (Kesh_TXTLoadValue(m_handle, KESH_VALUE_WHOLE, value) == 0)
+        Throw(errnum::ReadValue, KeshObjectsErrorText());
+    return std::get<std::int32_t>(value);
+}
+
+KeshPlace Loader::ReadPlace() {
+    KeshPlace place = 0;
+    if (Kesh_TXTLoadPlaces(m_handle, 1, &place, m_written) != 1)
+        Throw(errnum::ReadValue, KeshObjectsErrorText());
+    return place;
+}
+
+KeshPlace Loader::ReadWholePlace() {
+    const KeshPlace place = ReadPlace();
+    if (!keshobjects::integerAt(m_text->Text(), place))
+        Throw(errnum::ReadValue, "Expected a whole number, not \"" +
+                                     std::string(SpellingOf(place).substr(0, 40)) + "\" in " +
+                                     Kesh_TXTDescribePlace(m_handle, place) + ".");
+    return place;
+}
+
+KeshPlace Loader::ReadRawPlace() const {
+    KeshPlace place = 0;
+    if (Kesh_TXTGetRawPlace(m_handle, place) == 0)
+        Throw(errnum::Loader, "Attempt to read at EOF");
+    static_cast<void>(Kesh_TXTAdvance(m_handle, 1));
+    return place;
+}
+
+std::string Loader::ReadNumber(bool& more) const {
+    KeshValue token;
+    const bool plain = Kesh_TXTGetTokenType(m_handle) == KESH_TOKEN_VALUE;
+    static_cast<void>(Kesh_TXTGetTokenValue(m_handle, token));
+    std::string spelling = keshobjects::spellValue(token);
+    if (!plain)
+        Throw(errnum::Loader, "Unexpected here: " + spelling);
+    if (!keshobjects::readInteger(spelling))
+        Throw(errnum::Loader, "Expected number, not " + spelling);
+    static_cast<void>(Kesh_TXTAdvance(m_handle, 1));
+    more = Kesh_TXTGetTokenType(m_handle) == KESH_TOKEN_LIST_SEPARATOR;
+    if (more)
+        static_cast<void>(Kesh_TXTAdvance(m_handle, 1));
+    return spelling;
+}
+
+void Loader::ReadPlaces(std::int64_t count) {
+    if (count <= 0)
+        return;
+    auto& places = m_text->Places;
+    const std::size_t before = places.size();
+    // Each value takes at least its ";", so a count that the file merely claims asks for no more
+    // than that.
+    const auto most = static_cast<std::int64_t>(m_text->Text().size()) + 1;
+    places.resize(before + static_cast<std::size_t>(std::min(count, most)));
+    const auto read =
+        Kesh_TXTLoadPlaces(m_handle, std::min(count, most), places.data() + before, m_written);
+    if (read != count)
+        Throw(errnum::ReadValue, KeshObjectsErrorText());
+    if (places.size() - m_first >
+        static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()))
+        Throw(errnum::Loader, "A record has more values than fit.");
+}
+
+// --- Records
+
+void Loader::Reserve(std::int64_t records, std::int64_t valuesEach) {
+    const auto most = static_cast<std::int64_t>(m_text->Text().size()) / valuesEach + 1;
+    const auto bound = static_cast<std::size_t>(std::clamp<std::int64_t>(records, 0, most));
+    m_block->reserve(bound);
+    m_result.records.reserve(bound);
+    m_text->Places.reserve(bound * static_cast<std::size_t>(valuesEach));
+}
+
+void Loader::BeginRecord() {
+    m_first = m_text->Places.size();
+    m_written = true;
+}
+
+void Loader::AddRecord(ValueForm form) {
+    const auto size = static_cast<std::uint32_t>(m_text->Places.size() - m_first);
+    // Ships and jobs count ware lists from 0, everything else counts from 1.
+    const std::int32_t id = m_type == otype::WareLists ? m_nextID : m_nextID + 1;
+    ++m_nextID;
+    AddRecord(id,
+              clsValueArray(m_text, static_cast<std::uint32_t>(m_first), size, form, m_written));
+}
+
+clsTXTObject& Loader::AddRecord(std::int32_t id, clsValueArray values) {
+    if (m_block->size() == m_block->capacity()) {
+        // Records that are handed out never move: a full block stays as it is, the next one is
+        // larger.
+        const std::size_t next = std::clamp<std::size_t>(m_result.records.size(), 16, 4096);
+        m_block = std::make_shared<RecordBlock>();
+        m_block->reserve(next);
+    }
+    clsTXTObject& record = m_block->emplace_back();
+    record.LoadValues(std::move(values));
+    record.ID = id;
+    record.otype = m_type;
+    record.Index = static_cast<std::int32_t>(m_result.records.size());
+    m_result.records.emplace_back(m_block, &record);
+    return record;
+}
+
+} // namespace
+
+LoadResult LoadTxtRecords(const std::shared_ptr<clsLoadedText>& text, std::int32_t type) {
+    return Loader(text, type).Run();
+}
+
+} // namespace tdata

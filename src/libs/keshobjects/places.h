@@ -3,6 +3,7 @@
 
 #include "keshobjects/keshobjects.h"
 
+#include <optional>
 #include <string_view>
 
 namespace keshobjects {
@@ -11,6 +12,8 @@ constexpr bool isBlank(char c) noexcept {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
+/// `text` without the blanks and line breaks at its end.
+std::string_view trimEnd(std::string_view text) noexcept;
 /// The spelling of the value at a place.
 std::string_view valueAt(std::string_view text, KeshPlace place) noexcept;
 /// The raw rest of line at a place.

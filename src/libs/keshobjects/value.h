@@ -1,7 +1,8 @@
-// A value of a T file: a whole number, a real number, text, or nothing yet; its grammar and spelling.
+// A value of a T file: a whole number, a real number, text, or nothing yet; its grammar and
+// spelling.
 //
-// A number is an optional sign, digits with at most one point and at least one digit, and an optional
-// exponent. "nan", "inf", hexadecimal and what leaves the range of a double are text.
+// A number is an optional sign, digits with at most one point and at least one digit, and an
+// optional exponent. "nan", "inf", hexadecimal and what leaves the range of a double are text.
 #pragma once
 
 #include <cstdint>
@@ -21,8 +22,8 @@ std::optional<std::int32_t> readInteger(std::string_view text) noexcept;
 /// What a spelling means: integer, real or text.
 KeshValue readValue(std::string_view text);
 
-/// The shortest spelling that reads back the same, without exponent from 1e-15 to 1e15, a whole number
-/// without a point.
+/// The shortest spelling that reads back the same, without exponent from 1e-15 to 1e15, a whole
+/// number without a point.
 std::string spellNumber(double number);
 /// The spelling of any value; nothing gives the empty text.
 std::string spellValue(const KeshValue& value);

@@ -8,10 +8,10 @@
 namespace errnum {
 inline constexpr std::uint32_t General = 0x80040064;
 inline constexpr std::uint32_t Forbidden = 0x80040065;
-inline constexpr std::uint32_t Loader = 0x80040001;     ///< a loader's own complaint
-inline constexpr std::uint32_t ReadValue = 0x8004000A;  ///< a value could not be read
-inline constexpr std::uint32_t Bounds = 9;              ///< an index outside its array
-inline constexpr std::uint32_t Cancelled = 32755;       ///< a cancelled file dialog; swallowed
+inline constexpr std::uint32_t Loader = 0x80040001;    ///< a loader's own complaint
+inline constexpr std::uint32_t ReadValue = 0x8004000A; ///< a value could not be read
+inline constexpr std::uint32_t Bounds = 9;             ///< an index outside its array
+inline constexpr std::uint32_t Cancelled = 32755;      ///< a cancelled file dialog; swallowed
 } // namespace errnum
 
 class KeshError : public std::runtime_error {
@@ -20,7 +20,9 @@ public:
         : std::runtime_error(text), m_number(number), m_source(std::move(source)) {}
 
     [[nodiscard]] std::uint32_t Number() const noexcept { return m_number; }
-    [[nodiscard]] const std::string& Source() const noexcept { return m_source; } ///< class or routine
+    [[nodiscard]] const std::string& Source() const noexcept {
+        return m_source;
+    } ///< class or routine
 
 private:
     std::uint32_t m_number;

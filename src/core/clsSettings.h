@@ -2,7 +2,8 @@
 //
 // The store is four INI files in one directory (KESH_CONFIG_DIR, else the platform's own):
 // user.ini, machine.ini, game.ini, outfitter.ini. Nothing is cached: each access reads the store.
-// No access reports failure: what is missing or broken gives its default.
+// No access reports failure: what is missing or broken gives its default. Every path that is given
+// here is in the program's form ("\").
 #pragma once
 
 #include <cstdint>
@@ -17,7 +18,7 @@ public:
     clsSettings();
     ~clsSettings(); ///< DeleteTemp
 
-    // The settings. Paths are in the program's form ("\"). An empty string deletes the value.
+    // The settings. An empty string deletes the value.
     [[nodiscard]] std::string DataRoot() const; ///< the game's directory
     void SetDataRoot(const std::string& Value);
     [[nodiscard]] std::string KeshEXEPath() const; ///< DataRoot + "\kesh.exe" if unset
@@ -50,12 +51,12 @@ public:
     [[nodiscard]] std::string ActiveModFullName() const; ///< below DataRoot\mods
     [[nodiscard]] std::string KeshMMFullPath() const;    ///< the mod tool; empty if there is none
     [[nodiscard]] std::string HelpPath() const;
-    [[nodiscard]] std::string
-    TraceFilePath() const; ///< log.txt beside the program, else the state directory
+    /// log.txt beside the program, in the state directory if it can't be written there.
+    [[nodiscard]] std::string TraceFilePath() const;
     [[nodiscard]] std::string TempDirectory() const; ///< empty before InitEnviroment
     [[nodiscard]] std::string ConfigDirectory() const;
-    [[nodiscard]] std::string
-    StateDirectory() const; ///< KESH_STATE_DIR, else the platform's own; made if missing
+    /// KESH_STATE_DIR, else the platform's own; made if missing.
+    [[nodiscard]] std::string StateDirectory() const;
 
     /// A value of the user root; the key is empty for the root itself, a group otherwise ("TE",
     /// "main\icons").
@@ -87,8 +88,8 @@ public:
     /// Writes "date time - Text"; with AutoOpen opens first and closes after. False if no file is
     /// open.
     bool Trace(std::string_view Text, bool AutoOpen);
-    std::int32_t
-    OpenTraceFile(); ///< opens for appending, counts the use; the file number, 0 on failure
+    /// Opens for appending, counts the use; the file number, 0 on failure.
+    std::int32_t OpenTraceFile();
     std::int32_t CloseTraceFile();             ///< gives the use count that is left
     bool ClearTraceFile(std::int64_t MaxSize); ///< deletes a log longer than MaxSize bytes
     bool ReopenTraceFile(); ///< force-closes, clears read-only, reopens with the former use count

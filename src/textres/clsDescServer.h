@@ -1,5 +1,5 @@
-// The service that names every object: finds a language's files in the view and answers texts by page and
-// id. The store of texts is empty as yet, so every lookup falls back to its default.
+// The service that names every object: finds a language's files in the view and answers texts by
+// page and id. The store of texts is empty as yet, so every lookup falls back to its default.
 #pragma once
 
 #include <cstdint>
@@ -22,13 +22,14 @@ public:
                                               const std::optional<std::string>& Default = {}) const;
     void Unload();
 
-    /// Real places of a language's files, sorted by file name (case-sensitive), equal names as found. Sets
-    /// the last error if there is none.
-    std::vector<std::string> FindFiles(std::int32_t Lang);
+    /// Real places of a language's files, sorted by file name (case-sensitive), equal names as
+    /// found. The newer names are "t\*-L044", the older ones "t\44" and digits. Sets the last error
+    /// if there is none.
+    std::vector<std::string> FindFiles(std::int32_t Lang, bool NewerNames);
 
 private:
     std::string m_lastError;
-    std::int32_t m_currentLanguage = 0;
+    std::int32_t m_currentLanguage = 0; ///< last one that had files
 };
 
 /// Made by Main, lives until the process ends.

@@ -26,6 +26,13 @@ bool hasExtension(std::string_view name) {
     return name.find('.') != std::string_view::npos;
 }
 
+std::uint32_t hashOf(bool directory, std::string_view name) {
+    std::uint64_t hash = 0xcbf29ce484222325U ^ (directory ? 1U : 0U);
+    for (const char c : name)
+        hash = (hash ^ static_cast<unsigned char>(foldName(c))) * 0x100000001b3U;
+    return static_cast<std::uint32_t>(hash ^ hash >> 32U);
+}
+
 } // namespace
 
 bool Filters::shows(std::string_view path) const noexcept {
@@ -37,18 +44,6 @@ bool Filters::showsBelow(std::string_view path) const noexcept {
     return m_masks.empty() || std::ranges::any_of(m_masks, [&](const auto& mask) {
                return canMatchBelow(path, mask);
            });
-}
-
-bool View::Key::operator==(const Key& other) const noexcept {
-    return parent == other.parent && directory == other.directory && sameName(name, other.name);
-}
-
-std::size_t View::KeyHash::operator()(const Key& key) const noexcept {
-    std::uint64_t hash =
-        0xcbf29ce484222325U ^ (std::uint64_t{key.parent} << 1U | (key.directory ? 1U : 0U));
-    for (const char c : key.name)
-        hash = (hash ^ static_cast<unsigned char>(foldName(c))) * 0x100000001b3U;
-    return static_cast<std::size_t>(hash ^ hash >> 32U);
 }
 
 View::View() : m_directories(1) {}
@@ -72,18 +67,23 @@ bool View::wins(const Entry& a, const Entry& b) const {
 }
 
 Id View::addEntry(Id parent, const Entry& entry) {
-    const Key key{parent, entry.isDirectory(), entry.name()};
-    const auto [at, isNew] = m_index.try_emplace(key, static_cast<Id>(m_entries.size()));
-    if (isNew) {
-        m_entries.push_back(entry);
-        m_directories[parent].children.push_back(at->second);
-        m_directories[parent].sorted = false;
-    } else if (Entry& former = m_entries[at->second]; wins(entry, former)) {
-        const Id directory = former.directory;
-        former = entry;
-        former.directory = directory;
+    const std::uint32_t hash = hashOf(entry.isDirectory(), entry.name());
+    const Id known = find(hash, parent, entry.isDirectory(), entry.name());
+    if (known != NoId) {
+        if (Entry& former = m_entries[known]; wins(entry, former)) {
+            const Id directory = former.directory;
+            former = entry;
+            former.directory = directory;
+        }
+        return known;
     }
-    return at->second;
+    const auto id = static_cast<Id>(m_entries.size());
+    m_entries.push_back(entry);
+    Directory& directory = m_directories[parent];
+    directory.index.insert(hash, id);
+    directory.children.push_back(id);
+    directory.sorted = false;
+    return id;
 }
 
 void View::addFile(Id parent, Entry entry) {
@@ -127,9 +127,15 @@ Id View::directoryOf(std::string_view path, Id source) {
     return directory;
 }
 
+Id View::find(std::uint32_t hash, Id parent, bool directory, std::string_view name) const {
+    return m_directories[parent].index.find(hash, [&](Id id) {
+        const Entry& entry = m_entries[id];
+        return entry.isDirectory() == directory && sameName(entry.name(), name);
+    });
+}
+
 Id View::find(Id parent, bool directory, std::string_view name) const {
-    const auto at = m_index.find(Key{parent, directory, name});
-    return at == m_index.end() ? NoId : at->second;
+    return find(hashOf(directory, name), parent, directory, name);
 }
 
 std::vector<Id> View::search(std::string_view mask, bool listing) const {

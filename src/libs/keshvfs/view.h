@@ -2,20 +2,18 @@
 // it.
 #pragma once
 
+#include "keshvfs/entryindex.h"
 #include "lornfd/catalog.h"
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <memory_resource>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace keshvfs {
-
-using Id = std::uint32_t;
-inline constexpr Id NoId = static_cast<Id>(-1);
 
 /// Masks of what a view shows; none lets everything through.
 class Filters {
@@ -42,7 +40,7 @@ struct Entry {
     std::string_view path;   ///< below its source, as spelled there
     std::uint32_t nameStart; ///< where the last part begins in `path`
     Id source;
-    Id directory = NoId;
+    Id directory = NoId; ///< its number as a directory
 
     [[nodiscard]] std::string_view name() const noexcept { return path.substr(nameStart); }
     [[nodiscard]] bool isDirectory() const noexcept { return directory != NoId; }
@@ -77,31 +75,24 @@ public:
 private:
     struct Directory {
         std::vector<Id> children;
+        EntryIndex index;
         bool sorted = true;
-    };
-    struct Key {
-        Id parent;
-        bool directory;
-        std::string_view name;
-        bool operator==(const Key& other) const noexcept;
-    };
-    struct KeyHash {
-        std::size_t operator()(const Key& key) const noexcept;
     };
 
     Id addEntry(Id parent, const Entry& entry);
     [[nodiscard]] bool wins(const Entry& a, const Entry& b) const;
     [[nodiscard]] Id directoryOf(std::string_view path, Id source);
     [[nodiscard]] Id find(Id parent, bool directory, std::string_view name) const;
+    [[nodiscard]] Id find(std::uint32_t hash, Id parent, bool directory,
+                          std::string_view name) const;
     [[nodiscard]] std::vector<Id> directoriesMatching(std::string_view path) const;
     void findName(Id directory, std::string_view name, std::vector<Id>& found) const;
     void findMask(Id directory, std::string_view mask, bool listing, std::vector<Id>& found) const;
     [[nodiscard]] const std::vector<Id>& sortedChildren(Id directory) const;
 
     std::vector<Source> m_sources;
-    std::vector<Entry> m_entries;
+    std::deque<Entry> m_entries;
     mutable std::vector<Directory> m_directories; ///< children are sorted when first searched
-    std::unordered_map<Key, Id, KeyHash> m_index;
     std::pmr::monotonic_buffer_resource m_names;
 };
 

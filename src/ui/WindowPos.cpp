@@ -1,0 +1,53 @@
+#include "ui/WindowPos.h"
+
+#include "core/clsSettings.h"
+
+namespace {
+
+constexpr int stateNormal = 0;
+constexpr int stateMaximised = 2;
+
+/// Keeps a window that was left on a screen which is gone within reach.
+QRect onScreen(QRect wanted) {
+    const QScreen* screen = QGuiApplication::screenAt(wanted.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const QRect area = screen->availableGeometry();
+    wanted.setSize(wanted.size().boundedTo(area.size()));
+    wanted.moveLeft(std::clamp(wanted.left(), area.left(), area.right() - wanted.width() + 1));
+    wanted.moveTop(std::clamp(wanted.top(), area.top(), area.bottom() - wanted.height() + 1));
+    return wanted;
+}
+
+} // namespace
+
+void SaveWindowPos(const QWidget& Window, std::string_view Key) {
+    const QRect outer = Window.frameGeometry();
+    Settings->SaveRegValue(Key, "state", Window.isMaximized() ? stateMaximised : stateNormal);
+    Settings->SaveRegValue(Key, "left", outer.left());
+    Settings->SaveRegValue(Key, "top", outer.top());
+    Settings->SaveRegValue(Key, "width", outer.width());
+    Settings->SaveRegValue(Key, "height", outer.height());
+}
+
+void LoadWindowPos(QWidget& Window, std::string_view Key, int DefaultWidth, int DefaultHeight) {
+    const auto read = [Key](std::string_view name, int fallback) {
+        return Settings->ReadRegLong(Key, name).value_or(fallback);
+    };
+    if (read("state", stateNormal) == stateMaximised) {
+        Window.resize(DefaultWidth, DefaultHeight);
+        Window.setWindowState(Qt::WindowMaximized);
+        return;
+    }
+    const QSize size(std::max(1, read("width", DefaultWidth)),
+                     std::max(1, read("height", DefaultHeight)));
+    if (!Settings->ReadRegLong(Key, "left")) {
+        Window.resize(size);
+        return;
+    }
+    const QPoint corner(std::max(0, read("left", 0)), std::max(0, read("top", 0)));
+    const QRect outer = onScreen(QRect(corner, size));
+    const QSize frame = Window.frameGeometry().size() - Window.geometry().size();
+    Window.resize(outer.size() - frame);
+    Window.move(outer.topLeft());
+}

@@ -2,26 +2,23 @@
 
 #include "lornfd/lornfd.h"
 
-#include <array>
-
 namespace keshobjects {
 namespace {
 
-constexpr std::array texts{
-    lornfd::ErrorText{KESH_OK, "No error."},
-    lornfd::ErrorText{KESH_E_READ, "Cannot read {file}: {reason}"},
-    lornfd::ErrorText{KESH_E_WRITE, "Cannot write {file}: {reason}"},
-    lornfd::ErrorText{KESH_E_END, "The text of {file} ends at {place} where a value is expected."},
-    lornfd::ErrorText{KESH_E_NOT_WHOLE,
-                      "{file}, {place}: \"{reason}\" is not a whole number of 32 bits."},
-    lornfd::ErrorText{KESH_E_REMARK, "{file}: the remark that begins at {place} never ends."},
-    lornfd::ErrorText{KESH_E_NUL, "{file}, {place}: a NUL character stands in the text."},
-    lornfd::ErrorText{KESH_E_TOO_BIG, "{file} is too big: texts of 4 GB or more cannot be loaded."},
-    lornfd::ErrorText{KESH_E_ENCODING, "{file}: the encoding \"{reason}\" is not known."},
-    lornfd::ErrorText{KESH_E_DECODE, "{file}, {place}: {reason}"},
-    lornfd::ErrorText{KESH_E_NOT_FOUND, "{file} is not in the game's files."},
-    lornfd::ErrorText{KESH_E_HANDLE, "Not the handle of a loaded text."},
-    lornfd::ErrorText{KESH_E_ARGUMENT, "Not allowed here: {reason}"},
+// The file driver's reasons are whole sentences that name the file.
+constexpr lornfd::ErrorText texts[] = {
+    {KESH_E_READ, "Reading failed: {reason}"},
+    {KESH_E_WRITE, "Writing failed: {reason}"},
+    {KESH_E_END, "\"{file}\" ends in {place} where a value is expected."},
+    {KESH_E_NOT_WHOLE, "\"{reason}\" in {place} of \"{file}\" is not a whole number of 32 bits."},
+    {KESH_E_REMARK, "The remark that begins in {place} of \"{file}\" never ends."},
+    {KESH_E_NUL, "A NUL character stands in {place} of \"{file}\"."},
+    {KESH_E_TOO_BIG, "\"{file}\" is too big: a text must be smaller than 4 GB."},
+    {KESH_E_ENCODING, "\"{file}\" is in the encoding \"{reason}\", which is not known."},
+    {KESH_E_DECODE, "\"{file}\" could not be converted: {reason} in {place}."},
+    {KESH_E_NOT_FOUND, "\"{file}\" was not found."},
+    {KESH_E_HANDLE, "{reason} is not the handle of a loaded text."},
+    {KESH_E_ARGUMENT, "Not allowed here: {reason}."},
 };
 
 } // namespace

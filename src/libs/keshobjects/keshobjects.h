@@ -67,9 +67,9 @@ std::int32_t Kesh_TXTAdvance(std::int32_t Text, std::int32_t Count);
 /// the loader blanks out remarks that stand inside or behind a value.
 using KeshPlace = std::uint32_t;
 /// Reads up to `Count` values as Kesh_TXTLoadValue does and stores their places. Gives the number
-/// read, fewer than `Count` only on failure. `Written` becomes false if a blank, line break or
-/// remark stood before or behind any but the first value read, so that the values are not one piece
-/// of written form.
+/// read, fewer than `Count` only on failure. Sets `Written` to false if the values are not one
+/// piece of written form: if a blank, line break or remark stands behind any of them or before any
+/// but the first of this call, or a ";" is missing.
 std::int64_t Kesh_TXTLoadPlaces(std::int32_t Text, std::int64_t Count, KeshPlace* Places,
                                 bool& Written);
 /// The place of the raw rest of line at the read position (jobs mode); it ends before the line

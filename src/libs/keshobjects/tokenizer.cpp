@@ -1,5 +1,6 @@
 #include "keshobjects/tokenizer.h"
 
+#include "keshobjects/lines.h"
 #include "keshobjects/places.h"
 #include "keshobjects/scan.h"
 
@@ -19,30 +20,18 @@ bool startsRemark(const char* at) noexcept {
     return at[0] == '/' && (at[1] == '/' || at[1] == '*');
 }
 
-/// Line breaks in a piece of text: LF, CR LF, or a CR alone.
-std::ptrdiff_t countLineBreaks(std::string_view text) noexcept {
-    std::ptrdiff_t count = std::count(text.begin(), text.end(), '\n');
-    for (std::size_t at = text.find('\r'); at != text.npos; at = text.find('\r', at + 1)) {
-        count += at + 1 == text.size() || text[at + 1] != '\n' ? 1 : 0;
-    }
-    return count;
-}
-
 } // namespace
 
 std::unique_ptr<Tokenizer> Tokenizer::create(std::size_t size, std::string name, bool remarks) {
-    // malloc, not new: the pages of a large text are to be touched only by what fills them.
-    auto* const memory = static_cast<char*>(std::malloc(size + textSlack));
-    if (memory == nullptr) {
+    auto made = std::make_unique<Tokenizer>();
+    made->m_begin.reset(static_cast<char*>(allocateBig(size + textSlack)));
+    if (made->m_begin == nullptr) {
         return nullptr;
     }
-    auto made = std::make_unique<Tokenizer>();
-    made->m_begin.reset(memory);
     made->m_size = size;
-    made->m_at = memory;
     made->m_name = std::move(name);
     made->m_remarks = remarks;
-    std::memset(memory + size, ';', textSlack);
+    std::memset(made->m_begin.get() + size, ';', textSlack);
     return made;
 }
 
@@ -65,7 +54,7 @@ std::size_t Tokenizer::offset(const char* at) const noexcept {
 }
 
 std::string Tokenizer::describe(std::size_t place) const {
-    return "line " + std::to_string(countLineBreaks(text().substr(0, place)) + 1);
+    return describeLine(text().substr(0, place));
 }
 
 std::nullptr_t Tokenizer::fail(KeshObjectsError code, const char* at) noexcept {
@@ -146,12 +135,11 @@ void Tokenizer::stepBack(KeshPlace place) noexcept {
 
 std::optional<KeshPlace> Tokenizer::value() {
     KeshPlace place;
-    bool written;
+    bool written = true;
     return values(1, &place, written) == 1 ? std::optional(place) : std::nullopt;
 }
 
 std::int64_t Tokenizer::values(std::int64_t count, KeshPlace* places, bool& written) {
-    written = true;
     std::int64_t i = 0;
     for (; i < count; ++i) {
         char* from = m_at;

@@ -1,10 +1,10 @@
 // One loaded text with a read position: cuts it into values, list tokens and raw rests of lines.
 #pragma once
 
+#include "keshobjects/bigmemory.h"
 #include "keshobjects/keshobjects.h"
 
 #include <cstddef>
-#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <string>
@@ -54,7 +54,7 @@ public:
 private:
     enum class Stop { AtEndSign, AtListSeparator };
     struct Free {
-        void operator()(char* memory) const noexcept { std::free(memory); }
+        void operator()(char* memory) const noexcept { freeBig(memory); }
     };
 
     [[nodiscard]] std::size_t markSize() const noexcept;

@@ -45,7 +45,7 @@ Tokenizer* textOf(std::int32_t handle) {
     const auto position = static_cast<std::uint32_t>(handle) - 1U;
     Tokenizer* const text = position < table.size() ? table[position].get() : nullptr;
     if (text == nullptr) {
-        lastError().set(KESH_E_HANDLE);
+        lastError().set(KESH_E_HANDLE, {{}, {}, std::to_string(handle)});
     }
     return text;
 }
@@ -73,7 +73,7 @@ Text makeText(std::uint64_t size, const std::string& name) {
     }
     Text text = Tokenizer::create(size, name, !ignoreRemarks);
     if (text == nullptr) {
-        lastError().set(KESH_E_READ, {name, {}, "not enough memory"});
+        lastError().set(KESH_E_READ, {{}, {}, "Not enough memory for \"" + name + "\"."});
     }
     return text;
 }
@@ -89,7 +89,7 @@ std::int32_t load(std::uint64_t size, const std::string& name, Read read) {
         char* const to = text->data() + done;
         const std::size_t piece = std::min<std::size_t>(size - done, loadPiece);
         if (!read(to, piece)) {
-            return lastError().set(KESH_E_READ, {name, {}, driverReason()});
+            return lastError().set(KESH_E_READ, {{}, {}, driverReason()});
         }
         if (const void* nul = std::memchr(to, 0, piece)) {
             return fail(KESH_E_NUL, *text,
@@ -118,7 +118,7 @@ std::int32_t Kesh_LoadFromFile(std::int32_t File, std::int32_t Kind) {
     const std::string name = LornFD_FileName(File);
     const std::int64_t size = LornFD_FileSize(File);
     if (size < 0) {
-        return lastError().set(KESH_E_READ, {name, {}, driverReason()});
+        return lastError().set(KESH_E_READ, {{}, {}, driverReason()});
     }
     return load(static_cast<std::uint64_t>(size), name, [File](char* to, std::size_t piece) {
         const auto count = static_cast<std::int64_t>(piece);
@@ -250,4 +250,16 @@ std::string_view Kesh_TXTGetText(std::int32_t Text) {
 std::string Kesh_TXTDescribePlace(std::int32_t Text, KeshPlace Place) {
     const Tokenizer* const text = textOf(Text);
     return text == nullptr ? std::string() : text->describe(Place) + " of " + text->name();
+}
+
+std::int32_t Kesh_TXTWriteFile(std::int32_t File, std::string_view Text) {
+    lastError().clear();
+    if (LornFD_WriteFile(File, Text.data(), static_cast<std::int64_t>(Text.size())) == 0) {
+        return lastError().set(KESH_E_WRITE, {{}, {}, driverReason()});
+    }
+    return 1;
+}
+
+std::int32_t Kesh_TXTWriteValue(std::int32_t File, const KeshValue& Value) {
+    return Kesh_TXTWriteFile(File, spellValue(Value) + ';');
 }

@@ -1,0 +1,216 @@
+#include "keshobjects/encodings.h"
+#include "keshobjects/errors.h"
+#include "keshobjects/keshobjects.h"
+#include "keshobjects/lines.h"
+#include "keshobjects/places.h"
+#include "keshvfs/keshvfs.h"
+#include "lornfd/lornfd.h"
+#include "lornfd/paths.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace keshobjects {
+namespace {
+
+constexpr std::string_view viewPrefix = "vfs://";
+
+std::string_view trimStart(std::string_view text) {
+    return {std::find_if_not(text.begin(), text.end(), isBlank), text.end()};
+}
+
+/// The encoding's name in the XML declaration at the start of a text; empty if there is none.
+std::string_view declaredEncoding(std::string_view text) {
+    constexpr std::string_view opening = "<?xml";
+    constexpr std::string_view attribute = "encoding";
+    const std::string_view declaration = text.substr(0, text.find("?>"));
+    const std::size_t found = declaration.find(attribute);
+    if (!declaration.starts_with(opening) || found == declaration.npos) {
+        return {};
+    }
+    std::string_view rest = trimStart(declaration.substr(found + attribute.size()));
+    if (!rest.starts_with('=')) {
+        return {};
+    }
+    rest = trimStart(rest.substr(1));
+    if (!rest.starts_with('"') && !rest.starts_with('\'')) {
+        return {};
+    }
+    const char quote = rest.front();
+    rest.remove_prefix(1);
+    return rest.substr(0, rest.find(quote));
+}
+
+/// The named encoding, UTF-8 for no name, or null with the last error set.
+const Encoding* encodingNamed(std::string_view encoding, std::string_view file) {
+    if (encoding.empty()) {
+        return &utf8();
+    }
+    const Encoding* const found = findEncoding(encoding);
+    if (found == nullptr) {
+        lastError().set(KESH_E_ENCODING, {std::string(file), {}, std::string(encoding)});
+    }
+    return found;
+}
+
+std::string_view asciiStart(std::string_view bytes) {
+    return {bytes.begin(), std::find_if(bytes.begin(), bytes.end(), [](char c) {
+                return static_cast<unsigned char>(c) >= 0x80;
+            })};
+}
+
+void appendReference(char32_t character, std::string& bytes) {
+    std::array<char, 16> digits;
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(),
+                                            static_cast<std::uint32_t>(character), 16);
+    std::transform(digits.data(), end, digits.data(),
+                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+    bytes.append("&#x").append(digits.data(), end) += ';';
+}
+
+/// Appends `bytes` of one encoding in another. Gives the offset of bytes that are no character
+/// there, or npos.
+std::size_t convert(std::string_view bytes, const Encoding& from, const Encoding& to,
+                    std::string& converted) {
+    std::string_view rest = bytes;
+    while (!rest.empty()) {
+        if (from.holdsAscii && to.holdsAscii) {
+            const std::string_view start = asciiStart(rest);
+            converted += start;
+            rest.remove_prefix(start.size());
+            if (rest.empty()) {
+                break;
+            }
+        }
+        const auto character = from.take(rest);
+        if (!character) {
+            return bytes.size() - rest.size();
+        }
+        if (!to.append(*character, converted)) {
+            appendReference(*character, converted);
+        }
+    }
+    return bytes.npos;
+}
+
+std::int32_t failDecoding(std::string_view file, std::string_view before, std::size_t offset,
+                          std::string reason) {
+    return lastError().set(KESH_E_DECODE,
+                           {std::string(file),
+                            describeLine(before) + " (offset " + std::to_string(offset) + ")",
+                            std::move(reason)});
+}
+
+std::string hexByte(char byte) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    const auto value = static_cast<unsigned char>(byte);
+    return {'0', 'x', digits[value >> 4U], digits[value & 0xFU]};
+}
+
+/// The path behind a "vfs://" name, other names as they are; empty with the last error set.
+std::string realName(std::string_view name) {
+    if (!lornfd::equalNoCase(name.substr(0, viewPrefix.size()), viewPrefix)) {
+        return std::string(name);
+    }
+    VFSFindData data;
+    const std::int32_t find = KeshVFS_FindFirstFile(name.substr(viewPrefix.size()), data);
+    if (find == 0) {
+        lastError().set(KESH_E_NOT_FOUND, {std::string(name), {}, {}});
+        return {};
+    }
+    std::string real = KeshVFS_GetRealName(find);
+    KeshVFS_FindClose(find);
+    return real;
+}
+
+std::int32_t failByDriver(KeshObjectsError code) {
+    return lastError().set(code, {{}, {}, driverReason()});
+}
+
+} // namespace
+} // namespace keshobjects
+
+using namespace keshobjects;
+
+std::int32_t Kesh_DecodeXML(std::string_view Bytes, std::string_view Name, std::string& Text) {
+    lastError().clear();
+    const Signature signature = findSignature(Bytes);
+    const std::string_view content = Bytes.substr(signature.mark.size());
+    const Encoding* encoding = signature.encoding;
+    if (encoding == nullptr) {
+        encoding = encodingNamed(declaredEncoding(Bytes), Name);
+    }
+    if (encoding == nullptr) {
+        return 0;
+    }
+    if (!encoding->holdsAscii && signature.encoding == nullptr) {
+        return failDecoding(Name, {}, 0, "the byte order mark of UTF-16 is missing");
+    }
+    std::string text;
+    text.reserve(content.size());
+    const std::size_t bad = convert(content, *encoding, utf8(), text);
+    if (bad != content.npos) {
+        return failDecoding(Name, text, signature.mark.size() + bad,
+                            "the byte " + hexByte(content[bad]) + " does not fit the encoding");
+    }
+    if (const std::size_t nul = text.find('\0'); nul != text.npos) {
+        return lastError().set(KESH_E_NUL,
+                               {std::string(Name), describeLine({text.data(), nul}), {}});
+    }
+    Text = std::move(text);
+    return 1;
+}
+
+std::int32_t Kesh_EncodeXML(std::string_view Text, std::string_view Name, std::string& Bytes) {
+    lastError().clear();
+    const Encoding* const encoding = encodingNamed(declaredEncoding(Text), Name);
+    if (encoding == nullptr) {
+        return 0;
+    }
+    std::string bytes(encoding->mark);
+    bytes.reserve(bytes.size() + Text.size());
+    const std::size_t bad = convert(Text, utf8(), *encoding, bytes);
+    if (bad != Text.npos) {
+        return failDecoding(Name, Text.substr(0, bad), bad,
+                            "the byte " + hexByte(Text[bad]) + " is not UTF-8");
+    }
+    Bytes = std::move(bytes);
+    return 1;
+}
+
+std::int32_t Kesh_DecodeXMLFile(std::string_view Name, std::string& Text) {
+    lastError().clear();
+    const std::string path = realName(Name);
+    if (path.empty() && lastError().code() != KESH_OK) {
+        return 0;
+    }
+    const std::int32_t file =
+        LornFD_OpenFile(path, LORNFD_READ, LORNFD_OPEN_EXISTING, LORNFD_AS_IS);
+    if (file == 0) {
+        return failByDriver(KESH_E_READ);
+    }
+    const std::string_view bytes = LornFD_ViewFile(file);
+    const std::int32_t done = bytes.data() == nullptr
+                                  ? failByDriver(KESH_E_READ)
+                                  : Kesh_DecodeXML(bytes, LornFD_FileName(file), Text);
+    LornFD_CloseFile(file);
+    return done;
+}
+
+std::int32_t Kesh_EncodeXMLFile(std::string_view Name, std::string_view Text,
+                                std::int32_t FileType) {
+    std::string bytes;
+    if (Kesh_EncodeXML(Text, Name, bytes) == 0) {
+        return 0;
+    }
+    const std::int32_t file = LornFD_OpenFile(Name, LORNFD_WRITE, LORNFD_CREATE, FileType);
+    if (file == 0) {
+        return failByDriver(KESH_E_WRITE);
+    }
+    if (Kesh_TXTWriteFile(file, bytes) == 0) {
+        LornFD_AbandonFile(file);
+        return 0;
+    }
+    return LornFD_CloseFile(file) != 0 ? 1 : failByDriver(KESH_E_WRITE);
+}

@@ -128,6 +128,7 @@ std::vector<GameFile> looseFiles(Game& game) {
     }
     files.push_back(textFile(1, Texts::English, game.texts.pagesXml(Texts::English), false));
     files.push_back(textFile(2, Texts::English, game.texts.objectsXml(Texts::English), true));
+    files.push_back({"game.ini", "[General]\nModName=longhaul\n", LORNFD_PLAIN});
     files.push_back({"maps\\outskirts.xml", smallUniverseFile(), LORNFD_PLAIN});
     return files;
 }

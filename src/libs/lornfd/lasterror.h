@@ -32,8 +32,8 @@ public:
     [[nodiscard]] std::int32_t code() const noexcept { return m_code; }
     /// The text of the last error for its code, else the table's row with its places left empty.
     [[nodiscard]] std::string text(std::int32_t code) const;
-    /// Copies text(code) with its final zero into `buffer` as far as `size` allows; `needed` gets the
-    /// whole length with the zero. Gives 1 if it fitted.
+    /// Copies text(code) with its final zero into `buffer` as far as `size` allows; `needed` gets
+    /// the whole length with the zero. Gives 1 if it fitted.
     std::int32_t translate(std::int32_t code, char* buffer, std::int32_t size,
                            std::int32_t* needed) const;
 

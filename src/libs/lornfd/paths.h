@@ -9,8 +9,8 @@ namespace lornfd {
 /// The native form of a plain path; in a catalog path only the part before "::" changes.
 std::string nativePath(std::string_view path);
 
-/// nativePath of an existing file or directory found without regard to case, component by component; an
-/// exact match wins. Where the last components do not exist they stay as given.
+/// nativePath of an existing file or directory found without regard to case, component by
+/// component; an exact match wins. Where the last components do not exist they stay as given.
 std::string resolvePath(std::string_view path);
 
 /// ASCII folded to lower case; other bytes stay. "_" (0x5F) thus sorts before letters.

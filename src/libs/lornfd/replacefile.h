@@ -7,11 +7,12 @@
 
 namespace lornfd {
 
-/// New content of one file. Mode and symbolic link of the target are kept; a lock file guards the target
-/// against a second writer for the time of the write.
+/// New content of one file. Mode and symbolic link of the target are kept; a lock file guards the
+/// target against a second writer for the time of the write.
 class FileReplacement {
 public:
-    /// Null with the library's last error set if the target is locked or its directory refuses a file.
+    /// Null with the library's last error set if the target is locked or its directory refuses a
+    /// file.
     static std::unique_ptr<FileReplacement> begin(std::string_view target);
     ~FileReplacement(); ///< without commit: the target is untouched and nothing is left behind
 

@@ -1,0 +1,48 @@
+// What stands behind a handle: a file that is read, a file that is written, or a catalog.
+#pragma once
+
+#include "lornfd/catalog.h"
+#include "lornfd/lornfd.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace lornfd {
+
+class Handle {
+public:
+    virtual ~Handle() = default;
+};
+
+/// A plain path, or a catalog and an entry of it.
+struct FileName {
+    std::string_view path;  ///< of the file or the catalog, as given
+    std::string_view entry; ///< empty for a plain path
+    bool inCatalog;
+
+    static FileName parse(std::string_view name);
+    /// For messages: native form, "catalog::entry" for an entry.
+    [[nodiscard]] std::string shown() const;
+};
+
+class OpenFile : public Handle {
+public:
+    explicit OpenFile(std::string_view name) : m_name(name) {}
+    /// For messages, in native form.
+    [[nodiscard]] std::string name() const { return FileName::parse(m_name).shown(); }
+    [[nodiscard]] FileName parts() const { return FileName::parse(m_name); }
+
+private:
+    std::string m_name;
+};
+
+class CatalogHandle : public Handle {
+public:
+    explicit CatalogHandle(std::shared_ptr<const CatalogIndex> opened) : index(std::move(opened)) {}
+    const std::shared_ptr<const CatalogIndex> index;
+};
+
+} // namespace lornfd

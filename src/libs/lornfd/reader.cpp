@@ -1,0 +1,202 @@
+#include "lornfd/reader.h"
+
+#include "lornfd/errors.h"
+#include "lornfd/packing.h"
+#include "lornfd/paths.h"
+
+#include <algorithm>
+#include <cstring>
+#include <libdeflate.h>
+
+namespace lornfd {
+
+namespace {
+
+// Below this reading is cheaper than mapping.
+constexpr std::int64_t smallPart = std::int64_t{64} << 10;
+constexpr std::size_t signatureSize = 4;
+
+bool notFound(std::string_view name) {
+    return fail(LORNFD_E_NOT_FOUND,
+                {.file = FileName::parse(name).shown(), .place = {}, .reason = {}});
+}
+
+std::optional<StoredPart> openPlain(const FileName& name) {
+    platform::File file;
+    platform::FileStamp stamp;
+    std::string path = nativePath(name.path);
+    std::error_code error = file.open(path);
+    if (error == std::errc::no_such_file_or_directory ||
+        error == std::errc::not_a_directory) { // perhaps in another spelling
+        path = resolvePath(name.path);
+        error = file.open(path);
+    }
+    if (!error)
+        error = file.stamp(stamp);
+    if (!error && !stamp.regular)
+        error = std::make_error_code(std::errc::is_a_directory);
+    if (!error)
+        return StoredPart{std::make_shared<const platform::File>(std::move(file)), 0, stamp.size};
+    if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory)
+        notFound(name.path);
+    else
+        fail(LORNFD_E_OPEN, path, error);
+    return std::nullopt;
+}
+
+std::optional<StoredPart> openEntry(const FileName& name) {
+    const auto catalog = openCatalog(name.path);
+    if (!catalog)
+        return std::nullopt;
+    const std::size_t position = catalog->index->find(name.entry);
+    if (position == CatalogIndex::npos) {
+        fail(LORNFD_E_NOT_FOUND, {.file = name.shown(), .place = {}, .reason = {}});
+        return std::nullopt;
+    }
+    const CatalogEntry entry = catalog->index->entry(position);
+    return StoredPart{std::shared_ptr<const platform::File>(catalog, &catalog->data), entry.offset,
+                      entry.size, entry.crc};
+}
+
+} // namespace
+
+Reader::Reader(std::string_view name, StoredPart part) : OpenFile(name), m_part(std::move(part)) {}
+
+std::unique_ptr<Reader> Reader::open(std::string_view name) {
+    const FileName parts = FileName::parse(name);
+    auto part = parts.inCatalog ? openEntry(parts) : openPlain(parts);
+    return part ? std::unique_ptr<Reader>(new Reader(name, std::move(*part))) : nullptr;
+}
+
+bool Reader::readStored(std::int64_t from, char* buffer, std::size_t count) {
+    std::size_t got = 0;
+    const std::error_code error =
+        count > 0 ? m_part.file->read(m_part.offset + from, buffer, count, got) : std::error_code();
+    if (!error && got == count)
+        return true;
+    return fail(LORNFD_E_READ,
+                {.file = name(),
+                 .place = offsetPlace(from + static_cast<std::int64_t>(got)),
+                 .reason = error ? error.message() : "it ends there, before its time"});
+}
+
+bool Reader::checkSum(std::string_view stored) {
+    if (!m_part.crc || libdeflate_crc32(0, stored.data(), stored.size()) == *m_part.crc)
+        return true;
+    return fail(LORNFD_E_CHECKSUM, {.file = name(),
+                                    .place = offsetPlace(m_part.offset),
+                                    .reason = std::to_string(m_part.size) + " bytes"});
+}
+
+/// Brings all stored bytes into memory, checked.
+bool Reader::loadStored() {
+    if (m_stored.data())
+        return true;
+    const auto size = static_cast<std::size_t>(m_part.size);
+    std::string_view stored;
+    if (m_part.size < smallPart) {
+        Buffer buffer(size);
+        if (!buffer.data() || !readStored(0, buffer.data(), size))
+            return false;
+        m_buffer = std::move(buffer);
+        stored = m_buffer;
+    } else {
+        if (const std::error_code error = m_mapping.map(*m_part.file, m_part.offset, size))
+            return fail(
+                LORNFD_E_READ,
+                {.file = name(), .place = offsetPlace(m_part.offset), .reason = error.message()});
+        stored = m_mapping.view();
+    }
+    if (!checkSum(stored))
+        return false;
+    m_stored = stored;
+    m_form = packedForm(stored);
+    return true;
+}
+
+bool Reader::learnForm() {
+    if (m_form != 0)
+        return true;
+    if (m_part.size < smallPart)
+        return loadStored();
+    char signature[signatureSize];
+    if (!readStored(0, signature, sizeof signature))
+        return false;
+    m_form = packedForm({signature, sizeof signature});
+    return true;
+}
+
+bool Reader::loadContent() {
+    if (m_content.data())
+        return true;
+    if (!loadStored())
+        return false;
+    if (m_form == LORNFD_PLAIN) {
+        m_content = m_stored;
+        return true;
+    }
+    auto unpacked = unpack(m_stored, name());
+    if (!unpacked)
+        return false;
+    m_buffer = std::move(*unpacked);
+    m_mapping = {};
+    m_content = m_buffer;
+    m_stored = m_content;
+    return true;
+}
+
+std::int32_t Reader::form() {
+    return learnForm() ? m_form : 0;
+}
+
+std::int64_t Reader::size() {
+    if (!learnForm())
+        return -1;
+    if (m_form == LORNFD_PLAIN)
+        return m_part.size;
+    return loadContent() ? static_cast<std::int64_t>(m_content.size()) : -1;
+}
+
+std::string_view Reader::view() {
+    return loadContent() ? m_content : std::string_view();
+}
+
+/// Reads a plain part without holding it. An entry is read so only in one piece, since only a whole
+/// one can be checked.
+std::int64_t Reader::readDirectly(char* buffer, std::int64_t count) {
+    count = std::min(count, m_part.size - m_position);
+    if (!readStored(m_position, buffer, static_cast<std::size_t>(count)) ||
+        (m_part.crc && !checkSum({buffer, static_cast<std::size_t>(count)})))
+        return -1;
+    m_position += count;
+    return count;
+}
+
+std::int64_t Reader::read(char* buffer, std::int64_t count) {
+    if (!learnForm())
+        return -1;
+    const bool whole = m_position == 0 && count >= m_part.size;
+    if (m_form == LORNFD_PLAIN && !m_stored.data() && (whole || !m_part.crc))
+        return readDirectly(buffer, count);
+    if (!loadContent())
+        return -1;
+    const std::string_view piece =
+        m_content.substr(static_cast<std::size_t>(m_position), static_cast<std::size_t>(count));
+    std::ranges::copy(piece, buffer);
+    m_position += static_cast<std::int64_t>(piece.size());
+    return static_cast<std::int64_t>(piece.size());
+}
+
+std::optional<std::int32_t> storedForm(std::string_view name) {
+    const auto reader = Reader::open(name);
+    if (reader) {
+        const std::int32_t form = reader->form();
+        return form != 0 ? std::optional(form) : std::nullopt;
+    }
+    if (lastError().code() != LORNFD_E_NOT_FOUND)
+        return std::nullopt;
+    lastError().clear();
+    return 0;
+}
+
+} // namespace lornfd

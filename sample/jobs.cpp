@@ -79,7 +79,7 @@ std::array<std::string, logicalFields> jobOf(Game& game, Random& random, int num
     job[3] = spell(random.between(1, 6));
     job[4] = random.pick(scripts);
     job[6] = job[8] = spell(name);
-    job[13] = number % 4 == 0 ? spell(firstWing + random.below(wingCount(game))) : "0";
+    job[13] = number % 4 == 0 ? spell(firstWing + random.below(wingCount(game))) : spell(0);
     job[14] = spell(random.below(wareListCount(game)));
     job[15] = spell(random.below(20));
     job[17] = spell(60 * random.between(1, 30));
@@ -97,7 +97,7 @@ std::array<std::string, logicalFields> jobOf(Game& game, Random& random, int num
         job[field] = job[field + 14] = spell(random.below(101));
     setChoices(job, random, 90, 103);
     setChoices(job, random, 110, 114);
-    job[115 + taskNumber % 4] = "1";
+    job[115 + taskNumber % 4] = spell(1);
     job[119] = names[static_cast<std::size_t>(number) % names.size()];
     return job;
 }

@@ -77,7 +77,7 @@ std::int64_t Kesh_TXTLoadPlaces(std::int32_t Text, std::int64_t Count, KeshPlace
 std::int32_t Kesh_TXTGetRawPlace(std::int32_t Text, KeshPlace& Place);
 /// The whole loaded text; valid until its handle is deleted.
 std::string_view Kesh_TXTGetText(std::int32_t Text);
-/// "line N of FILE" for a place, for messages.
+/// "line N of FILE" for a place, for messages. Neither of these two clears an earlier error.
 std::string Kesh_TXTDescribePlace(std::int32_t Text, KeshPlace Place);
 
 /// Writes to a file handle of the file driver: a text as it stands; a value's spelling and its ";".

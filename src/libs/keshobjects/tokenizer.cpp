@@ -31,7 +31,7 @@ std::unique_ptr<Tokenizer> Tokenizer::create(std::size_t size, std::string name,
     made->m_size = size;
     made->m_name = std::move(name);
     made->m_remarks = remarks;
-    std::memset(made->m_begin.get() + size, ';', textSlack);
+    std::memset(made->m_begin.get() + size, 0, textSlack);
     return made;
 }
 
@@ -87,16 +87,13 @@ char* Tokenizer::skipBlanks(char* from) {
 /// The ";" (or ",") behind the value that starts at `from`, or the end of the text.
 char* Tokenizer::endOfValue(char* from, Stop stop) {
     if (!m_remarks) {
-        return static_cast<char*>(std::memchr(from, ';', offset(end()) - offset(from) + 1));
+        return std::find(from, end(), ';');
     }
     if (stop == Stop::AtListSeparator) {
         return dropRemarks(from, stop);
     }
-    char* at = findSign(from);
-    while (*at == '/' && !startsRemark(at)) {
-        at = findSign(at + 1);
-    }
-    return *at == ';' ? at : dropRemarks(at, stop);
+    char* const to = std::find_if(from, end(), [](char c) { return c == ';' || c == '/'; });
+    return to == end() || *to == ';' ? to : dropRemarks(to, stop);
 }
 
 /// As endOfValue, and closes the value up over the remarks inside it, so that it reads as its
@@ -106,7 +103,7 @@ char* Tokenizer::dropRemarks(char* from, Stop stop) {
     char* to = from;
     char* behind = from;
     std::ptrdiff_t lines = 0;
-    while (*from != ';' && !(*from == ',' && stop == Stop::AtListSeparator)) {
+    while (from != end() && *from != ';' && !(*from == ',' && stop == Stop::AtListSeparator)) {
         if (!startsRemark(from)) {
             *to++ = *from++;
             continue;
@@ -140,30 +137,37 @@ std::optional<KeshPlace> Tokenizer::value() {
 }
 
 std::int64_t Tokenizer::values(std::int64_t count, KeshPlace* places, bool& written) {
-    std::int64_t i = 0;
-    for (; i < count; ++i) {
-        char* from = m_at;
-        if (static_cast<unsigned char>(*from) <= ' ' || *from == '/') {
-            from = skipBlanks(from);
-            written = written && (i == 0 || from == m_at);
+    for (std::int64_t read = 0; read < count; ++read) {
+        const char* at = m_at;
+        const std::int64_t run = cutRun(data(), at, count - read, places + read);
+        if (run > 0) {
+            m_at += at - m_at;
+            m_behindValue = true;
+            read += run;
         }
-        char* const to = from == nullptr ? nullptr : endOfValue(from, Stop::AtEndSign);
-        if (to == nullptr) {
-            return i;
+        if (read < count && !oddValue(places[read], read == 0, written)) {
+            return read;
         }
-        if (to == end()) {
-            if (from == to) {
-                fail(KESH_E_END, from);
-                return i;
-            }
-            written = false;
-        } else if (from != to && isBlank(to[-1])) {
-            written = false;
-        }
-        places[i] = static_cast<KeshPlace>(offset(from));
-        stepOver(to);
     }
-    return i;
+    return std::max<std::int64_t>(count, 0);
+}
+
+bool Tokenizer::oddValue(KeshPlace& place, bool first, bool& written) {
+    char* const from = skipBlanks(m_at);
+    char* const to = from == nullptr ? nullptr : endOfValue(from, Stop::AtEndSign);
+    if (to == nullptr) {
+        return false;
+    }
+    if (to == end() && from == to) {
+        fail(KESH_E_END, from);
+        return false;
+    }
+    const bool blankBefore = !first && from != m_at;
+    const bool blankBehind = to != from && isBlank(to[-1]);
+    written = written && !blankBefore && !blankBehind && to != end();
+    place = static_cast<KeshPlace>(offset(from));
+    stepOver(to);
+    return true;
 }
 
 std::optional<KeshPlace> Tokenizer::raw() {
@@ -221,7 +225,7 @@ bool Tokenizer::advance() {
     if (atRawToken()) {
         m_at = behindLineBreak(to);
         m_behindValue = false;
-    } else if (type == KESH_TOKEN_VALUE && *to == ';') {
+    } else if (type == KESH_TOKEN_VALUE && *to != ',') {
         stepOver(to);
     } else {
         m_at = to;

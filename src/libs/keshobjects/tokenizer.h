@@ -60,6 +60,7 @@ private:
     [[nodiscard]] std::size_t markSize() const noexcept;
     [[nodiscard]] char* end() const noexcept { return m_begin.get() + m_size; }
     [[nodiscard]] std::size_t offset(const char* at) const noexcept;
+    [[nodiscard]] bool oddValue(KeshPlace& place, bool first, bool& written);
     [[nodiscard]] char* skipBlanks(char* from);
     [[nodiscard]] char* endOfRemark(char* from);
     [[nodiscard]] char* endOfValue(char* from, Stop stop);

@@ -37,9 +37,8 @@ std::int32_t addText(Text text) {
     return static_cast<std::int32_t>(free - table.begin()) + 1;
 }
 
-/// Clears the last error; null with it set for a bad handle.
-Tokenizer* textOf(std::int32_t handle) {
-    lastError().clear();
+/// Null with the last error set for a bad handle.
+Tokenizer* findText(std::int32_t handle) {
     auto& table = texts();
     // 0 and negative handles become large positions.
     const auto position = static_cast<std::uint32_t>(handle) - 1U;
@@ -48,6 +47,12 @@ Tokenizer* textOf(std::int32_t handle) {
         lastError().set(KESH_E_HANDLE, {{}, {}, std::to_string(handle)});
     }
     return text;
+}
+
+/// The same for operations that begin without an error.
+Tokenizer* textOf(std::int32_t handle) {
+    lastError().clear();
+    return findText(handle);
 }
 
 std::int32_t fail(KeshObjectsError code, const Tokenizer& text, std::size_t place,
@@ -243,12 +248,12 @@ std::int32_t Kesh_TXTGetRawPlace(std::int32_t Text, KeshPlace& Place) {
 }
 
 std::string_view Kesh_TXTGetText(std::int32_t Text) {
-    const Tokenizer* const text = textOf(Text);
+    const Tokenizer* const text = findText(Text);
     return text == nullptr ? std::string_view() : text->text();
 }
 
 std::string Kesh_TXTDescribePlace(std::int32_t Text, KeshPlace Place) {
-    const Tokenizer* const text = textOf(Text);
+    const Tokenizer* const text = findText(Text);
     return text == nullptr ? std::string() : text->describe(Place) + " of " + text->name();
 }
 

@@ -1,0 +1,131 @@
+#include "txteditor/clsTFile.h"
+
+#include "core/mdlComFunctions.h"
+#include "core/mdlCommon.h"
+#include "files/mdlPaths.h"
+#include "lornfd/lornfd.h"
+#include "lornfd/paths.h"
+#include "tdata/mdlKeshConst.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+#include <functional>
+#include <vector>
+
+namespace {
+
+QFileInfo containerOf(const std::string& path) {
+    return QFileInfo(QString::fromStdString(lornfd::resolvePath(CatalogPart(path))));
+}
+
+/// A hash of what an entry holds: its catalog changes whenever any entry does.
+std::size_t contentHash(const std::string& path) {
+    const std::int32_t file =
+        LornFD_OpenFile(path, LORNFD_READ, LORNFD_OPEN_EXISTING, LORNFD_AS_IS);
+    if (file == 0)
+        return 0;
+    const std::size_t hash = std::hash<std::string_view>()(LornFD_ViewFile(file));
+    LornFD_CloseFile(file);
+    return hash;
+}
+
+/// The name that tells the type of a file: without catalog and "vfs://".
+std::string nameInside(const std::string& path) {
+    if (IsVFSPath(path))
+        return StripVFS(path);
+    return IsCatalogPath(path) ? EntryPart(path) : path;
+}
+
+std::vector<bool> dirtyFlags(const clsTxtParser& parser) {
+    std::vector<bool> flags;
+    flags.reserve(parser.ByIndex().size() + 1);
+    for (const RecordPtr& record : parser.ByIndex())
+        flags.push_back(record->Dirty);
+    flags.push_back(parser.Dirty());
+    return flags;
+}
+
+void putBack(clsTxtParser& parser, const std::vector<bool>& flags) {
+    for (std::size_t i = 0; i + 1 < flags.size(); ++i)
+        parser.ByIndex()[i]->Dirty = flags[i];
+    parser.SetDirty(flags.back());
+}
+
+} // namespace
+
+clsTFile::Stamp clsTFile::StampOf(const std::string& Path) {
+    const QFileInfo info = containerOf(Path);
+    return {lornfd::foldCase(Path), info.exists() ? info.size() : -1,
+            info.lastModified().toMSecsSinceEpoch(), IsCatalogPath(Path) ? contentHash(Path) : 0};
+}
+
+clsTFile::Result clsTFile::Open(const std::string& Name) {
+    const auto real = RealPath(Name);
+    if (!real)
+        return {Outcome::NotFound, {}};
+    Stamp stamp = StampOf(*real); // before reading, so that a change meanwhile is not missed
+    const std::int32_t file =
+        LornFD_OpenFile(*real, LORNFD_READ, LORNFD_OPEN_EXISTING, LORNFD_AS_IS);
+    if (file == 0)
+        return {Outcome::NotOpened, LornFDErrorText()};
+    const bool loaded = Parser.Load(file, ObjectTypeFromFile(nameInside(Name)));
+    LornFD_CloseFile(file);
+    if (!loaded) {
+        Result failed{Outcome::NotLoaded, Parser.GetLastError()};
+        Parser = clsTxtParser();
+        m_stamp = {};
+        return failed;
+    }
+    Parser.FileName = Name;
+    m_stamp = std::move(stamp);
+    return {};
+}
+
+clsTFile::Result clsTFile::Save(const std::string& Name, std::int32_t FileType) {
+    const std::int32_t file =
+        LornFD_OpenFileConvert(Name, LORNFD_WRITE, LORNFD_OPEN_EXISTING, FileType);
+    if (file == 0)
+        return {Outcome::NotOpened, LornFDErrorText()};
+    const std::vector<bool> flags = dirtyFlags(Parser);
+    Result written = Write(file);
+    if (written.Kind != Outcome::Done) {
+        putBack(Parser, flags);
+        return written;
+    }
+    Parser.FileName = Name;
+    m_stamp = StampOf(Name);
+    return {};
+}
+
+clsTFile::Result clsTFile::Write(std::int32_t File) {
+    if (!Parser.Save(File)) {
+        LornFD_AbandonFile(File);
+        return {Outcome::NotSaved, Parser.GetLastError()};
+    }
+    if (Parser.ByIndex().empty()) {
+        LornFD_AbandonFile(File);
+        return {Outcome::NotSaved, "There is no object to save."};
+    }
+    if (LornFD_CloseFile(File) == 0)
+        return {Outcome::NotSaved, LornFDErrorText()};
+    return {};
+}
+
+std::string clsTFile::StoredPath() const {
+    return RealPath(Parser.FileName).value_or(std::string());
+}
+
+bool clsTFile::ChangedOnDisk(const std::string& Target) const {
+    if (m_stamp.Path.empty() || lornfd::foldCase(Target) != m_stamp.Path)
+        return false;
+    const Stamp now = StampOf(Target);
+    if (IsCatalogPath(Target))
+        return now.Content != m_stamp.Content;
+    return now.Size != m_stamp.Size || now.Modified != m_stamp.Modified;
+}
+
+std::int64_t FileSizeHint(const std::string& Path) {
+    const auto real = RealPath(Path);
+    return real ? containerOf(*real).size() : 0;
+}

@@ -1,0 +1,52 @@
+// The document of a TXT Editor window: a T file, where it came from, its opening and saving. No
+// windows.
+#pragma once
+
+#include "tdata/clsTxtParser.h"
+
+#include <cstdint>
+#include <string>
+
+class clsTFile {
+public:
+    enum class Outcome {
+        Done,
+        NotFound,  ///< a "vfs://" name that is nowhere; what was open stays
+        NotOpened, ///< the file driver refused; what was open stays
+        NotLoaded, ///< no T file; nothing is open now
+        NotSaved,  ///< the target is as it was, and so is everything in memory
+    };
+    struct [[nodiscard]] Result {
+        Outcome Kind = Outcome::Done;
+        std::string Reason; ///< of the driver or the parser
+    };
+
+    /// The records. Parser.FileName is the document's name as it was opened: a plain, catalog or
+    /// "vfs://" path, empty without a document.
+    clsTxtParser Parser;
+
+    Result Open(const std::string& Name);
+    /// Writes to a plain or catalog path in a form of the file driver; that path is the document's
+    /// name then.
+    Result Save(const std::string& Name, std::int32_t FileType);
+    /// Where the document is really stored; empty if a "vfs://" name is nowhere now.
+    [[nodiscard]] std::string StoredPath() const;
+    /// True if `Target` is what this document was read from, and another program changed it since.
+    [[nodiscard]] bool ChangedOnDisk(const std::string& Target) const;
+
+private:
+    /// What tells a file from a later state of it.
+    struct Stamp {
+        std::string Path; ///< folded for comparing
+        std::int64_t Size = -1;
+        std::int64_t Modified = 0;
+        std::size_t Content = 0; ///< hash of the unpacked bytes of a catalog entry
+    };
+    static Stamp StampOf(const std::string& Path);
+    Result Write(std::int32_t File);
+
+    Stamp m_stamp;
+};
+
+/// Size in bytes of the file on disk that holds a path; 0 if it cannot be told.
+std::int64_t FileSizeHint(const std::string& Path);

@@ -1,0 +1,214 @@
+// Opening, saving and closing in the TXT Editor.
+#include "core/clsSettings.h"
+#include "core/mdlComFunctions.h"
+#include "core/mdlCommon.h"
+#include "files/mdlPaths.h"
+#include "lornfd/lornfd.h"
+#include "lornfd/paths.h"
+#include "txteditor/RecordListModel.h"
+#include "txteditor/TFileDialog.h"
+#include "txteditor/frmTXTEditor.h"
+#include "ui/CommonBoxes.h"
+#include "ui/frmWait.h"
+
+namespace {
+
+constexpr std::int64_t longWork = std::int64_t{16}
+                                  << 20; ///< bytes from which the wait window shows
+
+QString shown(const std::string& name) {
+    return QString::fromStdString(ShownPath(name));
+}
+
+QString lines(std::initializer_list<QString> texts) {
+    return QStringList(texts).join(u'\n');
+}
+
+std::int32_t fileTypeOf(int filterIndex) {
+    switch (filterIndex) {
+    case 1:
+        return LORNFD_PLAIN;
+    case 2:
+        return Settings->Ashfall() ? LORNFD_ZSTD : LORNFD_GZIP;
+    default:
+        return LORNFD_AS_IS;
+    }
+}
+
+} // namespace
+
+void frmTXTEditor::Say(const QString& Text, BoxIcon Icon) {
+    ShowBox(this, tr("TXT Editor"), Text, Icon);
+}
+
+Answer frmTXTEditor::AskAboutChanges() {
+    TakeChanges();
+    if (!m_file.Parser.CheckDirty())
+        return Answer::No;
+    return Ui().ShowMessage(
+        this, {tr("TXT Editor"),
+               lines({tr("You have changed data in file ") + shown(m_file.Parser.FileName),
+                      tr("Do you want to save your changes?")}),
+               BoxIcon::Exclamation, BoxButtons::YesNoCancel});
+}
+
+bool frmTXTEditor::MayClose() {
+    switch (AskAboutChanges()) {
+    case Answer::Yes:
+        return SaveFile();
+    case Answer::Cancel:
+        return false;
+    default:
+        return true;
+    }
+}
+
+void frmTXTEditor::OpenFile(std::string Name) {
+    const Answer answer = AskAboutChanges();
+    if (answer == Answer::Yes)
+        SaveFile();
+    if (answer != Answer::No)
+        return;
+    if (Name.empty())
+        Name = ChooseTFileToOpen(this).value_or(std::string());
+    else if (Name == "vfs://")
+        Name = ChooseTFileInView(this).value_or(std::string());
+    if (!Name.empty())
+        LoadFile(Name);
+}
+
+void frmTXTEditor::LoadFile(const std::string& Name) {
+    clsTFile::Result result;
+    {
+        const Busy busy(tr("Loading %1").arg(shown(Name)), this, FileSizeHint(Name) > longWork);
+        result = m_file.Open(Name);
+    }
+    const bool loaded = result.Kind == clsTFile::Outcome::Done;
+    if (loaded || result.Kind == clsTFile::Outcome::NotLoaded)
+        ShowFile();
+    if (loaded)
+        AddRecent(Name);
+    else
+        ReportOpenFailure(Name, result);
+}
+
+void frmTXTEditor::ShowFile() {
+    m_undo.Clear();
+    m_selected.reset();
+    m_list->SetRecords({});
+    SelectFileType(HasFile() ? m_file.Parser.otype() : noType);
+    FillList();
+    UpdateCaption();
+}
+
+void frmTXTEditor::ReportOpenFailure(const std::string& Name, const clsTFile::Result& Failure) {
+    const QString reason = ToScreen(Failure.Reason);
+    switch (Failure.Kind) {
+    case clsTFile::Outcome::NotFound:
+        Say(tr("File ") + shown(Name) + tr(" not found."), BoxIcon::Exclamation);
+        return;
+    case clsTFile::Outcome::NotOpened:
+        Say(lines({tr("Error opening file: "), shown(Name), reason}), BoxIcon::Critical);
+        break;
+    default:
+        Say(lines({tr("Error loading from file: "), shown(Name), reason}), BoxIcon::Critical);
+        break;
+    }
+    RemoveRecent(Name);
+}
+
+void frmTXTEditor::OpenDropped(const QString& Path) {
+    OpenFile(FromPlatform(Path.toStdString()));
+}
+
+bool frmTXTEditor::SaveFile() {
+    if (!HasFile())
+        return false;
+    TakeChanges();
+    const auto choice = ChooseTFileToSave(this, SaveStart());
+    if (!choice)
+        return false;
+    const auto name = RealPath(choice->Name);
+    if (!name) {
+        Say(tr("File ") + shown(choice->Name) + tr(" not found."), BoxIcon::Exclamation);
+        return false;
+    }
+    if (!MayReplace(*name) || !MakeCatalog(*name))
+        return false;
+    clsTFile::Result result;
+    {
+        const Busy busy(tr("Saving %1").arg(shown(*name)), this,
+                        FileSizeHint(m_file.Parser.FileName) > longWork);
+        result = m_file.Save(*name, fileTypeOf(choice->FilterIndex));
+    }
+    if (result.Kind != clsTFile::Outcome::Done) {
+        const QString what = result.Kind == clsTFile::Outcome::NotOpened
+                                 ? tr("Error opening file: ")
+                                 : tr("Error writing data to file: ");
+        Say(lines({what, ToScreen(result.Reason)}), BoxIcon::Critical);
+        return false;
+    }
+    m_undo.MarkSaved();
+    AddRecent(*name);
+    UpdateCaption();
+    return true;
+}
+
+std::string frmTXTEditor::SaveStart() const {
+    const std::string stored = m_file.StoredPath();
+    return stored.empty() ? JoinPath({Settings->DataRoot(), StripVFS(m_file.Parser.FileName)})
+                          : stored;
+}
+
+bool frmTXTEditor::MayReplace(const std::string& Name) {
+    if (!OverwriteQuestion(Name, shown(Name), tr("TXT Editor"), this))
+        return false;
+    if (LornFD_FileExists(Name) == 0 || !m_file.ChangedOnDisk(Name))
+        return true;
+    const QString text = tr("\"%1\" was changed by another program since it was opened here.\n\n"
+                            "Do you want to replace it, so that those changes are lost?")
+                             .arg(shown(Name));
+    return Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Exclamation,
+                                   BoxButtons::YesNo}) == Answer::Yes;
+}
+
+bool frmTXTEditor::MakeCatalog(const std::string& Name) {
+    const std::string catalog = CatalogPart(Name);
+    if (!IsCatalogPath(Name) || LornFD_FileExists(catalog) != 0)
+        return true;
+    const QString text =
+        tr("Catalog \"%1\" does not exist.\n\nDo you want to create it?").arg(shown(catalog));
+    if (Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Question, BoxButtons::YesNo}) !=
+        Answer::Yes)
+        return false;
+    const std::int32_t handle = LornFD_OpenCatalog(catalog, LORNFD_CREATE);
+    if (handle != 0) {
+        LornFD_CloseCatalog(handle);
+        return true;
+    }
+    Say(lines({tr("Error opening file: "), ToScreen(LornFDErrorText())}), BoxIcon::Critical);
+    return false;
+}
+
+void frmTXTEditor::AddRecent(const std::string& Name) {
+    RemoveRecent(Name);
+    m_recent.insert(m_recent.begin(), Name);
+    Settings->SaveRecentTFiles(m_recent);
+    UpdateRecentActions();
+}
+
+void frmTXTEditor::RemoveRecent(const std::string& Name) {
+    m_recent = Settings->LoadRecentTFiles(); // other windows add to the same list
+    std::erase_if(m_recent,
+                  [&](const std::string& other) { return lornfd::equalNoCase(other, Name); });
+    Settings->SaveRecentTFiles(m_recent);
+    UpdateRecentActions();
+}
+
+TextEncoding frmTXTEditor::FileEncoding() const {
+    EncodingGuess guess;
+    for (const RecordPtr& record : m_file.Parser.ByIndex())
+        for (std::int32_t i = 0; i < record->size() && !guess.Decided(); ++i)
+            guess.Add(record->ValueText(i));
+    return guess.Result();
+}

@@ -1,0 +1,233 @@
+// The record list, the views of one record and their panel in the TXT Editor.
+#include "core/clsSettings.h"
+#include "files/mdlPaths.h"
+#include "tdata/mdlKeshConst.h"
+#include "txteditor/RecordDataModel.h"
+#include "txteditor/RecordListModel.h"
+#include "txteditor/frmEdit.h"
+#include "txteditor/frmTXTEditor.h"
+#include "ui/frmText.h"
+
+namespace {
+
+constexpr int classWidth = 133; ///< pixels
+constexpr int rawTab = 0;
+constexpr int panelTab = 1;
+
+/// What a panel says, or a text in brackets if it fails.
+template <class Ask>
+QString askPanel(const Ask& ask, const char* failure) {
+    try {
+        return ToScreen(ask());
+    } catch (const std::exception&) {
+        return frmTXTEditor::tr(failure);
+    }
+}
+
+/// The panel title of a type that no panel serves.
+std::string titleOfType(std::int32_t type) {
+    for (const ObjectTypeKey& key : ObjectTypeKeys())
+        if (key.Code == type)
+            return std::string(key.PanelTitle);
+    return {};
+}
+
+} // namespace
+
+void frmTXTEditor::SelectFileType(std::int32_t OType) {
+    try {
+        m_objectType = OType;
+        PickPanel(OType);
+    } catch (const std::exception& failure) {
+        m_activeEditor = nullptr;
+        Say(tr("Error in SelectFileType: ") + ToScreen(failure.what()), BoxIcon::Critical);
+    }
+    for (ObjectEditor* panel : m_editors)
+        panel->setVisible(panel == m_activeEditor);
+    m_tab->setTabEnabled(panelTab, m_activeEditor != nullptr);
+    m_tab->setCurrentIndex(m_activeEditor ? panelTab : rawTab);
+    ApplyPanelInfo(m_activeEditor ? m_activeEditor->LornQueryInfo(OType) : 0);
+    UpdateNameColumn();
+    UpdateActions();
+}
+
+void frmTXTEditor::PickPanel(std::int32_t OType) {
+    m_activeEditor = nullptr;
+    const auto serves = [&](ObjectEditor* panel) {
+        std::int32_t type = OType;
+        return panel->LornQueryInterfaceEx(type);
+    };
+    const auto found = std::find_if(m_editors.begin(), m_editors.end(), serves);
+    if (found == m_editors.end())
+        return;
+    if (!(*found)->Init(m_file.Parser)) {
+        Say(ToScreen((*found)->GetLastError()), BoxIcon::Critical);
+        return;
+    }
+    m_activeEditor = *found;
+    m_tab->setTabText(panelTab, ToScreen(m_activeEditor->PageName(OType)));
+    std::string report;
+    if (m_activeEditor->Validate(report))
+        return;
+    frmText text(this);
+    text.setWindowTitle(tr("Errors in file data"));
+    text.SetText(ToScreen(report));
+    text.MyShow();
+}
+
+void frmTXTEditor::ApplyPanelInfo(std::int32_t Info) {
+    if ((Info & panelinfo::HasClasses) != 0) {
+        m_list->SetClassColumn([this](const RecordPtr& record) {
+            return askPanel([&] { return m_activeEditor->GetClass(record); },
+                            QT_TR_NOOP("[error getting class]"));
+        });
+        m_objectView->header()->setStretchLastSection(false);
+        m_objectView->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+        m_objectView->setColumnWidth(1, classWidth);
+    } else {
+        m_list->SetClassColumn({});
+        m_objectView->header()->setStretchLastSection(true);
+    }
+    m_names[0]->setEnabled((Info & panelinfo::HasNames) != 0 && Settings->LoadDescriptions());
+    m_names[1]->setEnabled((Info & panelinfo::HasRaces) != 0);
+}
+
+void frmTXTEditor::UpdateCaption() {
+    QString caption = tr("TXT Editor");
+    if (HasFile())
+        caption += QStringLiteral(" - [%1 (%2)]")
+                       .arg(QString::fromStdString(ShownPath(m_file.Parser.FileName)), TypeText());
+    if (m_file.Parser.CheckDirty())
+        caption += QStringLiteral(" *");
+    setWindowTitle(caption);
+}
+
+QString frmTXTEditor::TypeText() const {
+    const QString text = askPanel(
+        [&] {
+            return m_activeEditor ? m_activeEditor->ObjectTypeName(m_objectType)
+                                  : titleOfType(m_objectType);
+        },
+        QT_TR_NOOP("[error getting object type]"));
+    return text.isEmpty() ? tr("unknown") : text;
+}
+
+NameMode frmTXTEditor::Mode() const {
+    const auto on = std::find_if(m_names.begin(), m_names.end(),
+                                 [](const QRadioButton* button) { return button->isChecked(); });
+    return static_cast<NameMode>(on - m_names.begin());
+}
+
+QString frmTXTEditor::RowText(const RecordPtr& Record) const {
+    const auto id = [&]() -> std::string {
+        return m_activeEditor ? m_activeEditor->ObjectName(Record)
+                              : std::string(Record->ObjectName());
+    };
+    const auto idUnlessText = [&](std::string text) { return text.empty() ? id() : text; };
+    const NameMode mode = m_activeEditor ? Mode() : NameMode::ID;
+    if (mode == NameMode::Name)
+        return askPanel([&] { return idUnlessText(m_activeEditor->GetResourceName(Record)); },
+                        QT_TR_NOOP("[error getting description]"));
+    if (mode == NameMode::Race)
+        return askPanel([&] { return idUnlessText(m_activeEditor->GetRace(Record)); },
+                        QT_TR_NOOP("[error getting race]"));
+    return askPanel(id, QT_TR_NOOP("[error getting name]"));
+}
+
+void frmTXTEditor::UpdateNameColumn() {
+    const std::array headers = {tr("Name"), tr("Race"), tr("ID")};
+    m_list->SetNameColumn([this](const RecordPtr& record) { return RowText(record); },
+                          headers[static_cast<std::size_t>(Mode())]);
+    UpdateObjectViews();
+}
+
+void frmTXTEditor::FillList() {
+    const clsTxtParser& parser = m_file.Parser;
+    std::vector<RecordPtr> records;
+    if (m_sort->isChecked()) {
+        records.reserve(parser.ByName().size());
+        for (const clsTXTObject* record : parser.ByName())
+            records.push_back(parser.Find(record->ID));
+    } else {
+        records = parser.ByIndex();
+    }
+    const RecordPtr selected = m_selected;
+    m_list->SetRecords(std::move(records));
+    m_barCount->setText(tr("%1 objects").arg(m_list->rowCount()));
+    SelectRecord(selected);
+}
+
+void frmTXTEditor::SelectRecord(const RecordPtr& Record) {
+    const QModelIndex row = m_list->IndexOf(Record.get());
+    if (!row.isValid()) {
+        ShowObject({});
+        return;
+    }
+    if (m_objectView->currentIndex().row() == row.row())
+        ShowObject(Record);
+    else
+        m_objectView->setCurrentIndex(row); // shows it
+    m_objectView->scrollTo(row);
+}
+
+void frmTXTEditor::ShowObject(const RecordPtr& Record) {
+    m_selected = Record;
+    UpdateObjectViews();
+    if (!m_activeEditor)
+        return;
+    try {
+        m_activeEditor->ShowObject(Record, m_objectType);
+    } catch (const std::exception& failure) {
+        Say(tr("Error showing object: ") + ToScreen(failure.what()), BoxIcon::Critical);
+    }
+}
+
+void frmTXTEditor::UpdateObjectViews() {
+    const int field = m_dataView->currentIndex().row();
+    m_data->ShowRecord(m_selected);
+    m_dataView->setCurrentIndex(m_data->index(field, 0)); // the same field of the next record
+    UpdateWatch();
+    m_objectName->setText(m_selected ? RowText(m_selected) : QString());
+    m_barObject->setText(m_selected ? tr("Selected object index: %1").arg(m_selected->Index)
+                                    : QString());
+    UpdateActions();
+}
+
+void frmTXTEditor::UpdateWatch() {
+    m_watch->Watch(m_selected, m_watchFrom->text(), m_watchTo->text());
+}
+
+void frmTXTEditor::OnEditField() {
+    if (!HasField())
+        return;
+    frmEdit dialog(this);
+    dialog.FileEncoding = [this] { return FileEncoding(); };
+    dialog.ShowProperty(nullptr, m_selected, m_dataView->currentIndex().row());
+    TakeChanges();
+    if (dialog.ModalResult() != 1)
+        return;
+    m_list->Refresh(m_selected.get());
+    ShowObject(m_selected);
+    UpdateCaption();
+}
+
+void frmTXTEditor::TakeChanges() {
+    if (m_undo.TakeChanges())
+        UpdateCaption();
+}
+
+void frmTXTEditor::OnObjectChanged(const RecordPtr& Record) {
+    TakeChanges();
+    m_list->Refresh(Record.get());
+    if (Record == m_selected)
+        UpdateObjectViews();
+    UpdateCaption();
+}
+
+void frmTXTEditor::OnRecordReset(const RecordPtr& Record) {
+    if (m_activeEditor)
+        m_activeEditor->ObjectReset(Record);
+    m_list->Refresh(Record.get());
+    SelectRecord(Record);
+    UpdateCaption();
+}

@@ -1,62 +1,40 @@
 #include "core/SettingsStore.h"
 
+#include "core/SettingsFile.h"
+
 #include <QFileInfo>
-#include <QMetaType>
-#include <QSettings>
 #include <QStringList>
-#include <QUrl>
 
 #include <utility>
 
 namespace {
 
-// A larger file is no settings file; reading it would only eat memory.
-constexpr qint64 LargestFile = 16 << 20;
-
 QByteArray toBytes(std::string_view text) {
     return {text.data(), static_cast<qsizetype>(text.size())};
 }
 
-/// A part of a key or a name: "/" and "\" would separate groups.
-QString escaped(std::string_view part) {
-    return QString::fromLatin1(toBytes(part).toPercentEncoding(" "));
+/// A part of a key, or a name, without any character that means something in a settings file.
+QString escaped(const QByteArray& part) {
+    return QString::fromLatin1(part.toPercentEncoding(" "));
 }
 
-std::string unescaped(const QString& part) {
-    return QByteArray::fromPercentEncoding(part.toLatin1()).toStdString();
+std::vector<std::string> unescaped(const QStringList& parts) {
+    std::vector<std::string> names;
+    for (const QString& part : parts)
+        names.push_back(QByteArray::fromPercentEncoding(part.toUtf8()).toStdString());
+    return names;
 }
 
 /// "main\icons" as the group "main/icons"; empty for the root.
 QString groupOf(std::string_view key) {
     QStringList parts;
     for (const QByteArray& part : toBytes(key).split('\\'))
-        parts << escaped(part.toStdString());
+        parts << escaped(part);
     return parts.join(u'/');
 }
 
 QString pathOf(std::string_view key, std::string_view name) {
-    return key.empty() ? escaped(name) : groupOf(key) + u'/' + escaped(name);
-}
-
-/// Text that is not UTF-8 is kept as bytes, so that it reads back the same.
-QVariant toVariant(const std::optional<std::string>& value) {
-    if (!value)
-        return {};
-    const QString text = QString::fromStdString(*value);
-    return text.toStdString() == *value ? QVariant(text) : QVariant(toBytes(*value));
-}
-
-std::optional<std::string> fromVariant(const QVariant& value) {
-    switch (value.typeId()) {
-    case QMetaType::QString:
-        return value.toString().toStdString();
-    case QMetaType::QByteArray:
-        return value.toByteArray().toStdString();
-    case QMetaType::QStringList: // a value written by hand with a bare comma
-        return value.toStringList().join(u',').toStdString();
-    default:
-        return {};
-    }
+    return key.empty() ? escaped(toBytes(name)) : groupOf(key) + u'/' + escaped(toBytes(name));
 }
 
 void put(QSettings& ini, const QString& path, const QVariant& value) {
@@ -66,38 +44,29 @@ void put(QSettings& ini, const QString& path, const QVariant& value) {
         ini.remove(path);
 }
 
-std::vector<std::string> unescaped(const QStringList& parts) {
-    std::vector<std::string> names;
-    for (const QString& part : parts)
-        names.push_back(unescaped(part));
-    return names;
+bool usable(const QString& file) {
+    return QFileInfo(file).size() <= LargestSettingsFile;
 }
 
 } // namespace
 
 SettingsStore::SettingsStore(QString File) : m_file(std::move(File)) {}
 
-bool SettingsStore::Usable() const {
-    return QFileInfo(m_file).size() <= LargestFile;
-}
-
 std::optional<std::string> SettingsStore::Read(std::string_view Key, std::string_view Name) const {
-    if (!Usable())
+    if (!usable(m_file))
         return {};
-    return fromVariant(QSettings(m_file, QSettings::IniFormat).value(pathOf(Key, Name)));
+    const QVariant value = QSettings(m_file, SettingsFormat()).value(pathOf(Key, Name));
+    return value.isValid() ? std::optional(value.toByteArray().toStdString()) : std::nullopt;
 }
 
 bool SettingsStore::Write(std::string_view Key, const std::vector<Entry>& Entries) {
-    if (!Usable())
+    if (!usable(m_file))
         return false;
-    // The first object to read a broken file keeps that as its status; the second one's tells of
-    // the write alone.
-    const QSettings reader(m_file, QSettings::IniFormat);
-    QSettings ini(m_file, QSettings::IniFormat);
+    QSettings ini(m_file, SettingsFormat());
     std::vector<std::pair<QString, QVariant>> former;
     for (const Entry& entry : Entries) {
         const QString path = pathOf(Key, entry.name);
-        const QVariant value = toVariant(entry.value);
+        const QVariant value = entry.value ? QVariant(toBytes(*entry.value)) : QVariant();
         if (ini.value(path) == value)
             continue;
         former.emplace_back(path, ini.value(path));
@@ -113,17 +82,17 @@ bool SettingsStore::Write(std::string_view Key, const std::vector<Entry>& Entrie
 }
 
 std::vector<std::string> SettingsStore::Names(std::string_view Key) const {
-    if (!Usable())
+    if (!usable(m_file))
         return {};
-    QSettings ini(m_file, QSettings::IniFormat);
+    QSettings ini(m_file, SettingsFormat());
     ini.beginGroup(groupOf(Key));
     return unescaped(ini.childKeys());
 }
 
 std::vector<std::string> SettingsStore::SubKeys(std::string_view Key) const {
-    if (!Usable())
+    if (!usable(m_file))
         return {};
-    QSettings ini(m_file, QSettings::IniFormat);
+    QSettings ini(m_file, SettingsFormat());
     ini.beginGroup(groupOf(Key));
     return unescaped(ini.childGroups());
 }

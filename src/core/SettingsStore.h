@@ -29,7 +29,5 @@ public:
     [[nodiscard]] std::vector<std::string> SubKeys(std::string_view Key) const;
 
 private:
-    [[nodiscard]] bool Usable() const;
-
     QString m_file;
 };

@@ -12,6 +12,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 // Paths
@@ -76,14 +77,15 @@ std::string TableText(std::span<const std::string_view> Table,
                       std::int64_t Index); ///< or "Unknown value"
 std::string TableTextRaw(std::span<const std::string_view> Table, std::int64_t Index); ///< or empty
 template <class T>
-std::int32_t IndexInArray(std::span<const T> Array, const T& Value) {
+std::int32_t IndexInArray(std::span<const T> Array, const std::type_identity_t<T>& Value) {
     for (std::size_t i = 0; i < Array.size(); ++i)
         if (Array[i] == Value)
             return static_cast<std::int32_t>(i);
     return -1;
 }
 template <class T>
-bool FindInArray(std::span<const T> Array, const T& Value, std::int32_t& Position) {
+bool FindInArray(std::span<const T> Array, const std::type_identity_t<T>& Value,
+                 std::int32_t& Position) {
     Position = IndexInArray(Array, Value);
     return Position >= 0;
 }

@@ -4,6 +4,7 @@
 #include "lornfd/paths.h"
 
 #include <algorithm>
+#include <deque>
 #include <filesystem>
 
 namespace fs = std::filesystem;
@@ -45,8 +46,8 @@ private:
     View& m_view;
     std::uint32_t m_layer;
     const Filters& m_filters;
-    std::vector<Pending> m_pending;
-    std::string m_path; ///< of the file at hand, kept to save allocations
+    std::deque<Pending> m_pending; ///< first in, first out: near directories use up links first
+    std::string m_path;            ///< of the file at hand, kept to save allocations
     Id m_source = NoId;
     int m_links = 0;
     LooseFiles m_result;
@@ -55,8 +56,8 @@ private:
 LooseFiles Walk::run(Pending root) {
     m_result.rootRead = readDirectory(root);
     while (!m_pending.empty()) {
-        const Pending next = std::move(m_pending.back());
-        m_pending.pop_back();
+        const Pending next = std::move(m_pending.front());
+        m_pending.pop_front();
         readDirectory(next);
     }
     return std::move(m_result);
@@ -121,9 +122,9 @@ bool Walk::followLink(const fs::directory_entry& entry, Pending& next) {
 }
 
 void Walk::noteCatalog(std::string_view name) {
+    // Of "01.cat" and "01.CAT" the lower case counts, as it does in the view.
     std::string& noted = m_result.catalogs[lornfd::foldCase(name)];
-    noted = std::max(noted,
-                     std::string(name)); // of "01.cat" and "01.CAT" the lower case, as in the view
+    noted = std::max(noted, std::string(name));
 }
 
 void Walk::warn(const fs::path& file, std::string_view reason) {

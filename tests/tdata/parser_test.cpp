@@ -84,8 +84,8 @@ INSTANTIATE_TEST_SUITE_P(
                     SizeCase{"suns", 14, 1, 19}, SizeCase{"asteroids", 15, 1, 21},
                     SizeCase{"debris", 16, 1, 21}, SizeCase{"backgrounds", 17, 1, 38},
                     SizeCase{"nebula", 18, 14, 36}, SizeCase{"old nebula", 18, 13, 27}),
-    [](const auto& info) {
-        std::string name = info.param.what;
+    [](const auto& test) {
+        std::string name = test.param.what;
         std::replace(name.begin(), name.end(), ' ', '_');
         return name;
     });
@@ -109,33 +109,32 @@ TEST_P(LoadFailure, SaysWhy) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, LoadFailure,
-    testing::Values(FailCase{0, "1;1;0;", "Unrecognized T file."},
-                    FailCase{6, "<universe/>", "Invalid container type."}, FailCase{6, "14;0;", ""},
-                    FailCase{6, "14;-3;", ""},
-                    FailCase{99, "1;1;0;", "Unknown size of entries in file. Cannot load."},
-                    FailCase{6, "", "Error loading T file:\r\n"},
-                    FailCase{6, "x;1;", "Error loading T file:\r\n"},
-                    FailCase{6, "14;2147483647;1;2;", "test.txt"},
-                    FailCase{6, "14;2;" + repeat("0;\n", 20), "line 2"},
-                    FailCase{1, "49;1;" + repeat("0;", 53) + "x;" + repeat("0;", 20),
-                             "Error loading ship:\r\nExpected a count, not \"x\""},
-                    FailCase{1, "49;1;" + repeat("0;", 53) + "2147483647;" + repeat("0;", 20),
-                             "Error loading ship:\r\n"},
-                    FailCase{1, "49;1;" + repeat("0;", 53) + "1e300;" + repeat("0;", 20),
-                             "Error loading ship:\r\nExpected a count"},
-                    FailCase{1, "49;1;" + repeat("0;", 54) + "2147483647;" + repeat("0;", 20),
-                             "Error loading ship:\r\n"},
-                    FailCase{1,
-                             "49;1;" + repeat("0;", 54) + "1;0;0;0;2147483647;" + repeat("0;", 20),
-                             "Error loading ship:\r\n"},
-                    FailCase{19, "7;\r\n", "Unsupported version: 7"},
-                    FailCase{19, "8;\r\n1;2;", "test.txt"},
-                    FailCase{20, "1;2,x;", "Expected number, not x"},
-                    FailCase{20, "1;2,;", "Unexpected here: "},
-                    FailCase{20, "a;1;", "Expected a whole number, not \"a\""},
-                    FailCase{21, "1;2;SS_A;", "test.txt"}, FailCase{22, "", "File is empty"},
-                    FailCase{22, "a;b;1;2;x;", "Expected a whole number, not \"x\""},
-                    FailCase{22, "a;b;1;2;1;n;0;1;2;3;", "test.txt"}));
+    testing::Values(
+        FailCase{0, "1;1;0;", "Unrecognized T file."},
+        FailCase{6, "<universe/>", "Invalid container type."}, FailCase{6, "14;0;", ""},
+        FailCase{6, "14;-3;", ""},
+        FailCase{99, "1;1;0;", "Unknown size of entries in file. Cannot load."},
+        FailCase{6, "", "Error loading T file:\r\n"},
+        FailCase{6, "x;1;", "Error loading T file:\r\n"},
+        FailCase{6, "14;2147483647;1;2;", "test.txt"},
+        FailCase{6, "14;2;" + repeat("0;\n", 20), "line 2"},
+        FailCase{1, "49;1;" + repeat("0;", 53) + "x;" + repeat("0;", 20),
+                 "Error loading ship:\r\nExpected a count, not \"x\""},
+        FailCase{1, "49;1;" + repeat("0;", 53) + "2147483647;" + repeat("0;", 20),
+                 "Error loading ship:\r\n"},
+        FailCase{1, "49;1;" + repeat("0;", 53) + "1e300;" + repeat("0;", 20),
+                 "Error loading ship:\r\nExpected a count"},
+        FailCase{1, "49;1;" + repeat("0;", 54) + "2147483647;" + repeat("0;", 20),
+                 "Error loading ship:\r\n"},
+        FailCase{1, "49;1;" + repeat("0;", 54) + "1;0;0;0;2147483647;" + repeat("0;", 20),
+                 "Error loading ship:\r\n"},
+        FailCase{19, "7;\r\n", "Unsupported version: 7"}, FailCase{19, "8;\r\n1;2;", "test.txt"},
+        FailCase{20, "1;2,x;", "Expected number, not x"},
+        FailCase{20, "1;2,;", "Expected number, not "}, FailCase{20, "1;,2;", "Unexpected here: ,"},
+        FailCase{20, "a;1;", "Expected a whole number, not \"a\""},
+        FailCase{21, "1;2;SS_A;", "test.txt"}, FailCase{22, "", "File is empty"},
+        FailCase{22, "a;b;1;2;x;", "Expected a whole number, not \"x\""},
+        FailCase{22, "a;b;1;2;1;n;0;1;2;3;", "test.txt"}));
 
 TEST(Ships, RecordLengthFollowsItsCounts) {
     const std::vector<std::string> ships{ship(0, {}, "SS_0"), ship(2, {1, 0, 3}, "SS_1"),

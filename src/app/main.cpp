@@ -1,1 +1,8 @@
-int main() { return 0; }
+#include "app/Main.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    return Main();
+}

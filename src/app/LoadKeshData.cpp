@@ -1,0 +1,63 @@
+#include "app/LoadKeshData.h"
+
+#include "app/Phases.h"
+#include "core/clsSettings.h"
+#include "core/mdlCommon.h"
+#include "files/mdlPaths.h"
+#include "keshvfs/keshvfs.h"
+#include "tdata/clsArchive.h"
+#include "textres/clsDescServer.h"
+#include "ui/TextCodec.h"
+#include "ui/UserInterface.h"
+#include "ui/frmWait.h"
+
+namespace {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("LoadKeshData", text);
+}
+
+QString title() {
+    return QString::fromStdString(ProgramTitle());
+}
+
+void createView(QWidget* owner) {
+    KeshVFS_CreateVFS(Settings->DataRoot());
+    const std::string mod = Settings->ActiveModFullName();
+    if (mod.empty() || KeshVFS_AppendCatalog(mod) != 0)
+        return;
+    const QString text =
+        tr("Warning:\nError loading active mod \"%1\".\n"
+           "This is not fatal. Maybe your \"Directory with data\" is different from "
+           "real Kesh path?");
+    ShowBox(owner, title(), text.arg(QString::fromStdString(ShownPath(mod))), BoxIcon::Exclamation);
+}
+
+void loadResources(QWidget* owner) {
+    if (DescServer->LoadResources(Settings->DescLangID()) || Settings->DataRoot().empty())
+        return;
+    ShowBox(owner, title(),
+            tr("Error loading resources: ") + QStringLiteral("\n\n") +
+                ToScreen(DescServer->GetLastError()) + QStringLiteral("\n\n") +
+                tr("Object descriptions and names may be unavailable."),
+            BoxIcon::Critical);
+}
+
+} // namespace
+
+void LoadKeshData(QWidget* Owner) {
+    std::vector<Phase> phases = {
+        {"", [&] { ShowWait(title() + tr(" - scanning Kesh data files. Please wait..."), Owner); }},
+        {"KeshVFS_CreateVFS", [&] { createView(Owner); }},
+        {"Archive.Clear", [] { Archive->Clear(); }},
+    };
+    if (Settings->LoadDescriptions()) {
+        phases.push_back(
+            {"Archive.Clear",
+             [] { UpdateWait(title() + tr(" - Loading resource strings. Please wait...")); }});
+        phases.push_back({"DescServer.Unload", [] { DescServer->Unload(); }});
+        phases.push_back({"DescServer.LoadResources", [&] { loadResources(Owner); }});
+    }
+    RunPhases(phases, "LoadKeshData");
+    CloseWait(Owner);
+}

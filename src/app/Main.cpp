@@ -1,0 +1,115 @@
+#include "app/Main.h"
+
+#include "app/LoadKeshData.h"
+#include "app/Requests.h"
+#include "app/SecondInstance.h"
+#include "app/frmMain.h"
+#include "core/clsSettings.h"
+#include "core/mdlCommon.h"
+#include "keshvfs/keshvfs.h"
+#include "tdata/clsArchive.h"
+#include "tdata/mdlKeshConst.h"
+#include "textres/clsDescServer.h"
+#include "ui/Icons.h"
+#include "ui/TextCodec.h"
+#include "ui/UserInterface.h"
+#include "ui/frmWait.h"
+
+namespace {
+
+constexpr std::array viewMasks = {"types\\*",    "t\\*",       "dds\\*",
+                                  "textures\\*", "objects\\*", "maps\\*"};
+
+QString title() {
+    return QString::fromStdString(ProgramTitle());
+}
+
+QString instanceName() {
+    return InstanceName(QString::fromStdString(clsSettings().ConfigDirectory()));
+}
+
+std::string commandLine() {
+    std::vector<std::string> arguments;
+    for (const QString& argument : QCoreApplication::arguments().mid(1))
+        arguments.push_back(argument.toStdString());
+    return RequestOf(std::move(arguments), QDir::currentPath().toStdString());
+}
+
+void createServices() {
+    InitArrays();
+    Settings = std::make_unique<clsSettings>();
+    DescServer = std::make_unique<clsDescServer>();
+    Archive = std::make_unique<clsArchive>();
+}
+
+int runMessageLoop() {
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+    return QCoreApplication::exec();
+}
+
+void addViewFilters() {
+    for (const char* mask : viewMasks)
+        KeshVFS_AddVFSFilter(mask);
+    CloseWait();
+}
+
+void createLauncher(Program& started) {
+    LoadKeshData();
+    started.Launcher = std::make_unique<frmMain>();
+    started.Server = std::make_unique<InstanceServer>(instanceName(), [&](const QString& request) {
+        return started.Launcher->ProcessRequest(request.toStdString());
+    });
+}
+
+} // namespace
+
+Program::Program() = default;
+Program::~Program() = default;
+
+bool FindInstance(const std::string& CommandLine) {
+    const QString request = QString::fromStdString(std::string(RequestPrefix) + CommandLine);
+    return HandOver(instanceName(), request) == Handover::Accepted;
+}
+
+std::vector<Phase> StartUpPhases(Program& Started, const std::string& CommandLine) {
+    return {
+        {"", [] { ShowWait(title() + QCoreApplication::translate("Main", " - Starting up...")); }},
+        {"mdlKeshConst.InitArrays", createServices},
+        {"Settings.InitEnviroment", [] { Settings->InitEnviroment(); }},
+        {"KeshVFS_AddVFSFilter", addViewFilters},
+        {"LoadKeshData", [&Started] { createLauncher(Started); }},
+        {"frmMain.MyShow", [&Started, CommandLine] { Started.Launcher->MyShow(CommandLine); }},
+    };
+}
+
+bool StartUp(const std::vector<Phase>& Phases) {
+    try {
+        RunPhases(Phases, "Main");
+        return true;
+    } catch (const std::exception& failure) {
+        ShowBox(nullptr, title(),
+                QCoreApplication::translate("Main", "Error starting program: ") +
+                    ToScreen(failure.what()),
+                BoxIcon::Critical);
+        return false;
+    }
+}
+
+int Main() {
+    QGuiApplication::setWindowIcon(ToolIcon("te"));
+    const std::string arguments = commandLine();
+    if (FindInstance(arguments))
+        return EXIT_SUCCESS;
+    int result = EXIT_FAILURE;
+    {
+        Program started;
+        QGuiApplication::setQuitOnLastWindowClosed(false); // boxes come and go before the launcher
+        if (StartUp(StartUpPhases(started, arguments)))
+            result = runMessageLoop();
+        CloseWait();
+    }
+    Archive.reset();
+    DescServer.reset();
+    Settings.reset(); // removes the temporary directory
+    return result;
+}

@@ -51,6 +51,13 @@ PlainIndex readIndex(const std::string& path, std::size_t expected) {
     return index;
 }
 
+/// An index is kept until its file changes: a new time makes the driver read it again.
+std::shared_ptr<const lornfd::CatalogIndex> openAnew(const std::string& catalog) {
+    std::filesystem::last_write_time(catalog, std::filesystem::last_write_time(catalog) +
+                                                  std::chrono::seconds(1));
+    return lornfd::CatalogIndex::open(catalog);
+}
+
 std::vector<std::string> namesToRead(int files) {
     sample::Random random(7);
     std::vector<std::string> names;
@@ -123,12 +130,12 @@ std::vector<Row> catalogRows(const Options& options) {
     rows.push_back(withinRow(
         "the same", "pread alone, the data file kept open",
         eachOf(bestOf(options.rounds, ours, [&] { return readPlacesOpen(places, file); })), 2));
-    rows.push_back(
-        fasterRow("read the catalog's index", "into a std::unordered_map<std::string, ...>",
-                  bestOf(
-                      options.rounds, [&] { return lornfd::CatalogIndex::open(catalog); },
-                      [&] { return readIndex(catalog, expected); }),
-                  3));
+    rows.push_back(fasterRow("read the catalog's index",
+                             "into a std::unordered_map<std::string, ...>",
+                             bestOf(
+                                 options.rounds, [&] { return openAnew(catalog); },
+                                 [&] { return readIndex(catalog, expected); }),
+                             3));
     ::close(file);
     return rows;
 }

@@ -54,9 +54,14 @@ void addWare(LargeText& text, Random& random, int number) {
     text.endRecord();
 }
 
-GameFile smallFile(std::string name, int number) {
-    return {std::move(name), "48;1;\r\n" + spell(number) + ";0;0.5;" + spell(number * 7) + ";\r\n",
-            LORNFD_PLAIN};
+/// A T file of about 1 KB.
+GameFile smallFile(int number) {
+    constexpr int records = 8;
+    Random random(static_cast<std::uint32_t>(number));
+    LargeText text(1024);
+    for (int i = 0; i < records; ++i)
+        addWare(text, random, number * records + i);
+    return {largeEntryName(number), "48;" + spell(records) + ";\r\n" + text.take(), LORNFD_PLAIN};
 }
 
 } // namespace
@@ -82,7 +87,7 @@ bool writeLargeCatalog(const std::string& catalog, int count, std::string& error
     const auto update = lornfd::CatalogUpdate::begin(catalog, true);
     bool good = update != nullptr;
     for (int i = 0; good && i < count; ++i) {
-        const GameFile file = smallFile(largeEntryName(i), i);
+        const GameFile file = smallFile(i);
         good = update->put(file.name, file.content);
     }
     good = good && update->commit();
@@ -93,7 +98,7 @@ bool writeLargeCatalog(const std::string& catalog, int count, std::string& error
 
 bool writeLargeTree(const std::string& directory, int count, std::string& error) {
     for (int i = 0; i < count; ++i)
-        if (!writeLooseFile(directory, smallFile(largeEntryName(i), i), error))
+        if (!writeLooseFile(directory, smallFile(i), error))
             return false;
     return true;
 }

@@ -21,11 +21,11 @@ namespace sample {
 /// value.
 [[nodiscard]] std::string largeWareText(std::int64_t bytes);
 
-/// Makes a catalog of `count` small plain entries named by largeEntryName.
+/// Makes a catalog of `count` plain entries of about 1 KB, named by largeEntryName.
 [[nodiscard]] bool writeLargeCatalog(const std::string& catalog, int count, std::string& error);
 [[nodiscard]] std::string largeEntryName(int number);
 
-/// Makes `count` small files below `directory`, 100 to a directory.
+/// Makes `count` files of about 1 KB below `directory`, 100 to a directory.
 [[nodiscard]] bool writeLargeTree(const std::string& directory, int count, std::string& error);
 
 } // namespace sample

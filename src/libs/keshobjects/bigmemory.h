@@ -23,9 +23,8 @@ struct BigAllocator {
         void* const memory = count > static_cast<std::size_t>(-1) / sizeof(T)
                                  ? nullptr
                                  : allocateBig(count * sizeof(T));
-        if (memory == nullptr) {
+        if (memory == nullptr)
             throw std::bad_alloc();
-        }
         return static_cast<T*>(memory);
     }
     void deallocate(T* memory, std::size_t /*count*/) noexcept { freeBig(memory); }

@@ -23,9 +23,8 @@ public:
         std::string argument;
         bool quoted = false;
         while (!m_rest.empty() && (quoted || !isBlank(m_rest.front()))) {
-            if (takeBackslashes(argument)) {
+            if (takeBackslashes(argument))
                 continue;
-            }
             if (m_rest.front() != quote) {
                 take(1, argument);
             } else if (quoted && m_rest.starts_with("\"\"")) {
@@ -57,9 +56,8 @@ private:
         const bool beforeQuote = count < m_rest.size() && m_rest[count] == quote;
         argument.append(beforeQuote ? count / 2 : count, backslash);
         m_rest.remove_prefix(count);
-        if (beforeQuote && count % 2 == 1) {
+        if (beforeQuote && count % 2 == 1)
             take(1, argument);
-        }
         return count > 0;
     }
 
@@ -70,9 +68,8 @@ std::string quoteArgument(std::string_view argument) {
     std::string quoted(1, quote);
     std::size_t backslashes = 0;
     for (const char c : argument) {
-        if (c == quote) {
+        if (c == quote)
             quoted.append(backslashes + 1, backslash);
-        }
         backslashes = c == backslash ? backslashes + 1 : 0;
         quoted += c;
     }
@@ -91,9 +88,8 @@ bool needsQuotes(std::string_view argument) {
 std::vector<std::string> Kesh_CommandLineToArgV(std::string_view CommandLine) {
     keshobjects::Splitter splitter(CommandLine);
     std::vector<std::string> arguments;
-    while (splitter.toNextArgument()) {
+    while (splitter.toNextArgument())
         arguments.push_back(splitter.argument());
-    }
     return arguments;
 }
 

@@ -44,19 +44,16 @@ std::optional<char32_t> takeUtf8(std::string_view& bytes) noexcept {
     const unsigned char first = byteAt(bytes, 0);
     const auto ones = static_cast<std::size_t>(std::countl_one(first));
     const std::size_t length = ones == 0 ? 1 : ones;
-    if (ones == 1 || ones > 4 || length > bytes.size()) {
+    if (ones == 1 || ones > 4 || length > bytes.size())
         return std::nullopt;
-    }
     char32_t character = first & (0xFFU >> ones);
     for (std::size_t i = 1; i < length; ++i) {
-        if ((byteAt(bytes, i) & 0xC0U) != 0x80U) {
+        if ((byteAt(bytes, i) & 0xC0U) != 0x80U)
             return std::nullopt;
-        }
         character = character << 6U | (byteAt(bytes, i) & 0x3FU);
     }
-    if (character < smallest[length] || character >= behindUnicode || isSurrogate(character)) {
+    if (character < smallest[length] || character >= behindUnicode || isSurrogate(character))
         return std::nullopt;
-    }
     bytes.remove_prefix(length);
     return character;
 }
@@ -84,9 +81,8 @@ bool appendUtf8(char32_t character, std::string& bytes) {
 
 template <std::endian Order>
 std::optional<char32_t> unitAt(std::string_view bytes, std::size_t at) noexcept {
-    if (at + 2 > bytes.size()) {
+    if (at + 2 > bytes.size())
         return std::nullopt;
-    }
     const char32_t first = byteAt(bytes, at);
     const char32_t second = byteAt(bytes, at + 1);
     return Order == std::endian::big ? first << 8U | second : second << 8U | first;
@@ -99,9 +95,8 @@ std::optional<char32_t> takeUtf16(std::string_view& bytes) noexcept {
     if (character && isSurrogate(*character)) {
         const auto low = unitAt<Order>(bytes, 2);
         if (*character >= firstLowSurrogate || !low || *low < firstLowSurrogate ||
-            *low >= behindSurrogates) {
+            *low >= behindSurrogates)
             return std::nullopt;
-        }
         character =
             firstAstral + ((*character - firstSurrogate) << 10U) + (*low - firstLowSurrogate);
         length = 4;
@@ -134,18 +129,16 @@ bool appendUtf16(char32_t character, std::string& bytes) {
 template <char32_t Size>
 std::optional<char32_t> takeByte(std::string_view& bytes) noexcept {
     const char32_t character = byteAt(bytes, 0);
-    if (character >= Size) {
+    if (character >= Size)
         return std::nullopt;
-    }
     bytes.remove_prefix(1);
     return character;
 }
 
 template <char32_t Size>
 bool appendAsByte(char32_t character, std::string& bytes) {
-    if (character >= Size) {
+    if (character >= Size)
         return false;
-    }
     appendByte(character, bytes);
     return true;
 }
@@ -154,9 +147,8 @@ std::optional<char32_t> takeWindows(std::string_view& bytes) noexcept {
     char32_t character = byteAt(bytes, 0);
     if (character >= firstWindows && character < behindWindows) {
         character = windowsCharacters[character - firstWindows];
-        if (character == 0) {
+        if (character == 0)
             return std::nullopt;
-        }
     }
     bytes.remove_prefix(1);
     return character;
@@ -169,9 +161,8 @@ bool appendWindows(char32_t character, std::string& bytes) {
     }
     const auto* const found = std::find(std::begin(windowsCharacters), std::end(windowsCharacters),
                                         static_cast<char16_t>(character));
-    if (character >= firstAstral || character < 0x100 || found == std::end(windowsCharacters)) {
+    if (character >= firstAstral || character < 0x100 || found == std::end(windowsCharacters))
         return false;
-    }
     appendByte(firstWindows + static_cast<char32_t>(found - windowsCharacters), bytes);
     return true;
 }

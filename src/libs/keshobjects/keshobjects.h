@@ -55,9 +55,11 @@ std::int32_t Kesh_DeleteHandle(std::int32_t Parent, std::int32_t Object);
 
 /// Reads the next value and steps over it and its ";".
 std::int32_t Kesh_TXTLoadValue(std::int32_t Text, std::int32_t Kind, KeshValue& Value);
+/// The type of the token at the read position; 0 on failure (a remark that never ends). In jobs
+/// mode the end comes only where nothing but blanks and line breaks follows the start of a line.
 std::int32_t Kesh_TXTGetTokenType(std::int32_t Text);
-/// The token at the read position, without stepping over it. In jobs mode right behind a value's
-/// ";" it is the raw rest of the line.
+/// The token at the read position as text, without stepping over it. In jobs mode right behind a
+/// value's ";" it is the raw rest of the line.
 std::int32_t Kesh_TXTGetTokenValue(std::int32_t Text, KeshValue& Value);
 /// Steps over tokens; over a value also its ";", over a raw rest of line its line break.
 std::int32_t Kesh_TXTAdvance(std::int32_t Text, std::int32_t Count);

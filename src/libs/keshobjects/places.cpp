@@ -10,21 +10,18 @@ std::optional<Number> readAt(std::string_view text, KeshPlace place) noexcept {
     const char* const last = text.data() + text.size();
     Number number{};
     const char* end = parseNumber(text.data() + place, last, number);
-    if (end == nullptr) {
+    if (end == nullptr)
         return std::nullopt;
-    }
-    while (end != last && isBlank(*end)) {
+    while (end != last && isBlank(*end))
         ++end;
-    }
     return end == last || *end == ';' ? std::optional(number) : std::nullopt;
 }
 
 } // namespace
 
 std::string_view trimEnd(std::string_view text) noexcept {
-    while (!text.empty() && isBlank(text.back())) {
+    while (!text.empty() && isBlank(text.back()))
         text.remove_suffix(1);
-    }
     return text;
 }
 

@@ -75,9 +75,8 @@ inline std::int64_t cutVector(const char* begin, const char*& at, std::int64_t c
         for (std::uint64_t ends = masks.ends & beforeOdd; ends != 0; ends &= ends - 1) {
             places[cut++] = static_cast<KeshPlace>(at - begin);
             at = from + std::countr_zero(ends) + 1;
-            if (cut == count) {
+            if (cut == count)
                 return cut;
-            }
         }
     }
     return cut;

@@ -25,9 +25,8 @@ bool startsRemark(const char* at) noexcept {
 std::unique_ptr<Tokenizer> Tokenizer::create(std::size_t size, std::string name, bool remarks) {
     auto made = std::make_unique<Tokenizer>();
     made->m_begin.reset(static_cast<char*>(allocateBig(size + textSlack)));
-    if (made->m_begin == nullptr) {
+    if (made->m_begin == nullptr)
         return nullptr;
-    }
     made->m_size = size;
     made->m_name = std::move(name);
     made->m_remarks = remarks;
@@ -64,34 +63,29 @@ std::nullptr_t Tokenizer::fail(KeshObjectsError code, const char* at) noexcept {
 
 char* Tokenizer::endOfRemark(char* from) {
     const std::string_view rest(from, static_cast<std::size_t>(end() - from));
-    if (from[1] == '/') {
+    if (from[1] == '/')
         return std::find_if(from, end(), isLineBreak);
-    }
     const std::size_t close = rest.find("*/", 2);
     return close == rest.npos ? fail(KESH_E_REMARK, from) : from + close + 2;
 }
 
 char* Tokenizer::skipBlanks(char* from) {
-    while (from != nullptr) {
-        if (isBlank(*from)) {
+    while (from != nullptr)
+        if (isBlank(*from))
             ++from;
-        } else if (m_remarks && startsRemark(from)) {
+        else if (m_remarks && startsRemark(from))
             from = endOfRemark(from);
-        } else {
+        else
             break;
-        }
-    }
     return from;
 }
 
 /// The ";" (or ",") behind the value that starts at `from`, or the end of the text.
 char* Tokenizer::endOfValue(char* from, Stop stop) {
-    if (!m_remarks) {
+    if (!m_remarks)
         return std::find(from, end(), ';');
-    }
-    if (stop == Stop::AtListSeparator) {
+    if (stop == Stop::AtListSeparator)
         return dropRemarks(from, stop);
-    }
     char* const to = std::find_if(from, end(), [](char c) { return c == ';' || c == '/'; });
     return to == end() || *to == ';' ? to : dropRemarks(to, stop);
 }
@@ -109,9 +103,8 @@ char* Tokenizer::dropRemarks(char* from, Stop stop) {
             continue;
         }
         behind = endOfRemark(from);
-        if (behind == nullptr) {
+        if (behind == nullptr)
             break;
-        }
         lines += countLineBreaks({from, behind});
         from = behind;
     }
@@ -145,9 +138,8 @@ std::int64_t Tokenizer::values(std::int64_t count, KeshPlace* places, bool& writ
             m_behindValue = true;
             read += run;
         }
-        if (read < count && !oddValue(places[read], read == 0, written)) {
+        if (read < count && !oddValue(places[read], read == 0, written))
             return read;
-        }
     }
     return std::max<std::int64_t>(count, 0);
 }
@@ -155,9 +147,8 @@ std::int64_t Tokenizer::values(std::int64_t count, KeshPlace* places, bool& writ
 bool Tokenizer::oddValue(KeshPlace& place, bool first, bool& written) {
     char* const from = skipBlanks(m_at);
     char* const to = from == nullptr ? nullptr : endOfValue(from, Stop::AtEndSign);
-    if (to == nullptr) {
+    if (to == nullptr)
         return false;
-    }
     if (to == end() && from == to) {
         fail(KESH_E_END, from);
         return false;
@@ -179,17 +170,14 @@ std::optional<KeshPlace> Tokenizer::raw() {
 }
 
 std::optional<std::int32_t> Tokenizer::tokenType() {
-    if (atRawToken()) {
+    if (atRawToken())
         return KESH_TOKEN_VALUE;
-    }
     char* const at = skipBlanks(m_at);
-    if (at == nullptr) {
+    if (at == nullptr)
         return std::nullopt;
-    }
     m_at = at;
-    if (at == end()) {
+    if (at == end())
         return KESH_TOKEN_END;
-    }
     return *at == ',' && m_remarks ? KESH_TOKEN_LIST_SEPARATOR : KESH_TOKEN_VALUE;
 }
 
@@ -209,9 +197,8 @@ char* Tokenizer::endOfToken(std::int32_t type) {
 std::optional<std::string_view> Tokenizer::token() {
     const auto type = tokenType();
     const char* const to = type ? endOfToken(*type) : nullptr;
-    if (to == nullptr) {
+    if (to == nullptr)
         return std::nullopt;
-    }
     const std::string_view spelling(m_at, to);
     return atRawToken() ? spelling : trimEnd(spelling);
 }
@@ -219,9 +206,8 @@ std::optional<std::string_view> Tokenizer::token() {
 bool Tokenizer::advance() {
     const auto type = tokenType();
     char* const to = type ? endOfToken(*type) : nullptr;
-    if (to == nullptr) {
+    if (to == nullptr)
         return false;
-    }
     if (atRawToken()) {
         m_at = behindLineBreak(to);
         m_behindValue = false;

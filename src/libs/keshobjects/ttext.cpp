@@ -30,9 +30,8 @@ std::vector<Text>& texts() {
 std::int32_t addText(Text text) {
     auto& table = texts();
     auto free = std::find(table.begin(), table.end(), nullptr);
-    if (free == table.end()) {
+    if (free == table.end())
         free = table.emplace(free);
-    }
     *free = std::move(text);
     return static_cast<std::int32_t>(free - table.begin()) + 1;
 }
@@ -43,9 +42,8 @@ Tokenizer* findText(std::int32_t handle) {
     // 0 and negative handles become large positions.
     const auto position = static_cast<std::uint32_t>(handle) - 1U;
     Tokenizer* const text = position < table.size() ? table[position].get() : nullptr;
-    if (text == nullptr) {
+    if (text == nullptr)
         lastError().set(KESH_E_HANDLE, {{}, {}, std::to_string(handle)});
-    }
     return text;
 }
 
@@ -77,9 +75,8 @@ Text makeText(std::uint64_t size, const std::string& name) {
         return nullptr;
     }
     Text text = Tokenizer::create(size, name, !ignoreRemarks);
-    if (text == nullptr) {
+    if (text == nullptr)
         lastError().set(KESH_E_READ, {{}, {}, "Not enough memory for \"" + name + "\"."});
-    }
     return text;
 }
 
@@ -87,15 +84,13 @@ Text makeText(std::uint64_t size, const std::string& name) {
 template <typename Read>
 std::int32_t load(std::uint64_t size, const std::string& name, Read read) {
     Text text = makeText(size, name);
-    if (text == nullptr) {
+    if (text == nullptr)
         return 0;
-    }
     for (std::size_t done = 0; done < size;) {
         char* const to = text->data() + done;
         const std::size_t piece = std::min<std::size_t>(size - done, loadPiece);
-        if (!read(to, piece)) {
+        if (!read(to, piece))
             return lastError().set(KESH_E_READ, {{}, {}, driverReason()});
-        }
         if (const void* nul = std::memchr(to, 0, piece)) {
             return fail(KESH_E_NUL, *text,
                         static_cast<std::size_t>(static_cast<const char*>(nul) - text->data()));
@@ -117,14 +112,12 @@ void Kesh_TXTIgnoreRemarks(std::int32_t Flag) {
 
 std::int32_t Kesh_LoadFromFile(std::int32_t File, std::int32_t Kind) {
     lastError().clear();
-    if (Kind != 0 && Kind != 1) {
+    if (Kind != 0 && Kind != 1)
         return lastError().set(KESH_E_ARGUMENT, {{}, {}, "kind " + std::to_string(Kind)});
-    }
     const std::string name = LornFD_FileName(File);
     const std::int64_t size = LornFD_FileSize(File);
-    if (size < 0) {
+    if (size < 0)
         return lastError().set(KESH_E_READ, {{}, {}, driverReason()});
-    }
     return load(static_cast<std::uint64_t>(size), name, [File](char* to, std::size_t piece) {
         const auto count = static_cast<std::int64_t>(piece);
         return LornFD_ReadFile(File, to, count) == count;
@@ -142,29 +135,25 @@ std::int32_t Kesh_LoadFromMemory(std::string_view Text, std::string_view Name) {
 
 std::int32_t Kesh_GetObjectType(std::int32_t Text) {
     const Tokenizer* const text = textOf(Text);
-    if (text == nullptr) {
+    if (text == nullptr)
         return 0;
-    }
     return text->looksLikeXml() ? KESH_TYPE_XML_TEXT : KESH_TYPE_T_TEXT;
 }
 
 std::int32_t Kesh_DeleteHandle(std::int32_t /*Parent*/, std::int32_t Object) {
-    if (textOf(Object) == nullptr) {
+    if (textOf(Object) == nullptr)
         return 0;
-    }
     texts()[static_cast<std::uint32_t>(Object) - 1U].reset();
     return 1;
 }
 
 std::int32_t Kesh_TXTLoadValue(std::int32_t Text, std::int32_t Kind, KeshValue& Value) {
     Tokenizer* const text = textOf(Text);
-    if (text == nullptr) {
+    if (text == nullptr)
         return 0;
-    }
     const auto place = text->value();
-    if (!place) {
+    if (!place)
         return fail(*text);
-    }
     const std::string_view spelling = valueAt(text->text(), *place);
     if (Kind == KESH_VALUE_STRING) {
         Value = std::string(spelling);
@@ -185,64 +174,53 @@ std::int32_t Kesh_TXTLoadValue(std::int32_t Text, std::int32_t Kind, KeshValue& 
 
 std::int32_t Kesh_TXTGetTokenType(std::int32_t Text) {
     Tokenizer* const text = textOf(Text);
-    if (text == nullptr) {
+    if (text == nullptr)
         return 0;
-    }
     const auto type = text->tokenType();
     return type ? *type : fail(*text);
 }
 
 std::int32_t Kesh_TXTGetTokenValue(std::int32_t Text, KeshValue& Value) {
     Tokenizer* const text = textOf(Text);
-    if (text == nullptr) {
+    if (text == nullptr)
         return 0;
-    }
     const auto token = text->token();
-    if (!token) {
+    if (!token)
         return fail(*text);
-    }
     Value = std::string(*token);
     return 1;
 }
 
 std::int32_t Kesh_TXTAdvance(std::int32_t Text, std::int32_t Count) {
     Tokenizer* const text = textOf(Text);
-    if (text == nullptr) {
+    if (text == nullptr)
         return 0;
-    }
-    if (Count < 0) {
+    if (Count < 0)
         return lastError().set(KESH_E_ARGUMENT, {{}, {}, "count " + std::to_string(Count)});
-    }
-    for (std::int32_t i = 0; i < Count; ++i) {
-        if (!text->advance()) {
+    for (std::int32_t i = 0; i < Count; ++i)
+        if (!text->advance())
             return fail(*text);
-        }
-    }
     return 1;
 }
 
 std::int64_t Kesh_TXTLoadPlaces(std::int32_t Text, std::int64_t Count, KeshPlace* Places,
                                 bool& Written) {
     Tokenizer* const text = textOf(Text);
-    if (text == nullptr) {
+    if (text == nullptr)
         return 0;
-    }
     const std::int64_t read = text->values(Count, Places, Written);
-    if (read < Count) {
+    if (read < Count)
         fail(*text);
-    }
     return read;
 }
 
 std::int32_t Kesh_TXTGetRawPlace(std::int32_t Text, KeshPlace& Place) {
     Tokenizer* const text = textOf(Text);
-    if (text == nullptr) {
+    if (text == nullptr)
         return 0;
-    }
     const auto place = text->raw();
-    if (!place) {
+    if (!place)
         return fail(*text);
-    }
     Place = *place;
     return 1;
 }
@@ -259,9 +237,8 @@ std::string Kesh_TXTDescribePlace(std::int32_t Text, KeshPlace Place) {
 
 std::int32_t Kesh_TXTWriteFile(std::int32_t File, std::string_view Text) {
     lastError().clear();
-    if (LornFD_WriteFile(File, Text.data(), static_cast<std::int64_t>(Text.size())) == 0) {
+    if (LornFD_WriteFile(File, Text.data(), static_cast<std::int64_t>(Text.size())) == 0)
         return lastError().set(KESH_E_WRITE, {{}, {}, driverReason()});
-    }
     return 1;
 }
 

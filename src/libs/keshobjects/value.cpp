@@ -17,9 +17,8 @@ template <typename Number>
 std::optional<Number> readWhole(std::string_view text) noexcept {
     const char* const last = text.data() + text.size();
     Number number{};
-    if (parseNumber(text.data(), last, number) != last) {
+    if (parseNumber(text.data(), last, number) != last)
         return std::nullopt;
-    }
     return number;
 }
 
@@ -31,12 +30,10 @@ struct Spelling {
 };
 
 std::optional<double> asNumber(const KeshValue& value) noexcept {
-    if (const auto* integer = std::get_if<std::int32_t>(&value)) {
+    if (const auto* integer = std::get_if<std::int32_t>(&value))
         return *integer;
-    }
-    if (const auto* real = std::get_if<double>(&value)) {
+    if (const auto* real = std::get_if<double>(&value))
         return *real;
-    }
     return std::nullopt;
 }
 
@@ -51,12 +48,10 @@ std::optional<std::int32_t> readInteger(std::string_view text) noexcept {
 }
 
 KeshValue readValue(std::string_view text) {
-    if (const auto integer = readInteger(text)) {
+    if (const auto integer = readInteger(text))
         return *integer;
-    }
-    if (const auto number = readNumber(text)) {
+    if (const auto number = readNumber(text))
         return *number;
-    }
     return std::string(text);
 }
 

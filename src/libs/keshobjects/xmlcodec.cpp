@@ -26,17 +26,14 @@ std::string_view declaredEncoding(std::string_view text) {
     constexpr std::string_view attribute = "encoding";
     const std::string_view declaration = text.substr(0, text.find("?>"));
     const std::size_t found = declaration.find(attribute);
-    if (!declaration.starts_with(opening) || found == declaration.npos) {
+    if (!declaration.starts_with(opening) || found == declaration.npos)
         return {};
-    }
     std::string_view rest = trimStart(declaration.substr(found + attribute.size()));
-    if (!rest.starts_with('=')) {
+    if (!rest.starts_with('='))
         return {};
-    }
     rest = trimStart(rest.substr(1));
-    if (!rest.starts_with('"') && !rest.starts_with('\'')) {
+    if (!rest.starts_with('"') && !rest.starts_with('\''))
         return {};
-    }
     const char quote = rest.front();
     rest.remove_prefix(1);
     return rest.substr(0, rest.find(quote));
@@ -44,13 +41,11 @@ std::string_view declaredEncoding(std::string_view text) {
 
 /// The named encoding, UTF-8 for no name, or null with the last error set.
 const Encoding* encodingNamed(std::string_view encoding, std::string_view file) {
-    if (encoding.empty()) {
+    if (encoding.empty())
         return &utf8();
-    }
     const Encoding* const found = findEncoding(encoding);
-    if (found == nullptr) {
+    if (found == nullptr)
         lastError().set(KESH_E_ENCODING, {std::string(file), {}, std::string(encoding)});
-    }
     return found;
 }
 
@@ -79,17 +74,14 @@ std::size_t convert(std::string_view bytes, const Encoding& from, const Encoding
             const std::string_view start = asciiStart(rest);
             converted += start;
             rest.remove_prefix(start.size());
-            if (rest.empty()) {
+            if (rest.empty())
                 break;
-            }
         }
         const auto character = from.take(rest);
-        if (!character) {
+        if (!character)
             return bytes.size() - rest.size();
-        }
-        if (!to.append(*character, converted)) {
+        if (!to.append(*character, converted))
             appendReference(*character, converted);
-        }
     }
     return bytes.npos;
 }
@@ -110,9 +102,8 @@ std::string hexByte(char byte) {
 
 /// The path behind a "vfs://" name, other names as they are; empty with the last error set.
 std::string realName(std::string_view name) {
-    if (!lornfd::equalNoCase(name.substr(0, viewPrefix.size()), viewPrefix)) {
+    if (!lornfd::equalNoCase(name.substr(0, viewPrefix.size()), viewPrefix))
         return std::string(name);
-    }
     VFSFindData data;
     const std::int32_t find = KeshVFS_FindFirstFile(name.substr(viewPrefix.size()), data);
     if (find == 0) {
@@ -138,15 +129,12 @@ std::int32_t Kesh_DecodeXML(std::string_view Bytes, std::string_view Name, std::
     const Signature signature = findSignature(Bytes);
     const std::string_view content = Bytes.substr(signature.mark.size());
     const Encoding* encoding = signature.encoding;
-    if (encoding == nullptr) {
+    if (encoding == nullptr)
         encoding = encodingNamed(declaredEncoding(Bytes), Name);
-    }
-    if (encoding == nullptr) {
+    if (encoding == nullptr)
         return 0;
-    }
-    if (!encoding->holdsAscii && signature.encoding == nullptr) {
+    if (!encoding->holdsAscii && signature.encoding == nullptr)
         return failDecoding(Name, {}, 0, "the byte order mark of UTF-16 is missing");
-    }
     std::string text;
     text.reserve(content.size());
     const std::size_t bad = convert(content, *encoding, utf8(), text);
@@ -165,9 +153,8 @@ std::int32_t Kesh_DecodeXML(std::string_view Bytes, std::string_view Name, std::
 std::int32_t Kesh_EncodeXML(std::string_view Text, std::string_view Name, std::string& Bytes) {
     lastError().clear();
     const Encoding* const encoding = encodingNamed(declaredEncoding(Text), Name);
-    if (encoding == nullptr) {
+    if (encoding == nullptr)
         return 0;
-    }
     std::string bytes(encoding->mark);
     bytes.reserve(bytes.size() + Text.size());
     const std::size_t bad = convert(Text, utf8(), *encoding, bytes);
@@ -182,14 +169,12 @@ std::int32_t Kesh_EncodeXML(std::string_view Text, std::string_view Name, std::s
 std::int32_t Kesh_DecodeXMLFile(std::string_view Name, std::string& Text) {
     lastError().clear();
     const std::string path = realName(Name);
-    if (path.empty() && lastError().code() != KESH_OK) {
+    if (path.empty() && lastError().code() != KESH_OK)
         return 0;
-    }
     const std::int32_t file =
         LornFD_OpenFile(path, LORNFD_READ, LORNFD_OPEN_EXISTING, LORNFD_AS_IS);
-    if (file == 0) {
+    if (file == 0)
         return failByDriver(KESH_E_READ);
-    }
     const std::string_view bytes = LornFD_ViewFile(file);
     const std::int32_t done = bytes.data() == nullptr
                                   ? failByDriver(KESH_E_READ)
@@ -201,13 +186,11 @@ std::int32_t Kesh_DecodeXMLFile(std::string_view Name, std::string& Text) {
 std::int32_t Kesh_EncodeXMLFile(std::string_view Name, std::string_view Text,
                                 std::int32_t FileType) {
     std::string bytes;
-    if (Kesh_EncodeXML(Text, Name, bytes) == 0) {
+    if (Kesh_EncodeXML(Text, Name, bytes) == 0)
         return 0;
-    }
     const std::int32_t file = LornFD_OpenFile(Name, LORNFD_WRITE, LORNFD_CREATE, FileType);
-    if (file == 0) {
+    if (file == 0)
         return failByDriver(KESH_E_WRITE);
-    }
     if (Kesh_TXTWriteFile(file, bytes) == 0) {
         LornFD_AbandonFile(file);
         return 0;

@@ -1,1 +1,132 @@
-int main() { return 0; }
+// keshtool: the game's files from the command line. Exit codes: 0 done, 1 done with findings, 2
+// wrong usage, 3 failed. Data goes to standard output, messages to standard error.
+
+#include "commands.h"
+#include "core/mdlCommon.h"
+#include "lornfd/lornfd.h"
+#include "tdata/mdlKeshConst.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <map>
+
+namespace {
+
+enum Option : unsigned {
+    NoOption = 0,
+    Json = 1,
+    Type = 2,
+    Create = 4,
+    Optional = 8, ///< its path need not be given
+    Several = 16, ///< any number of paths
+};
+
+struct Row {
+    const char* name;
+    Command command;
+    std::initializer_list<const char*> paths; ///< as the help names them
+    unsigned options;
+    const char* help;
+};
+
+const Row Commands[] = {
+    {"dump", dump, {"PATH"}, Json, "Print the records of a T file: index, ID and values"},
+    {"convert",
+     convert,
+     {"IN", "OUT"},
+     Type,
+     "Load a T file and save it; without --type OUT is zstd if it ends in .pck, else plain"},
+    {"cat", cat, {"PATH"}, NoOption, "Print a file's unpacked bytes"},
+    {"ls",
+     ls,
+     {"MASK"},
+     Optional,
+     "List the merged view, or what a mask matches: name, tab, real place"},
+    {"pack",
+     pack,
+     {"DIR", "CATALOG"},
+     Type,
+     "Put all files below a directory into a catalog, as they are or in the form of --type"},
+    {"unpack",
+     unpack,
+     {"CATALOG", "DIR"},
+     NoOption,
+     "Write all entries of a catalog, unpacked, below a directory"},
+    {"put", put, {"FILE", "PATH"}, Type | Create, "Put one file into a catalog or onto the disk"},
+    {"rm", rm, {"ENTRY"}, NoOption, "Take an entry (CATALOG::ENTRY) out of its catalog"},
+    {"verify",
+     verify,
+     {"PATH"},
+     Several,
+     "Read everything in catalogs or files and print a line for each finding"},
+};
+
+void addPaths(CLI::App& command, const Row& row, Arguments& arguments) {
+    if (row.options & Several) {
+        command.add_option(*row.paths.begin(), arguments.paths)->required();
+        return;
+    }
+    for (const char* path : row.paths) {
+        const auto take = [&](const std::string& text) { arguments.paths.push_back(text); };
+        command.add_option_function<std::string>(path, take)->required(!(row.options & Optional));
+    }
+}
+
+void addCommand(CLI::App& app, const Row& row, Arguments& arguments) {
+    CLI::App* command = app.add_subcommand(row.name, row.help)->fallthrough();
+    addPaths(*command, row, arguments);
+    if (row.options & Json)
+        command->add_flag("--json", arguments.json, "As JSON");
+    if (row.options & Type)
+        command
+            ->add_option("--type", arguments.fileType,
+                         "The form that is stored: plain, gzip or zstd")
+            ->transform(CLI::CheckedTransformer(std::map<std::string, std::int32_t>{
+                {"plain", LORNFD_PLAIN}, {"gzip", LORNFD_GZIP}, {"zstd", LORNFD_ZSTD}}));
+    if (row.options & Create)
+        command->add_flag("--create", arguments.create, "Make the catalog if there is none");
+}
+
+ExitCode run(int argc, char** argv) {
+    CLI::App app(
+        "Reads, changes and checks the game's files.\nA PATH is a file, CATALOG::ENTRY, or "
+        "vfs://NAME in the merged view.",
+        "keshtool");
+    GameView view;
+    Arguments arguments;
+    app.add_option("--data", view.dataRoot, "The game's directory, below which vfs:// looks");
+    app.add_option("--mod", view.mods, "A catalog laid over the view; may be given more than once")
+        ->allow_extra_args(false);
+    app.set_version_flag("--version", ProgramID());
+    app.require_subcommand(1);
+    for (const Row& row : Commands)
+        addCommand(app, row, arguments);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? Done : WrongUsage;
+    }
+    InitArrays();
+    for (const Row& row : Commands)
+        if (app.got_subcommand(row.name))
+            return row.command(view, arguments);
+    return WrongUsage;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const ExitCode code = run(argc, argv);
+        if (std::fflush(stdout) != 0)
+            throw Failure("Standard output could not be written.");
+        return code;
+    } catch (const Failure& failure) {
+        complain(failure.what());
+        return failure.code;
+    } catch (const std::exception& error) {
+        complain(error.what());
+        return Failed;
+    }
+}

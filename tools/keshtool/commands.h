@@ -1,0 +1,32 @@
+// The commands. Each gives an exit code and throws Failure where it cannot go on.
+#pragma once
+
+#include "tool.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// What a command line says beside the command; each command reads its own.
+struct Arguments {
+    std::vector<std::string> paths;
+    std::optional<std::int32_t> fileType; ///< LORNFD_PLAIN, LORNFD_GZIP or LORNFD_ZSTD
+    bool json = false;
+    bool create = false;
+};
+
+using Command = ExitCode (*)(GameView&, const Arguments&);
+
+// Records
+ExitCode dump(GameView& view, const Arguments& arguments);
+ExitCode convert(GameView& view, const Arguments& arguments);
+// Contents
+ExitCode cat(GameView& view, const Arguments& arguments);
+ExitCode ls(GameView& view, const Arguments& arguments);
+// Catalogs
+ExitCode pack(GameView& view, const Arguments& arguments);
+ExitCode unpack(GameView& view, const Arguments& arguments);
+ExitCode put(GameView& view, const Arguments& arguments);
+ExitCode rm(GameView& view, const Arguments& arguments);
+ExitCode verify(GameView& view, const Arguments& arguments);

@@ -1,0 +1,63 @@
+#include "commands.h"
+#include "json.h"
+#include "lornfd/lornfd.h"
+#include "lornfd/paths.h"
+#include "tfile.h"
+
+#include <algorithm>
+
+namespace {
+
+void dumpJson(const clsTxtParser& parser) {
+    print("{\"type\":" + std::to_string(parser.otype()) +
+          ",\"version\":" + std::to_string(parser.Version()) + ",\"records\":[");
+    std::string text;
+    for (const RecordPtr& record : parser.ByIndex()) {
+        text += record->Index > 0 ? ",{\"index\":" : "{\"index\":";
+        text += std::to_string(record->Index) + ",\"id\":" + jsonText(record->ObjectName()) +
+                ",\"values\":[";
+        for (std::int32_t i = 0; i < record->size(); ++i)
+            text.append(i > 0 ? "," : "").append(jsonValue(*record, i));
+        print(text + "]}");
+        text.clear();
+    }
+    print("]}\n");
+}
+
+void dumpText(const clsTxtParser& parser) {
+    for (const RecordPtr& record : parser.ByIndex())
+        print(std::to_string(record->Index) + '\t' + std::string(record->ObjectName()) + '\t' +
+              record->GetObjectTData() + '\n');
+}
+
+/// The form that a name asks for: packed for ".pck", else plain.
+std::int32_t fileTypeOf(const std::string& path) {
+    const std::string folded = lornfd::foldCase(path);
+    return folded.ends_with(".pck") ? LORNFD_ZSTD : LORNFD_PLAIN;
+}
+
+} // namespace
+
+ExitCode dump(GameView& view, const Arguments& arguments) {
+    clsTxtParser parser;
+    loadTFile(parser, view.realPath(arguments.paths[0]));
+    if (arguments.json)
+        dumpJson(parser);
+    else
+        dumpText(parser);
+    return Done;
+}
+
+ExitCode convert(GameView& view, const Arguments& arguments) {
+    const std::string from = view.realPath(arguments.paths[0]);
+    const std::string to = view.realPath(arguments.paths[1]);
+    clsTxtParser parser;
+    loadTFile(parser, from);
+    if (parser.ByIndex().empty())
+        throw tFileFailure(from, "There is no record in it, so nothing was saved.");
+    OutputFile out(to, arguments.fileType.value_or(fileTypeOf(to)));
+    if (!parser.Save(out.handle()))
+        throw tFileFailure(to, parser.GetLastError());
+    out.commit();
+    return Done;
+}

@@ -82,8 +82,9 @@ std::string placeOf(const fs::path& directory, std::string_view entry) {
         throw Failure("\"" + std::string(entry) + "\" is no name that may be written.");
     const std::string target =
         lornfd::resolvePath(FromPlatform(directory.string()) + '\\' + std::string(entry));
-    if (!contains(directory, fs::weakly_canonical(target)))
-        throw Failure("\"" + target + "\" lies outside \"" + directory.string() + "\".");
+    if (fs::is_symlink(target) || !contains(directory, fs::weakly_canonical(target)))
+        throw Failure("\"" + target + "\" is a link that may lead out of \"" + directory.string() +
+                      "\".");
     fs::create_directories(fs::path(target).parent_path());
     return FromPlatform(target);
 }
@@ -119,19 +120,14 @@ ExitCode unpack(GameView& view, const Arguments& arguments) {
     const std::string to = lornfd::resolvePath(view.realPath(arguments.paths[1]));
     fs::create_directories(to);
     const fs::path directory = fs::canonical(to);
-    std::set<std::string> written;
     ExitCode code = Done;
     for (std::size_t i = 0; i < index->size(); ++i) {
         const std::string name(index->entry(i).name);
         try {
-            const std::string target = placeOf(directory, name);
-            if (!written.insert(lornfd::foldCase(name)).second)
-                throw Failure("\"" + name + "\" differs from another entry only in case.",
-                              Findings);
-            copyFile(catalog + "::" + name, target, LORNFD_PLAIN);
-        } catch (const Failure& failure) {
+            copyFile(catalog + "::" + name, placeOf(directory, name), LORNFD_PLAIN);
+        } catch (const std::exception& failure) {
             complain(failure.what());
-            code = std::max(code, failure.code);
+            code = Failed;
         }
     }
     return code;

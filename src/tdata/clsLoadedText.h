@@ -1,6 +1,7 @@
 // The text of one loaded T file with the places of its values; shared by every record read from it.
 #pragma once
 
+#include "keshobjects/bigmemory.h"
 #include "keshobjects/places.h"
 
 #include <cstdint>
@@ -11,7 +12,7 @@
 /// Leaves new elements as they are: a hundred megabytes of places need not be zeroed before they
 /// are read.
 template <class T>
-struct UnsetAllocator : std::allocator<T> {
+struct UnsetAllocator : keshobjects::BigAllocator<T> {
     template <class U>
     struct rebind {
         using other = UnsetAllocator<U>;

@@ -14,7 +14,7 @@ namespace {
 
 // Records come in one block: hundreds of thousands of single allocations would cost more than the
 // parsing.
-using RecordBlock = std::vector<clsTXTObject>;
+using RecordBlock = std::vector<clsTXTObject, keshobjects::BigAllocator<clsTXTObject>>;
 
 class Loader {
 public:
@@ -43,6 +43,7 @@ private:
     [[nodiscard]] KeshPlace ReadWholePlace();
     [[nodiscard]] KeshPlace ReadRawPlace() const;
     [[nodiscard]] std::string ReadNumber(bool& more) const;
+    void SkipBlankRestOfLine() const;
     void ReadPlaces(std::int64_t count);
     [[nodiscard]] std::int32_t CountAt(std::int64_t indexInRecord) const;
     [[nodiscard]] std::string_view SpellingOf(KeshPlace place) const {
@@ -188,6 +189,7 @@ bool Loader::LoadJobs() {
                      [this](const Layout& row) { return row.version == m_result.version; });
     if (layout == std::end(layouts))
         return Fail("Unsupported version: " + std::to_string(m_result.version));
+    SkipBlankRestOfLine();
     while (!IsEOF()) {
         BeginRecord();
         ReadPlaces(layout->fields - 1);
@@ -195,6 +197,16 @@ bool Loader::LoadJobs() {
         AddRecord(ValueForm::LastRaw);
     }
     return true;
+}
+
+// Behind the version the line goes on as a raw token, which is no record even in a file of none.
+void Loader::SkipBlankRestOfLine() const {
+    KeshPlace place = 0;
+    if (Kesh_TXTGetRawPlace(m_handle, place) == 0)
+        return;
+    const auto rest = keshobjects::rawAt(m_text->Text(), place);
+    if (std::all_of(rest.begin(), rest.end(), keshobjects::isBlank))
+        static_cast<void>(Kesh_TXTAdvance(m_handle, 1));
 }
 
 bool Loader::LoadJobWings() {
@@ -321,6 +333,9 @@ void Loader::ReadPlaces(std::int64_t count) {
         Kesh_TXTLoadPlaces(m_handle, std::min(count, most), places.data() + before, m_written);
     if (read != count)
         Throw(errnum::ReadValue, KeshObjectsErrorText());
+    // A gap in front of these values is one inside the record if they are not its first.
+    if (before != m_first && m_text->Text()[places[before] - 1] != ';')
+        m_written = false;
     if (places.size() - m_first >
         static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()))
         Throw(errnum::Loader, "A record has more values than fit.");

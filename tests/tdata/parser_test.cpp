@@ -147,6 +147,19 @@ TEST(Ships, RecordLengthFollowsItsCounts) {
     EXPECT_EQ(parser.FindIndex(0)->size(), 65);
 }
 
+TEST(Ships, AreSavedWithoutTheGapsBetweenTheirSections) {
+    const std::string record = ship(2, {1, 1}, "SS_1");
+    for (std::size_t at = record.find(';') + 1; at < record.size(); at = record.find(';', at) + 1) {
+        std::string gap = record;
+        gap.insert(at, "\n");
+        clsTxtParser parser;
+        ASSERT_TRUE(load(parser, "49;1;" + gap, otype::Ships));
+        ASSERT_EQ(save(parser),
+                  "// Created with " + ProgramID() + "\r\n49;1;\r\n" + record + "\r\n")
+            << "gap at " << at;
+    }
+}
+
 TEST(Ships, NegativeCountsReadNothing) {
     const std::string record = repeat("0;", 53) + "-5;-1;" + repeat("0;", 10);
     clsTxtParser parser;
@@ -170,6 +183,14 @@ TEST(Jobs, FieldCountsByVersionAndRawNames) {
             EXPECT_EQ(parser.FindIndex(i)->ObjectName(), names[static_cast<std::size_t>(i)]);
         }
         EXPECT_EQ(save(parser), text);
+    }
+}
+
+TEST(Jobs, AFileWithoutJobsLoads) {
+    for (const char* text : {"8;", "8;\r\n", "8; \n\n "}) {
+        clsTxtParser parser;
+        EXPECT_TRUE(load(parser, text, otype::Jobs)) << parser.GetLastError();
+        EXPECT_EQ(save(parser), "8;\r\n");
     }
 }
 

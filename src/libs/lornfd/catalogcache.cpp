@@ -1,6 +1,7 @@
 #include "lornfd/catalogcache.h"
 
 #include "lornfd/errors.h"
+#include "lornfd/namescan.h"
 #include "lornfd/newcontent.h"
 #include "lornfd/paths.h"
 
@@ -37,6 +38,7 @@ Cache& cache() {
 
 bool readIndexText(const platform::File& file, const std::string& path, std::int64_t size,
                    std::string& text) {
+    text.reserve(static_cast<std::size_t>(size) + scanSlack); // the parser adds it
     text.resize(static_cast<std::size_t>(size));
     std::size_t got = 0;
     if (const std::error_code error = file.read(0, text.data(), text.size(), got))

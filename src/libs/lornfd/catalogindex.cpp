@@ -1,7 +1,7 @@
 #include "lornfd/catalog.h"
 #include "lornfd/catalogcache.h"
 #include "lornfd/errors.h"
-#include "lornfd/foldedhash.h"
+#include "lornfd/namescan.h"
 #include "lornfd/paths.h"
 
 #include <algorithm>
@@ -9,7 +9,6 @@
 #include <charconv>
 #include <filesystem>
 #include <limits>
-#include <numeric>
 #include <optional>
 #include <utility>
 
@@ -17,137 +16,173 @@ namespace lornfd {
 
 namespace {
 
-constexpr std::string_view signature = "KESHCAT ";
-constexpr std::string_view version = "1 ";
-constexpr std::size_t checksumDigits = 8;
+constexpr std::string_view signature = "KESHCAT 1 ";
 constexpr std::size_t longestName = 255;
+constexpr std::size_t typicalLine = 32; // bytes; only room is made by it
 
+/// A line of the text. Its numbers are read again when somebody asks: most entries are never asked
+/// for.
 struct Line {
-    std::int64_t offset;
-    std::int64_t size;
-    std::uint32_t crc;
     std::uint32_t name; ///< offset of the name in the text
-    std::uint8_t length;
+    std::uint32_t hash; ///< of the name
 };
 
-struct Slot {
-    std::uint32_t hash;
-    std::uint32_t line; ///< position + 1; 0 is an empty slot
-};
-
-/// Takes the part before `end` off the front of `rest`; all of it if `end` does not occur.
-std::string_view takeUntil(std::string_view& rest, char end) {
-    const std::size_t length = std::min(rest.find(end), rest.size());
-    const std::string_view part = rest.substr(0, length);
-    rest.remove_prefix(std::min(length + 1, rest.size()));
-    return part;
+/// True if a text holds a control character other than "\n", ":" or "/". Written so that compilers
+/// make vector code of it.
+bool isUnusual(std::string_view text) {
+    unsigned char unusual = 0;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        unusual = static_cast<unsigned char>(unusual | ((byte < 0x20) & (byte != '\n')) |
+                                             (byte == 0x7f) | (byte == ':') | (byte == '/'));
+    }
+    return unusual != 0;
 }
 
-std::string_view withoutReturn(std::string_view line) {
-    return line.substr(0, line.size() - (line.ends_with('\r') ? 1 : 0));
+/// Brings CR LF and "/" into the form in which an index is written.
+void normalize(std::string& text) {
+    std::size_t length = 0;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (text[i] != '\r' || i + 1 == text.size() || text[i + 1] != '\n')
+            text[length++] = text[i] == '/' ? '\\' : text[i];
+    text.resize(length);
 }
 
-template <typename Number>
-bool readNumber(std::string_view text, Number& number, int base = 10) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
-    return error == std::errc() && end == text.data() + text.size() && text.front() != '-';
+// The readers below stop at a line break at the latest, which an index always ends with.
+
+bool takeNumber(const char*& at, std::int64_t& number) {
+    constexpr int mostDigits = 18; // as many as always fit
+    const char* const begin = at;
+    std::uint64_t value = 0;
+    for (; *at >= '0' && *at <= '9'; ++at)
+        value = value * 10 + static_cast<unsigned char>(*at - '0');
+    number = static_cast<std::int64_t>(value);
+    const std::ptrdiff_t digits = at - begin;
+    return digits > 0 && digits <= mostDigits && *at++ == ' ';
 }
 
-std::uint32_t hashOf(std::string_view name) {
-    return static_cast<std::uint32_t>(foldedHash(name));
+bool takeChecksum(const char*& at, std::uint32_t& crc) {
+    constexpr std::ptrdiff_t digits = 8;
+    const auto [end, error] = std::from_chars(at, at + digits, crc, 16);
+    if (error != std::errc() || end != at + digits || *end != ' ')
+        return false;
+    at = end + 1;
+    return true;
+}
+
+/// Reads the numbers of a line and leaves `at` at its name. Gives what is wrong with them, or null.
+const char* takeNumbers(const char*& at, CatalogEntry& entry) {
+    if (!takeNumber(at, entry.offset))
+        return "the offset is not a whole number";
+    if (!takeNumber(at, entry.size))
+        return "the size is not a whole number";
+    if (!takeChecksum(at, entry.crc))
+        return "the checksum is not a number of 8 hexadecimal digits";
+    return nullptr;
 }
 
 } // namespace
 
 struct CatalogIndex::Data {
-    std::string text;
+    std::string text; ///< ends with a line break and scanSlack more
     std::string path;
     std::string dataPath;
     std::vector<Line> lines;
-    std::vector<Slot> slots;
+    std::vector<std::uint32_t> slots; ///< position of a line + 1, by hash; 0 is empty
+    std::int64_t end = 0;             ///< of the bytes of the lines so far
+    bool inOrder = true;              ///< no line's bytes begin before those of the lines above end
 
-    [[nodiscard]] std::string_view name(const Line& line) const {
-        return std::string_view(text).substr(line.name, line.length);
-    }
-    [[nodiscard]] std::size_t slotOf(std::string_view wanted, std::uint32_t hash) const;
-    const char* addLine(std::string_view line, std::int64_t dataSize);
-    const char* readName(std::string_view name, Line& line);
-    std::optional<std::size_t> overlappingLine() const;
+    [[nodiscard]] CatalogEntry entry(std::size_t position) const;
+    [[nodiscard]] bool hasName(const Line& line, std::string_view name) const;
     bool parse(std::int64_t dataSize);
+    bool parseLines(std::size_t begin, std::int64_t dataSize);
+    const char* addLine(const char*& at, bool unusual, std::int64_t dataSize);
+    [[nodiscard]] std::size_t slotOf(std::string_view wanted, std::uint32_t hash) const;
+    [[nodiscard]] std::optional<std::size_t> enterNames();
+    [[nodiscard]] std::optional<std::size_t> overlappingLine() const;
     [[nodiscard]] bool broken(std::size_t line, std::string reason) const;
 };
+
+CatalogEntry CatalogIndex::Data::entry(std::size_t position) const {
+    const std::size_t name = lines[position].name;
+    const char* at = text.data() + text.rfind('\n', name) + 1;
+    CatalogEntry entry{};
+    takeNumbers(at, entry);
+    entry.name = std::string_view(text).substr(name, text.find('\n', name) - name);
+    return entry;
+}
+
+bool CatalogIndex::Data::hasName(const Line& line, std::string_view name) const {
+    return equalNoCase(std::string_view(text).substr(line.name, name.size()), name) &&
+           text[line.name + name.size()] == '\n';
+}
+
+/// Gives what is wrong with a line, or null; then `at` is the next line.
+const char* CatalogIndex::Data::addLine(const char*& at, bool unusual, std::int64_t dataSize) {
+    CatalogEntry entry{};
+    if (const char* reason = takeNumbers(at, entry))
+        return reason;
+    const ScannedName name = scanName(at);
+    if (name.length > longestName)
+        return "the entry's name is longer than 255 bytes";
+    if ((unusual || !name.harmless) && !isSafeEntryName({at, name.length}))
+        return "the entry's name is not allowed";
+    if (entry.offset > dataSize || entry.size > dataSize - entry.offset)
+        return "the entry ends behind the end of the data file";
+    inOrder = inOrder && entry.offset >= end;
+    end = entry.offset + entry.size;
+    lines.push_back({static_cast<std::uint32_t>(at - text.data()), name.hash});
+    at += name.length + 1;
+    return nullptr;
+}
 
 /// Position of the slot that holds the name, or of the empty one where it belongs.
 std::size_t CatalogIndex::Data::slotOf(std::string_view wanted, std::uint32_t hash) const {
     const std::size_t mask = slots.size() - 1;
     std::size_t i = hash & mask;
-    while (slots[i].line != 0 &&
-           (slots[i].hash != hash || !equalNoCase(name(lines[slots[i].line - 1]), wanted)))
-        i = (i + 1) & mask;
+    for (; slots[i] != 0; i = (i + 1) & mask) {
+        const Line& line = lines[slots[i] - 1];
+        if (line.hash == hash && hasName(line, wanted))
+            break;
+    }
     return i;
 }
 
-const char* CatalogIndex::Data::readName(std::string_view spelled, Line& line) {
-    const std::size_t at = static_cast<std::size_t>(spelled.data() - text.data());
-    if (hasSpecialByte(spelled))
-        std::replace(text.begin() + static_cast<std::ptrdiff_t>(at),
-                     text.begin() + static_cast<std::ptrdiff_t>(at + spelled.size()), '/', '\\');
-    if (spelled.size() > longestName)
-        return "an entry name longer than 255 bytes";
-    if (!isSafeEntryName(spelled))
-        return "an entry name that is not allowed";
-    line.name = static_cast<std::uint32_t>(at);
-    line.length = static_cast<std::uint8_t>(spelled.size());
-    return nullptr;
+/// Gives the position of a line whose name stands before.
+std::optional<std::size_t> CatalogIndex::Data::enterNames() {
+    slots.resize(std::bit_ceil(lines.size() * 2 + 1));
+    const std::size_t mask = slots.size() - 1;
+    for (std::uint32_t i = 0; i < lines.size(); ++i) {
+        std::size_t slot = lines[i].hash & mask;
+        for (; slots[slot] != 0; slot = (slot + 1) & mask)
+            if (lines[slots[slot] - 1].hash == lines[i].hash &&
+                hasName(lines[slots[slot] - 1], entry(i).name))
+                return i;
+        slots[slot] = i + 1;
+    }
+    return std::nullopt;
 }
 
-/// Gives what is wrong with a line, or null.
-const char* CatalogIndex::Data::addLine(std::string_view rest, std::int64_t dataSize) {
-    Line line{};
-    if (!readNumber(takeUntil(rest, ' '), line.offset))
-        return "the offset is not a whole number";
-    if (!readNumber(takeUntil(rest, ' '), line.size))
-        return "the size is not a whole number";
-    const std::string_view checksum = takeUntil(rest, ' ');
-    if (checksum.size() != checksumDigits || !readNumber(checksum, line.crc, 16))
-        return "the checksum is not a number of 8 hexadecimal digits";
-    if (const char* reason = readName(rest, line))
-        return reason;
-    if (line.offset > dataSize || line.size > dataSize - line.offset)
-        return "the entry ends behind the end of the data file";
-    const std::uint32_t hash = hashOf(rest);
-    Slot& slot = slots[slotOf(rest, hash)];
-    if (slot.line != 0)
-        return "an entry of this name stands before";
-    lines.push_back(line);
-    slot = {hash, static_cast<std::uint32_t>(lines.size())};
-    return nullptr;
-}
-
-/// Position of the later of two lines that name the same bytes.
+/// Gives the position of the later of two lines that name the same bytes.
 std::optional<std::size_t> CatalogIndex::Data::overlappingLine() const {
-    const auto firstOverlap =
-        [&](const auto& order) -> std::optional<std::pair<std::size_t, std::size_t>> {
-        std::optional<std::size_t> before;
-        for (const std::size_t position : order) {
-            const Line& line = lines[position];
-            if (line.size == 0)
-                continue;
-            if (before && line.offset < lines[*before].offset + lines[*before].size)
-                return std::pair{*before, position};
-            before = position;
-        }
+    if (inOrder)
         return std::nullopt;
+    struct Part {
+        std::int64_t offset;
+        std::int64_t end;
+        std::size_t line;
     };
-    std::vector<std::uint32_t> order(lines.size());
-    std::iota(order.begin(), order.end(), 0U);
-    if (!firstOverlap(order)) // as written, an index is in order
-        return std::nullopt;
-    std::ranges::sort(order, {}, [&](std::uint32_t position) {
-        return std::pair{lines[position].offset, position};
+    std::vector<Part> parts;
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (const CatalogEntry part = entry(i); part.size > 0)
+            parts.push_back({part.offset, part.offset + part.size, i});
+    std::ranges::sort(parts, {}, [](const Part& part) {
+        return std::pair{part.offset, part.line};
     });
-    const auto overlap = firstOverlap(order);
-    return overlap ? std::optional(std::max(overlap->first, overlap->second)) : std::nullopt;
+    const auto overlap = std::ranges::adjacent_find(
+        parts, [](const Part& first, const Part& second) { return second.offset < first.end; });
+    return overlap != parts.end() ? std::optional(std::max(overlap[0].line, overlap[1].line))
+                                  : std::nullopt;
 }
 
 bool CatalogIndex::Data::broken(std::size_t line, std::string reason) const {
@@ -156,34 +191,47 @@ bool CatalogIndex::Data::broken(std::size_t line, std::string reason) const {
 }
 
 bool CatalogIndex::Data::parse(std::int64_t dataSize) {
-    std::string_view rest = text;
     const auto dataName = catalogDataName(text);
     if (!dataName)
         return broken(1, "it does not begin with \"KESHCAT 1\" and the name of a data file");
     dataPath = (std::filesystem::path(path).parent_path() / *dataName).string();
+    if (text.size() > std::numeric_limits<std::uint32_t>::max())
+        return broken(1, "the index is larger than 4 GB");
     if (!text.ends_with('\n'))
         return broken(static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1,
                       "the line has no end; the index is cut");
-    if (text.size() > std::numeric_limits<std::uint32_t>::max())
-        return broken(1, "the index is larger than 4 GB");
-    takeUntil(rest, '\n');
-    const auto count = static_cast<std::size_t>(std::ranges::count(rest, '\n'));
-    lines.reserve(count);
-    slots.resize(std::bit_ceil(count * 2 + 1));
-    while (!rest.empty()) {
-        if (const char* reason = addLine(withoutReturn(takeUntil(rest, '\n')), dataSize))
-            return broken(lines.size() + 2, reason);
-    }
+    if (!parseLines(text.find('\n') + 1, dataSize))
+        return false;
+    if (const auto line = enterNames())
+        return broken(*line + 2, "an entry of this name stands in a line above");
     if (const auto line = overlappingLine())
         return broken(*line + 2, "the entry's bytes belong to another entry as well");
     return true;
 }
 
+bool CatalogIndex::Data::parseLines(std::size_t begin, std::int64_t dataSize) {
+    const bool unusual = isUnusual(std::string_view(text).substr(begin));
+    if (unusual) {
+        normalize(text);
+        begin = text.find('\n') + 1;
+    }
+    lines.reserve(text.size() / typicalLine);
+    const std::size_t length = text.size();
+    text.append(scanSlack, '\n');
+    const char* at = text.data() + begin;
+    while (at != text.data() + length)
+        if (const char* reason = addLine(at, unusual, dataSize))
+            return broken(lines.size() + 2, reason);
+    return true;
+}
+
 std::optional<std::string_view> catalogDataName(std::string_view text) {
-    std::string_view line = withoutReturn(takeUntil(text, '\n'));
-    if (!line.starts_with(signature) || !line.substr(signature.size()).starts_with(version))
+    std::string_view line = text.substr(0, text.find('\n'));
+    if (!line.starts_with(signature))
         return std::nullopt;
-    line.remove_prefix(signature.size() + version.size());
+    line.remove_prefix(signature.size());
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
     if (!isSafeEntryName(line) || line.find_first_of("\\/") != std::string_view::npos)
         return std::nullopt;
     return line;
@@ -213,8 +261,7 @@ std::size_t CatalogIndex::size() const noexcept {
 }
 
 CatalogEntry CatalogIndex::entry(std::size_t position) const {
-    const Line& line = m->lines[position];
-    return {line.offset, line.size, line.crc, m->name(line)};
+    return m->entry(position);
 }
 
 std::size_t CatalogIndex::find(std::string_view name) const {
@@ -223,8 +270,8 @@ std::size_t CatalogIndex::find(std::string_view name) const {
         return npos;
     std::ranges::replace_copy(name, separated, '/', '\\');
     const std::string_view wanted(separated, name.size());
-    const std::uint32_t line = m->slots[m->slotOf(wanted, hashOf(wanted))].line;
-    return line == 0 ? npos : line - 1;
+    const std::uint32_t slot = m->slots[m->slotOf(wanted, foldedHash(wanted))];
+    return slot == 0 ? npos : slot - 1;
 }
 
 const std::string& CatalogIndex::path() const noexcept {

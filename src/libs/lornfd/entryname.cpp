@@ -12,24 +12,21 @@ bool isForbidden(char c) noexcept {
     return static_cast<unsigned char>(c) < 0x20 || c == 0x7f || c == ':';
 }
 
-/// Nothing but dots and blanks is no name: disks take it for a directory, its parent, or nothing.
-bool isSafeComponent(std::string_view component) noexcept {
-    return component.find_first_not_of(". ") != std::string_view::npos;
-}
-
 } // namespace
 
 bool isSafeEntryName(std::string_view name) noexcept {
     if (name.size() > longestName || std::ranges::any_of(name, isForbidden))
         return false;
-    for (;;) {
-        const std::size_t end = name.find_first_of("\\/");
-        if (!isSafeComponent(name.substr(0, end)))
+    // A part of nothing but dots and blanks is no name: disks take it for a directory, its parent,
+    // or nothing at all.
+    bool named = false;
+    for (const char c : name) {
+        const bool separator = c == '\\' || c == '/';
+        if (separator && !named)
             return false;
-        if (end == std::string_view::npos)
-            return true;
-        name.remove_prefix(end + 1);
+        named = !separator && (named || (c != '.' && c != ' '));
     }
+    return named;
 }
 
 } // namespace lornfd

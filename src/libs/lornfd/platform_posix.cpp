@@ -28,6 +28,11 @@ namespace {
 constexpr int mostInterruptions = 100;
 // No system writes or reads more in one call.
 constexpr std::size_t mostBytes = std::size_t{1} << 30;
+#ifdef MAP_POPULATE // all of it is going to be read, and one call is cheaper than a fault a page
+constexpr int mapFlags = MAP_PRIVATE | MAP_POPULATE;
+#else
+constexpr int mapFlags = MAP_PRIVATE;
+#endif
 
 std::error_code systemError(int code) {
     return {code, std::generic_category()};
@@ -177,8 +182,7 @@ std::error_code Mapping::map(const File& file, std::int64_t offset, std::size_t 
     static const std::int64_t page = ::sysconf(_SC_PAGESIZE);
     const std::int64_t before = offset % page;
     const std::size_t length = size + static_cast<std::size_t>(before);
-    void* base =
-        ::mmap(nullptr, length, PROT_READ, MAP_PRIVATE, file.m_descriptor, offset - before);
+    void* base = ::mmap(nullptr, length, PROT_READ, mapFlags, file.m_descriptor, offset - before);
     if (base == MAP_FAILED) // NOLINT: the system's own cast
         return systemError(errno);
     m_base = base;

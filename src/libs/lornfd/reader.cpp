@@ -13,7 +13,7 @@ namespace lornfd {
 namespace {
 
 // Below this reading is cheaper than mapping.
-constexpr std::int64_t smallPart = std::int64_t{64} << 10;
+constexpr std::int64_t smallPart = std::int64_t{4} << 20;
 constexpr std::size_t signatureSize = 4;
 
 bool notFound(std::string_view name) {
@@ -126,22 +126,24 @@ bool Reader::learnForm() {
     return true;
 }
 
+bool Reader::unpackFrom(std::string_view stored) {
+    auto unpacked = unpack(stored, name());
+    if (!unpacked)
+        return false;
+    m_buffer = std::move(*unpacked);
+    m_mapping = {};
+    m_content = m_stored = m_buffer;
+    return true;
+}
+
 bool Reader::loadContent() {
     if (m_content.data())
         return true;
     if (!loadStored())
         return false;
-    if (m_form == LORNFD_PLAIN) {
-        m_content = m_stored;
-        return true;
-    }
-    auto unpacked = unpack(m_stored, name());
-    if (!unpacked)
-        return false;
-    m_buffer = std::move(*unpacked);
-    m_mapping = {};
-    m_content = m_buffer;
-    m_stored = m_content;
+    if (m_form != LORNFD_PLAIN)
+        return unpackFrom(m_stored);
+    m_content = m_stored;
     return true;
 }
 
@@ -161,30 +163,39 @@ std::string_view Reader::view() {
     return loadContent() ? m_content : std::string_view();
 }
 
-/// Reads a plain part without holding it. An entry is read so only in one piece, since only a whole
-/// one can be checked.
-std::int64_t Reader::readDirectly(char* buffer, std::int64_t count) {
-    count = std::min(count, m_part.size - m_position);
-    if (!readStored(m_position, buffer, static_cast<std::size_t>(count)) ||
-        (m_part.crc && !checkSum({buffer, static_cast<std::size_t>(count)})))
+/// Reads all stored bytes to where the caller wants them, without holding them.
+std::int64_t Reader::readWhole(char* buffer, std::int64_t count) {
+    const std::string_view stored(buffer, static_cast<std::size_t>(m_part.size));
+    if (!readStored(0, buffer, stored.size()) || !checkSum(stored))
         return -1;
-    m_position += count;
-    return count;
+    m_form = packedForm(stored);
+    if (m_form == LORNFD_PLAIN)
+        return m_position = m_part.size;
+    return unpackFrom(stored) ? readContent(buffer, count) : -1;
 }
 
-std::int64_t Reader::read(char* buffer, std::int64_t count) {
-    if (!learnForm())
-        return -1;
-    const bool whole = m_position == 0 && count >= m_part.size;
-    if (m_form == LORNFD_PLAIN && !m_stored.data() && (whole || !m_part.crc))
-        return readDirectly(buffer, count);
-    if (!loadContent())
-        return -1;
+std::int64_t Reader::readContent(char* buffer, std::int64_t count) {
     const std::string_view piece =
         m_content.substr(static_cast<std::size_t>(m_position), static_cast<std::size_t>(count));
     std::ranges::copy(piece, buffer);
     m_position += static_cast<std::int64_t>(piece.size());
     return static_cast<std::int64_t>(piece.size());
+}
+
+std::int64_t Reader::read(char* buffer, std::int64_t count) {
+    if (!m_stored.data() && m_position == 0 && count >= m_part.size)
+        return readWhole(buffer, count);
+    if (!learnForm())
+        return -1;
+    // Only a whole entry can be checked, so that one is not read in pieces.
+    if (m_form == LORNFD_PLAIN && !m_stored.data() && !m_part.crc) {
+        count = std::min(count, m_part.size - m_position);
+        if (!readStored(m_position, buffer, static_cast<std::size_t>(count)))
+            return -1;
+        m_position += count;
+        return count;
+    }
+    return loadContent() ? readContent(buffer, count) : -1;
 }
 
 std::optional<std::int32_t> storedForm(std::string_view name) {

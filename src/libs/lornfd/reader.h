@@ -42,7 +42,9 @@ private:
     bool loadContent();
     bool readStored(std::int64_t from, char* buffer, std::size_t count);
     bool checkSum(std::string_view stored);
-    std::int64_t readDirectly(char* buffer, std::int64_t count);
+    bool unpackFrom(std::string_view stored);
+    std::int64_t readWhole(char* buffer, std::int64_t count);
+    std::int64_t readContent(char* buffer, std::int64_t count);
 
     StoredPart m_part;
     std::int32_t m_form = 0; ///< 0 until known

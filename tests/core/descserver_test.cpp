@@ -1,6 +1,8 @@
 #include "core/mdlComFunctions.h"
+#include "core/mdlCommon.h"
 #include "core/surroundings.h"
 #include "keshvfs/keshvfs.h"
+#include "lornfd/lornfd.h"
 #include "textres/clsDescServer.h"
 
 class Languages : public Surroundings {
@@ -41,10 +43,16 @@ TEST_F(Languages, OlderNamesAreNumbers) {
 }
 
 TEST_F(Languages, SortIsByNameNotByPlaceOrExtension) {
-    view({"01-L044.xml", "01-L044.pck", "01 -L044.zip"});
-    const Names names = found(44, true);
-    ASSERT_EQ(names.size(), 3U);
-    EXPECT_EQ(names.front(), "01 -L044.zip");
+    const std::string catalog = program("data/01.cat");
+    LornFD_CloseCatalog(LornFD_OpenCatalog(catalog, LORNFD_CREATE));
+    const std::int32_t entry =
+        LornFD_OpenFile(catalog + "::t\\b-L044.xml", LORNFD_WRITE, LORNFD_CREATE, LORNFD_PLAIN);
+    LornFD_WriteFile(entry, "<texts/>", 8);
+    ASSERT_NE(LornFD_CloseFile(entry), 0) << LornFDErrorText();
+    view({"a-L044.x-L044.xml", "a-L044.xml", "c-L044.xml"});
+    EXPECT_EQ(found(44, true),
+              (Names{"a-L044.xml", "a-L044.x-L044.xml", "b-L044.xml", "c-L044.xml"}));
+    EXPECT_TRUE(server.LoadResources(44)) << server.GetLastError();
 }
 
 TEST_F(Languages, MissingLanguageIsNamed) {

@@ -31,7 +31,7 @@ protected:
     View() {
         write("data/types/TShips.txt", "x");
         write("data/types/TLaser.pck", "x");
-        write("data/types/TLaser.d/inner.txt", "x");
+        write("data/types/TOnly.d/inner.txt", "x");
         KeshVFS_ClearFilters();
         EXPECT_NE(KeshVFS_CreateVFS(program("data")), 0) << KeshVFS_Warnings();
     }
@@ -41,8 +41,8 @@ protected:
 TEST_F(View, FindsRealPlacesOfNames) {
     EXPECT_EQ(FindInVFS("types\\TShips.txt").value_or("none"), program("data/types/TShips.txt"));
     EXPECT_EQ(FindInVFS("vfs://types\\tships").value_or("none"), program("data/types/TShips.txt"));
-    EXPECT_EQ(FindInVFS("types\\TLaser").value_or("none"), program("data/types/TLaser.pck"))
-        << "a directory is no file";
+    EXPECT_EQ(FindInVFS("types\\TLaser").value_or("none"), program("data/types/TLaser.pck"));
+    EXPECT_FALSE(FindInVFS("types\\TOnly.d")) << "a directory is no file";
     EXPECT_FALSE(FindInVFS("types\\TNone"));
     EXPECT_FALSE(FindInVFS("vfs://"));
 

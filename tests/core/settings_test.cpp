@@ -156,6 +156,22 @@ TEST_F(SettingsStores, EveryTextReadsBackTheSame) {
                 << key << " " << i;
 }
 
+TEST_F(SettingsStores, FilesMayBeWrittenByHand) {
+    write("config/user.ini",
+          "\xEF\xBB\xBF[General]\r\n; DataPath=/remark\r\n  DataPath = \"/my games\" \r\n"
+          "KeshEXEPath=C:\\new\\x,y;z.exe\r\n[3DViewer]\r\n"
+          "CmdLine=\"%1\" \"%2\" -a=b\r\nPath=@%2Fview%0A\r\n[GE]\r\nleft= -5");
+    EXPECT_EQ(settings.DataRoot(), "\\my games");
+    EXPECT_EQ(settings.KeshEXEPath(), "C:\\new\\x,y;z.exe");
+    EXPECT_EQ(settings.Ext3DViewerCmdLine(), "\"%1\" \"%2\" -a=b");
+    EXPECT_EQ(settings.Ext3DViewerPath(), "\\view\n");
+    EXPECT_EQ(settings.ReadRegLong("GE", "left"), -5);
+
+    settings.SetDataRoot("\\plain \xE4 path");
+    EXPECT_NE(read("config/user.ini").find("DataPath=\\plain \xE4 path\n"), std::string::npos)
+        << "a path does not stand there as it is";
+}
+
 TEST_F(SettingsStores, SubKeysAreListed) {
     for (const char* icon : {"te", "vfs://", "a\"b"})
         settings.SaveRegValue(std::string("main\\icons\\") + icon, "caption", icon, true);

@@ -83,7 +83,8 @@ void addCommand(CLI::App& app, const Row& row, Arguments& arguments) {
             ->add_option("--type", arguments.fileType,
                          "The form that is stored: plain, gzip or zstd")
             ->transform(CLI::CheckedTransformer(std::map<std::string, std::int32_t>{
-                {"plain", LORNFD_PLAIN}, {"gzip", LORNFD_GZIP}, {"zstd", LORNFD_ZSTD}}));
+                {"plain", LORNFD_PLAIN}, {"gzip", LORNFD_GZIP}, {"zstd", LORNFD_ZSTD}}))
+            ->option_text("plain|gzip|zstd");
     if (row.options & Create)
         command->add_flag("--create", arguments.create, "Make the catalog if there is none");
 }
@@ -95,9 +96,11 @@ ExitCode run(int argc, char** argv) {
         "keshtool");
     GameView view;
     Arguments arguments;
-    app.add_option("--data", view.dataRoot, "The game's directory, below which vfs:// looks");
+    app.add_option("--data", view.dataRoot, "The game's directory, below which vfs:// looks")
+        ->option_text("DIR");
     app.add_option("--mod", view.mods, "A catalog laid over the view; may be given more than once")
-        ->allow_extra_args(false);
+        ->allow_extra_args(false)
+        ->option_text("CATALOG");
     app.set_version_flag("--version", ProgramID());
     app.require_subcommand(1);
     for (const Row& row : Commands)

@@ -124,7 +124,9 @@ void addRootCatalogs(State& s, View& view, std::string_view root,
                      const std::map<std::string, std::string>& names) {
     const std::string directory = inProgramForm(root.substr(0, root.find_last_not_of("\\/") + 1));
     for (std::uint32_t number = 1; number < LooseLayer; ++number) {
-        const auto at = names.find((number < 10 ? "0" : "") + std::to_string(number) + ".cat");
+        std::string name(number < 10 ? "0" : "");
+        name.append(std::to_string(number)).append(".cat");
+        const auto at = names.find(name);
         if (at == names.end())
             return;
         const std::string path = directory + '\\' + at->second;

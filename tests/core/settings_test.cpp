@@ -160,10 +160,10 @@ TEST_F(SettingsStores, FilesMayBeWrittenByHand) {
     write("config/user.ini",
           "\xEF\xBB\xBF[General]\r\n; DataPath=/remark\r\n  DataPath = \"/my games\" \r\n"
           "KeshEXEPath=C:\\new\\x,y;z.exe\r\n[3DViewer]\r\n"
-          "CmdLine=\"%1\" \"%2\" -a=b\r\nPath=@%2Fview%0A\r\n[GE]\r\nleft= -5");
+          "CmdLine=\"%1\" -a=b \"%2\"\r\nPath=@%2Fview%0A\r\n[GE]\r\nleft= -5");
     EXPECT_EQ(settings.DataRoot(), "\\my games");
     EXPECT_EQ(settings.KeshEXEPath(), "C:\\new\\x,y;z.exe");
-    EXPECT_EQ(settings.Ext3DViewerCmdLine(), "\"%1\" \"%2\" -a=b");
+    EXPECT_EQ(settings.Ext3DViewerCmdLine(), "\"%1\" -a=b \"%2\"");
     EXPECT_EQ(settings.Ext3DViewerPath(), "\\view\n");
     EXPECT_EQ(settings.ReadRegLong("GE", "left"), -5);
 

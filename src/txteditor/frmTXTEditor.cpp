@@ -50,6 +50,13 @@ frmTXTEditor::frmTXTEditor(const Panels& Editors, QWidget* Owner)
     UpdateRecentActions();
 }
 
+frmTXTEditor::~frmTXTEditor() {
+    m_undo.Stack().disconnect(this); // it tells of its own clearing
+    m_objectView->selectionModel()->disconnect(this);
+    m_dataView->selectionModel()->disconnect(this);
+    delete takeCentralWidget(); // views ask for texts while they go
+}
+
 void frmTXTEditor::BuildControls() {
     m_splitter = new QSplitter(this);
     m_splitter->setObjectName(QStringLiteral("Splitter"));
@@ -187,11 +194,10 @@ void frmTXTEditor::BuildStatusBar() {
 }
 
 void frmTXTEditor::ConnectControls() {
-    connect(m_objectView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex& row) {
-                TakeChanges();
-                ShowObject(m_list->Record(row));
-            });
+    connect(m_objectView->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        TakeChanges();
+        ShowObject(m_list->Record(m_objectView->selectionModel()->selectedRows().value(0)));
+    });
     connect(m_dataView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &frmTXTEditor::UpdateActions);
     connect(m_dataView, &QTreeView::doubleClicked, this, &frmTXTEditor::OnEditField);
@@ -211,8 +217,7 @@ void frmTXTEditor::MyShow() {
     try {
         LoadSettings();
         m_tab->setCurrentIndex(rawTab);
-        SelectFileType(noType);
-        FillList();
+        ShowFile();
         show();
         m_objectView->setFocus();
     } catch (const std::exception& failure) {
@@ -232,7 +237,7 @@ void frmTXTEditor::LoadSettings() {
 void frmTXTEditor::SaveSettings() {
     SaveWindowPos(*this, settingsKey);
     Settings->SaveRegValue(settingsKey, "Sort", m_sort->isChecked() ? 1 : 0);
-    Settings->SaveRegValue(settingsKey, "NameIdx", static_cast<std::int32_t>(Mode()));
+    Settings->SaveRegValue(settingsKey, "NameIdx", static_cast<std::int32_t>(PickedMode()));
 }
 
 void frmTXTEditor::closeEvent(QCloseEvent* event) {

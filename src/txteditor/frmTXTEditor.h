@@ -26,6 +26,7 @@ public:
 
     /// Takes over the panels; the first that serves a file's type shows its records.
     explicit frmTXTEditor(const Panels& Editors = {}, QWidget* Owner = nullptr);
+    ~frmTXTEditor() override;
 
     /// Shows the window with its settings.
     void MyShow();
@@ -105,7 +106,8 @@ private:
     void ApplyPanelInfo(std::int32_t Info);
     void UpdateCaption();
     [[nodiscard]] QString TypeText() const;
-    [[nodiscard]] NameMode Mode() const;
+    [[nodiscard]] NameMode PickedMode() const; ///< by the radio buttons
+    [[nodiscard]] NameMode Mode() const;       ///< without a panel there are only IDs
     [[nodiscard]] QString RowText(const RecordPtr& Record) const;
     void UpdateNameColumn();
     void FillList();

@@ -87,7 +87,8 @@ void frmTXTEditor::BuildActions() {
         auto* action = new QAction(tr(entry.Text), this);
         action->setObjectName(QString::fromLatin1(entry.Id));
         action->setToolTip(tr(entry.Tip));
-        action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(entry.Keys)));
+        if (*entry.Keys != '\0')
+            action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(entry.Keys)));
         connect(action, &QAction::triggered, this, [this, run = entry.Run] { (this->*run)(); });
         m_actions.push_back(action);
     }

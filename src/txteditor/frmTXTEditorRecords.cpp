@@ -24,11 +24,11 @@ QString askPanel(const Ask& ask, const char* failure) {
     }
 }
 
-/// The panel title of a type that no panel serves.
+/// What to call a type that no panel serves.
 std::string titleOfType(std::int32_t type) {
     for (const ObjectTypeKey& key : ObjectTypeKeys())
         if (key.Code == type)
-            return std::string(key.PanelTitle);
+            return std::string(key.PanelTitle.empty() ? key.Key : key.PanelTitle);
     return {};
 }
 
@@ -113,6 +113,10 @@ QString frmTXTEditor::TypeText() const {
 }
 
 NameMode frmTXTEditor::Mode() const {
+    return m_activeEditor ? PickedMode() : NameMode::ID;
+}
+
+NameMode frmTXTEditor::PickedMode() const {
     const auto on = std::find_if(m_names.begin(), m_names.end(),
                                  [](const QRadioButton* button) { return button->isChecked(); });
     return static_cast<NameMode>(on - m_names.begin());
@@ -124,7 +128,7 @@ QString frmTXTEditor::RowText(const RecordPtr& Record) const {
                               : std::string(Record->ObjectName());
     };
     const auto idUnlessText = [&](std::string text) { return text.empty() ? id() : text; };
-    const NameMode mode = m_activeEditor ? Mode() : NameMode::ID;
+    const NameMode mode = Mode();
     if (mode == NameMode::Name)
         return askPanel([&] { return idUnlessText(m_activeEditor->GetResourceName(Record)); },
                         QT_TR_NOOP("[error getting description]"));
@@ -163,7 +167,7 @@ void frmTXTEditor::SelectRecord(const RecordPtr& Record) {
         ShowObject({});
         return;
     }
-    if (m_objectView->currentIndex().row() == row.row())
+    if (m_objectView->selectionModel()->isSelected(row))
         ShowObject(Record);
     else
         m_objectView->setCurrentIndex(row); // shows it

@@ -44,8 +44,10 @@ QString frmWait::WaitHint() const {
 
 void frmWait::SetWaitHint(const QString& Text) {
     m_status->setText(Text);
+    m_status->parentWidget()->layout()->activate(); // now, not with the next events
+    layout()->invalidate();
     layout()->activate();
-    resize(sizeHint().expandedTo(size()));
+    resize(isVisible() ? sizeHint().expandedTo(size()) : sizeHint());
 }
 
 void ShowWait(const QString& Text, QWidget* Owner) {

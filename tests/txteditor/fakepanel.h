@@ -1,0 +1,87 @@
+// A panel whose answers a test sets.
+#pragma once
+
+#include "txteditor/ObjectEditor.h"
+
+#include <stdexcept>
+
+class FakePanel : public ObjectEditor {
+public:
+    std::int32_t Serves = 6;
+    std::int32_t Info = panelinfo::HasNames | panelinfo::HasRaces | panelinfo::HasClasses;
+    bool InitResult = true;
+    std::string Report; ///< of Validate; empty if all is well
+    bool Fails = false; ///< the texts of rows throw
+    std::int32_t Class = translation::None;
+    std::int32_t Type = valuetype::String;
+    std::string Translated;        ///< of any value; empty if there is none
+    std::optional<KeshValue> Back; ///< of any text; none refuses
+    std::vector<std::string> Choices;
+
+    RecordPtr Shown;
+    RecordPtr Reset;
+
+    std::string GetLastError() const override { return "no laser file"; }
+    bool LornQueryInterface(std::int32_t OType) const override { return OType == Serves; }
+    bool LornQueryInterfaceEx(std::int32_t& OType) override { return OType == Serves; }
+    bool Init(clsTxtParser&) override { return InitResult; }
+    std::string ObjectTypeName(std::int32_t) const override { return Text("Things v.1"); }
+    std::string PageName(std::int32_t) const override { return "Thing info"; }
+    std::int32_t LornQueryInfo(std::int32_t) const override { return Info; }
+    bool Validate(std::string& Text) override {
+        Text = Report;
+        return Report.empty();
+    }
+    std::string ObjectName(const RecordPtr& Object) const override {
+        return Text(std::string(Object->ObjectName()));
+    }
+    std::string GetClass(const RecordPtr& Object) const override {
+        return Text("class " + std::string(Object->ValueText(1)));
+    }
+    std::string GetRace(const RecordPtr&) const override { return Text("race"); }
+    std::string GetResourceName(const RecordPtr& Object) const override {
+        return Text(Object->Index == 0 ? "First" : "");
+    }
+    void ShowObject(const RecordPtr& Object, std::int32_t) override { Shown = Object; }
+    RecordPtr CreateObject(std::int32_t, clsTxtParser&, const RecordPtr&) override { return {}; }
+    bool InitObject(const RecordPtr&) override { return true; }
+    bool RemoveObject(const RecordPtr&) override { return true; }
+    bool LornAssignUniqueObjectName(const RecordPtr&) override { return true; }
+    std::string LornGetPropertyName(const RecordPtr&, std::int32_t) const override {
+        return "Speed";
+    }
+    std::int32_t LornGetValueType(const RecordPtr&, std::int32_t) const override { return Type; }
+    std::string LornGetValueUnit(const RecordPtr&, std::int32_t) const override { return "m/s"; }
+    std::int32_t LornSupportValueTranslate(const RecordPtr&, std::int32_t) const override {
+        return Class;
+    }
+    std::vector<std::string> LornGetPropertyValues(const RecordPtr&, std::int32_t) const override {
+        return Choices;
+    }
+    bool LornTranslateValue(const RecordPtr&, std::int32_t, std::string& Text,
+                            bool) const override {
+        Text = Translated;
+        return !Translated.empty();
+    }
+    bool LornTranslateValueBack(const RecordPtr&, std::string&, std::int32_t,
+                                KeshValue& Value) override {
+        if (Back)
+            Value = *Back;
+        return Back.has_value();
+    }
+    void ObjectReset(const RecordPtr& Object) override { Reset = Object; }
+
+    /// Changes a field as a panel does, with or without its event.
+    void Change(const RecordPtr& Object, std::int32_t Index, const KeshValue& Value, bool Tell) {
+        Object->SetValue(Index, Value);
+        if (Tell)
+            Q_EMIT OnObjectChanged(Object);
+    }
+
+private:
+    std::string Text(std::string text) const {
+        if (Fails)
+            throw std::runtime_error("broken");
+        return text;
+    }
+};

@@ -16,5 +16,7 @@ struct Bytes {
 
 /// The whole file by `open`, `fstat`, `read`.
 Bytes readPlain(const std::string& path);
+/// The same into memory that is there already, if the size fits.
+void readPlain(const std::string& path, Bytes& bytes);
 
 } // namespace bench

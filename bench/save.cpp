@@ -49,7 +49,7 @@ std::vector<Row> saveRows(const Options& options) {
     writePlain(byHand, written.view());
     const RecordPtr record = parser->FindIndex(static_cast<int>(parser->ByIndex().size() / 2));
     int price = 1;
-    const Times times = bestOf<WallClock>(
+    const Times times = bestOf(
         options.rounds,
         [&] {
             record->SetValue(9, ++price);

@@ -120,11 +120,12 @@ ExitCode unpack(GameView& view, const Arguments& arguments) {
     const std::string to = lornfd::resolvePath(view.realPath(arguments.paths[1]));
     fs::create_directories(to);
     const fs::path directory = fs::canonical(to);
+    const std::string prefix = catalog + "::";
     ExitCode code = Done;
     for (std::size_t i = 0; i < index->size(); ++i) {
         const std::string name(index->entry(i).name);
         try {
-            copyFile(catalog + "::" + name, placeOf(directory, name), LORNFD_PLAIN);
+            copyFile(prefix + name, placeOf(directory, name), LORNFD_PLAIN);
         } catch (const std::exception& failure) {
             complain(failure.what());
             code = Failed;

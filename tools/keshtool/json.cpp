@@ -38,7 +38,7 @@ std::string jsonText(std::string_view bytes) {
 }
 
 std::string jsonValue(const clsTXTObject& record, std::int32_t index) {
-    const std::string spelling(record.ValueText(index));
+    std::string spelling(record.ValueText(index));
     const KeshValue value = record.Value(index);
     const bool isNumber = !std::holds_alternative<std::string>(value);
     // "-0" is a JSON number, but readers make 0 of it.

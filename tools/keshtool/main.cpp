@@ -23,11 +23,11 @@ enum Option : unsigned {
 };
 
 struct Row {
-    const char* name;
-    Command command;
+    const char* name = nullptr;
+    Command command = nullptr;
     std::initializer_list<const char*> paths; ///< as the help names them
-    unsigned options;
-    const char* help;
+    unsigned options = NoOption;
+    const char* help = nullptr;
 };
 
 const Row Commands[] = {

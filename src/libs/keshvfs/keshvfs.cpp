@@ -130,8 +130,8 @@ void addRootCatalogs(State& s, View& view, std::string_view root,
         if (at == names.end())
             return;
         const std::string path = directory + '\\' + at->second;
-        if (auto catalog = lornfd::CatalogIndex::open(path))
-            view.addCatalog(std::move(catalog), path, number, s.filters);
+        if (const auto catalog = lornfd::CatalogIndex::open(path))
+            view.addCatalog(catalog, path, number, s.filters);
         else
             s.warnings += driverErrorText() + '\n';
     }
@@ -172,10 +172,10 @@ std::int32_t KeshVFS_CreateVFS(std::string_view DataRoot) {
 
 std::int32_t KeshVFS_AppendCatalog(std::string_view Catalog) {
     return run([&](State& s) {
-        auto catalog = lornfd::CatalogIndex::open(Catalog);
+        const auto catalog = lornfd::CatalogIndex::open(Catalog);
         if (!catalog)
             return s.error.set(KESHVFS_E_CATALOG, {std::string(Catalog), {}, driverErrorText()});
-        s.view->addCatalog(std::move(catalog), inProgramForm(Catalog), ++s.topLayer, s.filters);
+        s.view->addCatalog(catalog, inProgramForm(Catalog), ++s.topLayer, s.filters);
         return 1;
     });
 }
@@ -210,7 +210,7 @@ std::int32_t KeshVFS_CatFindInit(std::int32_t Catalog) {
     return run([&](State& s) {
         if (Catalog == ViewHandle)
             return open(s, {s.view, {}});
-        auto index = lornfd::catalogOfHandle(Catalog);
+        const auto index = lornfd::catalogOfHandle(Catalog);
         if (!index)
             return handleError(s, Catalog);
         auto view = std::make_shared<View>();

@@ -27,12 +27,17 @@ bool contains(const fs::path& outer, const fs::path& inner) {
     return std::ranges::mismatch(outer, inner).in1 == outer.end();
 }
 
+bool isLink(const fs::directory_entry& entry) {
+    std::error_code ignored;
+    return entry.is_symlink(ignored);
+}
+
 class Walk {
 public:
     Walk(View& view, std::uint32_t layer, const Filters& filters)
         : m_view(view), m_layer(layer), m_filters(filters) {}
 
-    LooseFiles run(Pending root);
+    LooseFiles run(const Pending& root);
 
 private:
     bool readDirectory(const Pending& here);
@@ -53,7 +58,7 @@ private:
     LooseFiles m_result;
 };
 
-LooseFiles Walk::run(Pending root) {
+LooseFiles Walk::run(const Pending& root) {
     m_result.rootRead = readDirectory(root);
     while (!m_pending.empty()) {
         const Pending next = std::move(m_pending.front());
@@ -102,7 +107,7 @@ void Walk::visitDirectory(const fs::directory_entry& entry, const Pending& here,
                           const Entry& found) {
     const std::string below = std::string(found.path) + '\\';
     Pending next{entry.path(), here.path + below, here.real + below, NoId, here.links};
-    if (!m_filters.showsBelow(next.path) || (entry.is_symlink() && !followLink(entry, next)))
+    if (!m_filters.showsBelow(next.path) || (isLink(entry) && !followLink(entry, next)))
         return;
     next.directory =
         m_view.addDirectory(here.directory, {m_view.keepName(found.path), 0, m_source});
@@ -113,7 +118,7 @@ bool Walk::followLink(const fs::directory_entry& entry, Pending& next) {
     std::error_code error;
     const fs::path target = fs::canonical(entry.path(), error);
     next.links.push_back(fs::canonical(entry.path().parent_path(), error));
-    if (error ||
+    if (target.empty() || error ||
         std::ranges::any_of(next.links, [&](const auto& link) { return contains(target, link); }))
         return false;
     if (m_links++ == MaxLinks)

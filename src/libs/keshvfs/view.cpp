@@ -99,8 +99,8 @@ Id View::addDirectory(Id parent, Entry entry) {
     return number;
 }
 
-void View::addCatalog(std::shared_ptr<const lornfd::CatalogIndex> catalog, std::string_view prefix,
-                      std::uint32_t layer, const Filters& filters) {
+void View::addCatalog(const std::shared_ptr<const lornfd::CatalogIndex>& catalog,
+                      std::string_view prefix, std::uint32_t layer, const Filters& filters) {
     const Id source = addSource({layer, std::string(prefix) + "::", catalog});
     std::string_view lastPath;
     Id lastDirectory = Root;

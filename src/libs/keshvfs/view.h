@@ -62,8 +62,8 @@ public:
     /// The number of the directory `entry` in `parent`, made if it is new.
     Id addDirectory(Id parent, Entry entry);
     /// All entries of a catalog that the filters show; `prefix` stands before "::" in real names.
-    void addCatalog(std::shared_ptr<const lornfd::CatalogIndex> catalog, std::string_view prefix,
-                    std::uint32_t layer, const Filters& filters);
+    void addCatalog(const std::shared_ptr<const lornfd::CatalogIndex>& catalog,
+                    std::string_view prefix, std::uint32_t layer, const Filters& filters);
 
     // Searching
     /// Entries that a mask matches, in name order; of a plain name without "." the topmost first.

@@ -23,10 +23,26 @@ public:
         return NoId;
     }
 
+    /// Makes room for `count` entries in all.
+    void reserve(std::size_t count) {
+        std::size_t slots = m_slots.size();
+        while (count * 4 > slots * 3)
+            slots *= 2;
+        if (slots == m_slots.size())
+            return;
+        std::vector<Slot> former(slots);
+        former.swap(m_slots);
+        for (const Slot& slot : former)
+            if (slot.id != NoId)
+                insert(slot.hash, slot.id);
+    }
+
+    /// There must be room for it.
     void insert(std::uint32_t hash, Id id) {
-        if (++m_used * 4 > m_slots.size() * 3)
-            grow();
-        place({hash, id});
+        std::size_t at = first(hash);
+        while (m_slots[at].id != NoId)
+            at = next(at);
+        m_slots[at] = {hash, id};
     }
 
 private:
@@ -40,23 +56,7 @@ private:
     }
     [[nodiscard]] std::size_t next(std::size_t at) const { return (at + 1) & (m_slots.size() - 1); }
 
-    void place(Slot slot) {
-        std::size_t at = first(slot.hash);
-        while (m_slots[at].id != NoId)
-            at = next(at);
-        m_slots[at] = slot;
-    }
-
-    void grow() {
-        std::vector<Slot> former(m_slots.size() * 2);
-        former.swap(m_slots);
-        for (const Slot& slot : former)
-            if (slot.id != NoId)
-                place(slot);
-    }
-
     std::vector<Slot> m_slots; ///< a power of two, at most three quarters of them used
-    std::size_t m_used = 0;
 };
 
 } // namespace keshvfs

@@ -66,24 +66,9 @@ bool View::wins(const Entry& a, const Entry& b) const {
            std::tuple(m_sources[b.source].layer, b.name());
 }
 
-Id View::addEntry(Id parent, const Entry& entry) {
-    const std::uint32_t hash = hashOf(entry.isDirectory(), entry.name());
-    const Id known = find(hash, parent, entry.isDirectory(), entry.name());
-    if (known != NoId) {
-        if (Entry& former = m_entries[known]; wins(entry, former)) {
-            const Id directory = former.directory;
-            former = entry;
-            former.directory = directory;
-        }
-        return known;
-    }
-    const auto id = static_cast<Id>(m_entries.size());
+void View::addEntry(Id parent, const Entry& entry) {
+    m_directories[parent].children.push_back(static_cast<Id>(m_entries.size()));
     m_entries.push_back(entry);
-    Directory& directory = m_directories[parent];
-    directory.index.insert(hash, id);
-    directory.children.push_back(id);
-    directory.sorted = false;
-    return id;
 }
 
 void View::addFile(Id parent, Entry entry) {
@@ -92,11 +77,36 @@ void View::addFile(Id parent, Entry entry) {
 }
 
 Id View::addDirectory(Id parent, Entry entry) {
-    entry.directory = static_cast<Id>(m_directories.size());
-    const Id number = m_entries[addEntry(parent, entry)].directory;
-    if (number == m_directories.size())
+    const Id known = find(parent, true, entry.name());
+    entry.directory =
+        known == NoId ? static_cast<Id>(m_directories.size()) : m_entries[known].directory;
+    addEntry(parent, entry);
+    if (known == NoId)
         m_directories.emplace_back();
-    return number;
+    return entry.directory;
+}
+
+void View::settle(Directory& directory) const {
+    auto& children = directory.children;
+    if (directory.settled == children.size())
+        return;
+    directory.index.reserve(children.size());
+    std::size_t kept = directory.settled;
+    for (std::size_t i = kept; i < children.size(); ++i) {
+        const Id id = children[i];
+        const Entry& entry = m_entries[id];
+        const std::uint32_t hash = hashOf(entry.isDirectory(), entry.name());
+        const Id known = find(directory, hash, entry.isDirectory(), entry.name());
+        if (known == NoId) {
+            directory.index.insert(hash, id);
+            children[kept++] = id;
+        } else if (wins(entry, m_entries[known])) {
+            m_entries[known] = entry;
+        }
+    }
+    children.resize(kept);
+    directory.settled = kept;
+    directory.sorted = false;
 }
 
 void View::addCatalog(const std::shared_ptr<const lornfd::CatalogIndex>& catalog,
@@ -127,15 +137,17 @@ Id View::directoryOf(std::string_view path, Id source) {
     return directory;
 }
 
-Id View::find(std::uint32_t hash, Id parent, bool directory, std::string_view name) const {
-    return m_directories[parent].index.find(hash, [&](Id id) {
+Id View::find(const Directory& parent, std::uint32_t hash, bool directory,
+              std::string_view name) const {
+    return parent.index.find(hash, [&](Id id) {
         const Entry& entry = m_entries[id];
         return entry.isDirectory() == directory && sameName(entry.name(), name);
     });
 }
 
 Id View::find(Id parent, bool directory, std::string_view name) const {
-    return find(hashOf(directory, name), parent, directory, name);
+    settle(m_directories[parent]);
+    return find(m_directories[parent], hashOf(directory, name), directory, name);
 }
 
 std::vector<Id> View::search(std::string_view mask, bool listing) const {
@@ -205,6 +217,7 @@ void View::findMask(Id directory, std::string_view mask, bool listing,
 
 const std::vector<Id>& View::sortedChildren(Id directory) const {
     Directory& sorted = m_directories[directory];
+    settle(sorted);
     if (!sorted.sorted)
         std::ranges::sort(sorted.children, [this](Id a, Id b) {
             const Entry& first = m_entries[a];

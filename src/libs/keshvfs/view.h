@@ -75,15 +75,19 @@ public:
 private:
     struct Directory {
         std::vector<Id> children;
+        std::size_t settled = 0; ///< so many children are in the index, each name once
         EntryIndex index;
         bool sorted = true;
     };
 
-    Id addEntry(Id parent, const Entry& entry);
+    void addEntry(Id parent, const Entry& entry);
+    /// Brings the children that came since the last time into the index; of two of one name the
+    /// winner stays. Done when a directory is first asked for: most never are.
+    void settle(Directory& directory) const;
     [[nodiscard]] bool wins(const Entry& a, const Entry& b) const;
     [[nodiscard]] Id directoryOf(std::string_view path, Id source);
     [[nodiscard]] Id find(Id parent, bool directory, std::string_view name) const;
-    [[nodiscard]] Id find(std::uint32_t hash, Id parent, bool directory,
+    [[nodiscard]] Id find(const Directory& parent, std::uint32_t hash, bool directory,
                           std::string_view name) const;
     [[nodiscard]] std::vector<Id> directoriesMatching(std::string_view path) const;
     void findName(Id directory, std::string_view name, std::vector<Id>& found) const;
@@ -91,8 +95,8 @@ private:
     [[nodiscard]] const std::vector<Id>& sortedChildren(Id directory) const;
 
     std::vector<Source> m_sources;
-    std::deque<Entry> m_entries;
-    mutable std::vector<Directory> m_directories; ///< children are sorted when first searched
+    mutable std::deque<Entry> m_entries; ///< settling lets winners take the place of losers
+    mutable std::vector<Directory> m_directories; ///< settled and sorted when first asked for
     std::pmr::monotonic_buffer_resource m_names;
 };
 

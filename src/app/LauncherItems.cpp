@@ -45,13 +45,15 @@ bool LauncherItems::setData(const QModelIndex& index, const QVariant& value, int
 }
 
 void LauncherItems::SaveIcons() const {
+    std::vector<SettingsStore::Entry> captions;
     for (int row = 0; row < rowCount(); ++row)
-        Settings->SaveRegValue(settingsKeyOf(index(row, 0)), "caption",
-                               index(row, 0).data().toString().toStdString(), false);
+        captions.push_back({settingsKeyOf(index(row, 0)), "caption",
+                            index(row, 0).data().toString().toStdString()});
+    Settings->SaveRegValues(captions);
 }
 
 void LauncherItems::LoadIcons() {
     for (int row = 0; row < rowCount(); ++row)
-        if (const auto caption = Settings->ReadRegString(settingsKeyOf(index(row, 0)), "caption"))
-            setData(index(row, 0), ToScreen(*caption));
+        setData(index(row, 0),
+                ToScreen(Settings->ReadRegValue(settingsKeyOf(index(row, 0)), "caption")));
 }

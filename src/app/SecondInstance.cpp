@@ -44,9 +44,11 @@ Handover HandOver(const QString& Name, const QString& Request) {
     socket.connectToServer(Name);
     if (!socket.waitForConnected(acknowledgeTime))
         return Handover::NoInstance;
+    const QByteArray text = Request.toUtf8();
     QDataStream stream(&socket);
-    stream << Request.toUtf8();
-    socket.flush();
+    stream.writeBytes(text.constData(), static_cast<uint>(text.size()));
+    while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(acknowledgeTime)) {
+    }
     if (readByte(socket, acknowledgeTime) != acknowledged)
         return Handover::NoInstance;
     switch (readByte(socket, -1)) {
@@ -65,10 +67,10 @@ InstanceServer::InstanceServer(const QString& Name, Handler OnRequest, QObject* 
       m_onRequest(std::move(OnRequest)) {
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     connect(m_server.get(), &QLocalServer::newConnection, this, &InstanceServer::Accept);
-    if (!m_server->listen(Name) && !somebodyListens(Name)) {
-        QLocalServer::removeServer(Name); // left by an instance that died
-        m_server->listen(Name);
-    }
+    if (somebodyListens(Name))
+        return;                       // listening would quietly take the name away
+    QLocalServer::removeServer(Name); // left by an instance that died
+    m_server->listen(Name);
 }
 
 InstanceServer::~InstanceServer() = default;

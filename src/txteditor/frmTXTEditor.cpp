@@ -189,6 +189,7 @@ void frmTXTEditor::BuildStatusBar() {
     m_barObject->setObjectName(QStringLiteral("Bar0"));
     m_barCount = new QLabel(bar);
     m_barCount->setObjectName(QStringLiteral("Bar1"));
+    m_barObject->setIndent(fontMetrics().averageCharWidth());
     bar->addWidget(m_barObject, 1);
     bar->addPermanentWidget(m_barCount);
 }
@@ -229,8 +230,8 @@ void frmTXTEditor::LoadSettings() {
     const QFontMetrics font = fontMetrics();
     LoadWindowPos(*this, settingsKey, 120 * font.averageCharWidth(), 36 * font.height());
     const QSignalBlocker quiet(m_sort);
-    m_sort->setChecked(Settings->ReadRegLong(settingsKey, "Sort").value_or(0) != 0);
-    const auto mode = Settings->ReadRegLong(settingsKey, "NameIdx").value_or(0);
+    m_sort->setChecked(Settings->ReadRegValue(settingsKey, "Sort", 0) != 0);
+    const auto mode = Settings->ReadRegValue(settingsKey, "NameIdx", 0);
     m_names[static_cast<std::size_t>(std::clamp(mode, 0, 2))]->setChecked(true);
 }
 

@@ -2,10 +2,14 @@
 
 #include "core/clsSettings.h"
 
+#include <limits>
+#include <utility>
+
 namespace {
 
 constexpr int stateNormal = 0;
 constexpr int stateMaximised = 2;
+constexpr int unknown = std::numeric_limits<int>::min();
 
 /// Keeps a window that was left on a screen which is gone within reach.
 QRect onScreen(QRect wanted) {
@@ -23,16 +27,22 @@ QRect onScreen(QRect wanted) {
 
 void SaveWindowPos(const QWidget& Window, std::string_view Key) {
     const QRect outer = Window.frameGeometry();
-    Settings->SaveRegValue(Key, "state", Window.isMaximized() ? stateMaximised : stateNormal);
-    Settings->SaveRegValue(Key, "left", outer.left());
-    Settings->SaveRegValue(Key, "top", outer.top());
-    Settings->SaveRegValue(Key, "width", outer.width());
-    Settings->SaveRegValue(Key, "height", outer.height());
+    const std::pair<const char*, int> values[] = {
+        {"state", Window.isMaximized() ? stateMaximised : stateNormal},
+        {"left", outer.left()},
+        {"top", outer.top()},
+        {"width", outer.width()},
+        {"height", outer.height()},
+    };
+    std::vector<SettingsStore::Entry> entries;
+    for (const auto& [name, value] : values)
+        entries.push_back({std::string(Key), name, std::to_string(value)});
+    Settings->SaveRegValues(entries);
 }
 
 void LoadWindowPos(QWidget& Window, std::string_view Key, int DefaultWidth, int DefaultHeight) {
     const auto read = [Key](std::string_view name, int fallback) {
-        return Settings->ReadRegLong(Key, name).value_or(fallback);
+        return Settings->ReadRegValue(Key, name, fallback);
     };
     if (read("state", stateNormal) == stateMaximised) {
         Window.resize(DefaultWidth, DefaultHeight);
@@ -41,11 +51,12 @@ void LoadWindowPos(QWidget& Window, std::string_view Key, int DefaultWidth, int 
     }
     const QSize size(std::max(1, read("width", DefaultWidth)),
                      std::max(1, read("height", DefaultHeight)));
-    if (!Settings->ReadRegLong(Key, "left")) {
+    const int left = read("left", unknown);
+    if (left == unknown) {
         Window.resize(size);
         return;
     }
-    const QPoint corner(std::max(0, read("left", 0)), std::max(0, read("top", 0)));
+    const QPoint corner(std::max(0, left), std::max(0, read("top", 0)));
     const QRect outer = onScreen(QRect(corner, size));
     const QSize frame = Window.frameGeometry().size() - Window.geometry().size();
     Window.resize(outer.size() - frame);

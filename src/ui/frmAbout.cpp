@@ -36,6 +36,7 @@ frmAbout::frmAbout(QWidget* Owner) : QDialog(Owner) {
     versionLabel->setObjectName(QStringLiteral("lblVersion"));
 
     auto* table = new QFormLayout;
+    table->setHorizontalSpacing(2 * fontMetrics().height());
     for (const Library& library : libraries)
         table->addRow(tr("%1 %2").arg(QString::fromLatin1(library.Name), version),
                       new QLabel(tr(library.Purpose), this));

@@ -1,66 +1,114 @@
 #include "core/SettingsFile.h"
 
+#include "lornfd/platform.h"
+
 #include <QByteArray>
-#include <QIODevice>
-#include <QMap>
+#include <QByteArrayView>
 
 #include <algorithm>
 
 namespace {
 
-constexpr const char* RootSection = "General";
+constexpr std::string_view RootSection = "General";
+constexpr QByteArrayView ByteOrderMark = "\xEF\xBB\xBF";
 constexpr char EncodedSign = '@';
 
-QByteArray decoded(const QByteArray& text) {
+QByteArrayView viewOf(std::string_view text) {
+    return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
+std::string unescaped(QByteArrayView name) {
+    return QByteArray::fromPercentEncoding(name.toByteArray()).toStdString();
+}
+
+/// A name without any character that means something in the file, `plain` ones excepted.
+std::string escaped(std::string_view name, const QByteArray& plain) {
+    const QByteArrayView view = viewOf(name);
+    const bool blankEnds = view.trimmed().size() != view.size();
+    return view.toByteArray().toPercentEncoding(blankEnds ? plain : plain + ' ').toStdString();
+}
+
+std::string keyOf(QByteArrayView section) {
+    return section == viewOf(RootSection) ? std::string() : unescaped(section);
+}
+
+std::string sectionOf(std::string_view key) {
+    if (key.empty())
+        return std::string(RootSection);
+    // A key that is spelled as the root's section is told from it by an escape.
+    return key == RootSection ? "%47eneral" : escaped(key, "\\");
+}
+
+std::string decoded(QByteArrayView text) {
     if (text.startsWith(EncodedSign))
-        return QByteArray::fromPercentEncoding(text.mid(1));
+        return unescaped(text.sliced(1));
     const bool quoted = text.size() >= 2 && text.startsWith('"') && text.endsWith('"');
-    return quoted && text.count('"') == 2 ? text.mid(1, text.size() - 2) : text;
+    return (quoted && text.count('"') == 2 ? text.sliced(1, text.size() - 2) : text)
+        .toByteArray()
+        .toStdString();
 }
 
-QByteArray encoded(const QByteArray& value) {
-    const bool control = std::any_of(value.begin(), value.end(),
-                                     [](char c) { return static_cast<unsigned char>(c) < ' '; });
-    return !control && decoded(value.trimmed()) == value ? value
-                                                         : EncodedSign + value.toPercentEncoding();
+std::string encoded(const std::string& value) {
+    const bool control = std::ranges::any_of(value, [](char c) { return c >= '\0' && c < ' '; });
+    if (!control && decoded(viewOf(value).trimmed()) == value)
+        return value;
+    return EncodedSign + viewOf(value).toByteArray().toPercentEncoding().toStdString();
 }
 
-bool readSettings(QIODevice& device, QSettings::SettingsMap& map) {
-    QString section;
-    for (const QByteArray& rawLine : device.readAll().split('\n')) {
-        const QByteArray line = rawLine.trimmed();
-        const qsizetype equals = line.indexOf('=');
-        if (line.startsWith('[') && line.endsWith(']')) {
-            const QByteArray key = line.mid(1, line.size() - 2);
-            section =
-                key == RootSection ? QString() : QString::fromUtf8(key).replace(u'\\', u'/') + u'/';
-        } else if (equals > 0 && !line.startsWith(';') && !line.startsWith('#')) {
-            const QString name = QString::fromUtf8(line.left(equals).trimmed());
-            map[section + name] = decoded(line.mid(equals + 1).trimmed());
-        }
-    }
-    return true;
-}
-
-bool writeSettings(QIODevice& device, const QSettings::SettingsMap& map) {
-    QMap<QByteArray, QByteArray> sections;
-    for (auto at = map.begin(); at != map.end(); ++at) {
-        const qsizetype slash = at.key().lastIndexOf(u'/');
-        const QString section = at.key().left(std::max<qsizetype>(slash, 0)).replace(u'/', u'\\');
-        sections[section.toUtf8()] +=
-            at.key().mid(slash + 1).toUtf8() + '=' + encoded(at.value().toByteArray()) + '\n';
-    }
-    QByteArray text;
-    for (auto at = sections.begin(); at != sections.end(); ++at)
-        text += '[' + (at.key().isEmpty() ? QByteArray(RootSection) : at.key()) + "]\n" +
-                at.value() + '\n';
-    return text.size() <= LargestSettingsFile && device.write(text) == text.size();
+/// Cuts the first line off a text and gives it without the blanks around it.
+QByteArrayView takeLine(QByteArrayView& text) {
+    const qsizetype end = text.indexOf('\n');
+    const QByteArrayView line = end < 0 ? text : text.first(end);
+    text = end < 0 ? QByteArrayView() : text.sliced(end + 1);
+    return line.trimmed();
 }
 
 } // namespace
 
-QSettings::Format SettingsFormat() {
-    static const QSettings::Format format =
-        QSettings::registerFormat(QStringLiteral("ini"), readSettings, writeSettings);
-    return format;
+SettingsMap ReadSettings(std::string_view Text) {
+    QByteArrayView rest = viewOf(Text);
+    if (rest.startsWith(ByteOrderMark))
+        rest = rest.sliced(ByteOrderMark.size());
+    SettingsMap map;
+    std::string key;
+    while (!rest.isEmpty()) {
+        const QByteArrayView line = takeLine(rest);
+        const qsizetype equals = line.indexOf('=');
+        if (line.startsWith('[') && line.endsWith(']')) {
+            key = keyOf(line.sliced(1, line.size() - 2).trimmed());
+        } else if (equals >= 0 && !line.startsWith(';') && !line.startsWith('#')) {
+            std::string name = unescaped(line.first(equals).trimmed());
+            if (std::max(key.size(), name.size()) <= LongestSettingsName)
+                map[key][std::move(name)] = decoded(line.sliced(equals + 1).trimmed());
+        }
+    }
+    return map;
+}
+
+std::string WriteSettings(const SettingsMap& Map) {
+    std::string text;
+    for (const auto& [key, values] : Map) {
+        text.append(text.empty() ? "" : "\n").append("[" + sectionOf(key) + "]\n");
+        for (const auto& [name, value] : values)
+            text.append(escaped(name, {})).append("=").append(encoded(value)).append("\n");
+    }
+    return text;
+}
+
+std::optional<SettingsMap> LoadSettings(const std::string& File) {
+    lornfd::platform::File file;
+    const std::error_code error = file.open(File);
+    if (error == std::errc::no_such_file_or_directory)
+        return SettingsMap();
+    lornfd::platform::FileStamp stamp;
+    if (error || file.stamp(stamp) || !stamp.regular ||
+        stamp.size > std::int64_t{LargestSettingsFile})
+        return {};
+    // One byte more than it should have tells whether it grew meanwhile.
+    std::string text(static_cast<std::size_t>(stamp.size) + 1, '\0');
+    std::size_t got = 0;
+    if (file.read(0, text.data(), text.size(), got) || got + 1 != text.size())
+        return {};
+    text.pop_back();
+    return ReadSettings(text);
 }

@@ -1,17 +1,29 @@
-// The text of a settings file: "[key]" lines and "name=value" lines, values as bytes.
-//
-// QSettings keeps the file (lock, merge, replacement); its own INI codec is not used, since that
-// builds any type of object that a file asks for, and takes "\" and bytes outside UTF-8 for its
-// own.
+// The text of a settings file: "[key]" lines and "name=value" lines, values as bytes. Rules:
+// docs/formats.md, "Settings".
 #pragma once
 
-#include <QSettings>
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
 
-/// The format for QSettings objects. Keys and names stand in the file as they do in the map ("/" as
-/// "\"), the root's values under "[General]". Lines that are neither are passed over. A value
-/// stands as it is, or behind "@" with "%XX" for its bytes; a pair of quotes around it does not
-/// count.
-QSettings::Format SettingsFormat();
+/// Values by name, and those by key ("" for the root, "TE", "main\icons").
+using SettingsValues = std::map<std::string, std::string, std::less<>>;
+using SettingsMap = std::map<std::string, SettingsValues, std::less<>>;
 
 /// Largest file that is read or written, in bytes.
-inline constexpr qint64 LargestSettingsFile = 1 << 20;
+inline constexpr std::size_t LargestSettingsFile = 1 << 20;
+/// Longest key or name, in bytes.
+inline constexpr std::size_t LongestSettingsName = 255;
+
+/// Takes any bytes: remarks, lines that are no values, and values whose key or name is too long
+/// are passed over.
+[[nodiscard]] SettingsMap ReadSettings(std::string_view Text);
+/// The text that reads back as the map, byte for byte.
+[[nodiscard]] std::string WriteSettings(const SettingsMap& Map);
+
+/// What stands in a file, which is named by its native path; an empty map if there is no such file.
+/// None if it is no plain file, larger than LargestSettingsFile, or could not be read to its end.
+[[nodiscard]] std::optional<SettingsMap> LoadSettings(const std::string& File);

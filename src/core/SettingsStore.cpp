@@ -1,98 +1,79 @@
 #include "core/SettingsStore.h"
 
-#include "core/SettingsFile.h"
+#include "lornfd/paths.h"
+#include "lornfd/replacefile.h"
 
+#include <QDir>
 #include <QFileInfo>
-#include <QStringList>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-QByteArray toBytes(std::string_view text) {
-    return {text.data(), static_cast<qsizetype>(text.size())};
+SettingsMap whatStands(const std::string& file) {
+    return LoadSettings(file).value_or(SettingsMap());
 }
 
-/// A part of a key, or a name, without any character that means something in a settings file.
-QString escaped(const QByteArray& part) {
-    return QString::fromLatin1(part.toPercentEncoding(" "));
+bool isTooLong(const SettingsStore::Entry& entry) {
+    return std::max(entry.key.size(), entry.name.size()) > LongestSettingsName;
 }
 
-std::vector<std::string> unescaped(const QStringList& parts) {
-    std::vector<std::string> names;
-    for (const QString& part : parts)
-        names.push_back(QByteArray::fromPercentEncoding(part.toUtf8()).toStdString());
-    return names;
+void put(SettingsMap& map, const SettingsStore::Entry& entry) {
+    if (entry.value) {
+        map[entry.key][entry.name] = *entry.value;
+        return;
+    }
+    const auto key = map.find(entry.key);
+    if (key != map.end() && key->second.erase(entry.name) != 0 && key->second.empty())
+        map.erase(key);
 }
 
-/// "main\icons" as the group "main/icons"; empty for the root.
-QString groupOf(std::string_view key) {
-    QStringList parts;
-    for (const QByteArray& part : toBytes(key).split('\\'))
-        parts << escaped(part);
-    return parts.join(u'/');
-}
-
-QString pathOf(std::string_view key, std::string_view name) {
-    return key.empty() ? escaped(toBytes(name)) : groupOf(key) + u'/' + escaped(toBytes(name));
-}
-
-void put(QSettings& ini, const QString& path, const QVariant& value) {
-    if (value.isValid())
-        ini.setValue(path, value);
-    else
-        ini.remove(path);
-}
-
-bool usable(const QString& file) {
-    return QFileInfo(file).size() <= LargestSettingsFile;
+SettingsMap merged(SettingsMap map, const std::vector<SettingsStore::Entry>& entries) {
+    for (const SettingsStore::Entry& entry : entries)
+        put(map, entry);
+    return map;
 }
 
 } // namespace
 
-SettingsStore::SettingsStore(QString File) : m_file(std::move(File)) {}
+SettingsStore::SettingsStore(std::string File) : m_file(lornfd::resolvePath(File)) {}
 
 std::optional<std::string> SettingsStore::Read(std::string_view Key, std::string_view Name) const {
-    if (!usable(m_file))
-        return {};
-    const QVariant value = QSettings(m_file, SettingsFormat()).value(pathOf(Key, Name));
-    return value.isValid() ? std::optional(value.toByteArray().toStdString()) : std::nullopt;
+    const SettingsValues values = Values(Key);
+    const auto value = values.find(Name);
+    return value != values.end() ? std::optional(value->second) : std::nullopt;
 }
 
-bool SettingsStore::Write(std::string_view Key, const std::vector<Entry>& Entries) {
-    if (!usable(m_file))
-        return false;
-    QSettings ini(m_file, SettingsFormat());
-    std::vector<std::pair<QString, QVariant>> former;
-    for (const Entry& entry : Entries) {
-        const QString path = pathOf(Key, entry.name);
-        const QVariant value = entry.value ? QVariant(toBytes(*entry.value)) : QVariant();
-        if (ini.value(path) == value)
-            continue;
-        former.emplace_back(path, ini.value(path));
-        put(ini, path, value);
-    }
-    ini.sync();
-    if (ini.status() == QSettings::NoError)
-        return true;
-    // Objects on one file share what is not written yet: later reads must not see it.
-    for (const auto& [path, value] : former)
-        put(ini, path, value);
-    return false;
-}
-
-std::vector<std::string> SettingsStore::Names(std::string_view Key) const {
-    if (!usable(m_file))
-        return {};
-    QSettings ini(m_file, SettingsFormat());
-    ini.beginGroup(groupOf(Key));
-    return unescaped(ini.childKeys());
+SettingsValues SettingsStore::Values(std::string_view Key) const {
+    SettingsMap map = whatStands(m_file);
+    const auto values = map.find(Key);
+    return values != map.end() ? std::move(values->second) : SettingsValues();
 }
 
 std::vector<std::string> SettingsStore::SubKeys(std::string_view Key) const {
-    if (!usable(m_file))
-        return {};
-    QSettings ini(m_file, SettingsFormat());
-    ini.beginGroup(groupOf(Key));
-    return unescaped(ini.childGroups());
+    const std::string above = Key.empty() ? std::string() : std::string(Key) + '\\';
+    std::vector<std::string> names;
+    for (const auto& [key, values] : whatStands(m_file))
+        if (key.size() > above.size() && key.starts_with(above))
+            names.push_back(key.substr(above.size(), key.find('\\', above.size()) - above.size()));
+    std::ranges::sort(names);
+    names.erase(std::ranges::unique(names).begin(), names.end());
+    return names;
+}
+
+bool SettingsStore::Write(const std::vector<Entry>& Entries) {
+    const auto before = LoadSettings(m_file);
+    if (!before || std::ranges::any_of(Entries, isTooLong))
+        return false;
+    if (merged(*before, Entries) == *before)
+        return true;
+    QDir().mkpath(QFileInfo(QString::fromStdString(m_file)).path());
+    // What another program wrote until the lock was taken counts as well.
+    const auto replacement = lornfd::FileReplacement::begin(m_file);
+    const auto now = replacement ? LoadSettings(m_file) : std::nullopt;
+    if (!now)
+        return false;
+    const std::string text = WriteSettings(merged(*now, Entries));
+    return text.size() <= LargestSettingsFile && replacement->write(text) && replacement->commit();
 }

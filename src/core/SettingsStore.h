@@ -1,7 +1,7 @@
-// One INI file as a store of text values by key ("", "TE", "main\icons") and name.
+// One settings file as a store of text values by key ("", "TE", "main\icons") and name.
 #pragma once
 
-#include <QString>
+#include "core/SettingsFile.h"
 
 #include <optional>
 #include <string>
@@ -11,23 +11,27 @@
 class SettingsStore {
 public:
     struct Entry {
+        std::string key;
         std::string name;
         std::optional<std::string> value; ///< none deletes the entry
     };
 
-    explicit SettingsStore(QString File);
+    /// `File` is a native path; the file and its directory need not exist.
+    explicit SettingsStore(std::string File);
 
-    /// What stands in the file now, other programs' writes included. None if it is missing or
-    /// broken.
+    // Each access reads what stands in the file now, other programs' writes included. A file that
+    // is missing or cannot be read has no values.
     [[nodiscard]] std::optional<std::string> Read(std::string_view Key,
                                                   std::string_view Name) const;
-    /// Writes all entries at once; false if the file could not be replaced, it is then as before.
-    /// Other values of the file stay.
-    [[nodiscard]] bool Write(std::string_view Key, const std::vector<Entry>& Entries);
-    /// Names of the values directly below a key, and of its sub-keys.
-    [[nodiscard]] std::vector<std::string> Names(std::string_view Key) const;
+    /// The values directly below a key.
+    [[nodiscard]] SettingsValues Values(std::string_view Key) const;
+    /// Names of the keys directly below a key, in byte order.
     [[nodiscard]] std::vector<std::string> SubKeys(std::string_view Key) const;
 
+    /// Writes all entries at once; other values of the file stay. False if the file could not be
+    /// read or replaced, or a key or name is longer than LongestSettingsName.
+    [[nodiscard]] bool Write(const std::vector<Entry>& Entries);
+
 private:
-    QString m_file;
+    std::string m_file;
 };

@@ -1,6 +1,5 @@
 #include "core/clsSettings.h"
 
-#include "core/SettingsStore.h"
 #include "core/TempDirectory.h"
 #include "core/TraceLog.h"
 #include "core/mdlComFunctions.h"
@@ -14,7 +13,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <algorithm>
+#include <map>
 
 std::unique_ptr<clsSettings> Settings;
 
@@ -73,43 +72,50 @@ bool isEntryName(const std::string& name) {
            name.find_first_not_of("0123456789") == std::string::npos;
 }
 
-SettingsStore::Entry textEntry(std::string_view name, const std::string& value,
-                               bool deleteIfEmpty) {
-    if (deleteIfEmpty && value.empty())
-        return {std::string(name), {}};
-    return {std::string(name), value};
+SettingsStore::Entry textEntry(std::string_view key, std::string_view name,
+                               const std::string& value, bool deleteIfEmpty) {
+    SettingsStore::Entry entry{std::string(key), std::string(name), {}};
+    if (!deleteIfEmpty || !value.empty())
+        entry.value = value;
+    return entry;
+}
+
+SettingsStore::Entry numberEntry(std::string_view key, std::string_view name, std::int32_t value) {
+    return {std::string(key), std::string(name), std::to_string(value)};
 }
 
 std::vector<std::string> loadList(const SettingsStore& store, const char* key) {
-    std::vector<std::string> names = store.Names(key);
-    std::erase_if(names, [](const std::string& name) { return !isEntryName(name); });
-    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-        return keshobjects::readInteger(a) < keshobjects::readInteger(b);
-    });
+    std::multimap<std::int32_t, std::string> entries;
+    for (const auto& [name, value] : store.Values(key))
+        if (isEntryName(name))
+            entries.emplace(keshobjects::readInteger(name).value_or(0), value);
     std::vector<std::string> list;
-    for (const std::string& name : names)
-        if (const auto value = store.Read(key, name))
-            list.push_back(*value);
+    for (const auto& entry : entries)
+        list.push_back(entry.second);
     return list;
 }
 
 void saveList(SettingsStore& store, const char* key, const std::vector<std::string>& list) {
     std::vector<SettingsStore::Entry> entries;
     for (std::size_t i = 0; i < list.size(); ++i)
-        entries.push_back({std::to_string(i), list[i]});
-    (void)store.Write(key, entries);
+        entries.push_back({key, std::to_string(i), list[i]});
+    (void)store.Write(entries);
 }
 
 } // namespace
 
 struct clsSettings::Data {
     QDir config = QDir(configDirectory());
-    SettingsStore user = SettingsStore(config.filePath(QStringLiteral("user.ini")));
-    SettingsStore machine = SettingsStore(config.filePath(QStringLiteral("machine.ini")));
-    SettingsStore game = SettingsStore(config.filePath(QStringLiteral("game.ini")));
-    SettingsStore outfitter = SettingsStore(config.filePath(QStringLiteral("outfitter.ini")));
+    SettingsStore user = store("user.ini");
+    SettingsStore machine = store("machine.ini");
+    SettingsStore game = store("game.ini");
+    SettingsStore outfitter = store("outfitter.ini");
     QString temp;
     TraceLog log;
+
+    [[nodiscard]] SettingsStore store(const char* file) const {
+        return SettingsStore(config.filePath(QString::fromLatin1(file)).toStdString());
+    }
 
     [[nodiscard]] std::string text(const TextSetting& setting) const {
         return user.Read(setting.key, setting.name).value_or(setting.fallback);
@@ -125,10 +131,10 @@ struct clsSettings::Data {
         return IntToBool(number(setting));
     }
     void save(const TextSetting& setting, const std::string& value) {
-        (void)user.Write(setting.key, {textEntry(setting.name, value, true)});
+        (void)user.Write({textEntry(setting.key, setting.name, value, true)});
     }
     void save(const NumberSetting& setting, std::int32_t value) {
-        (void)user.Write(setting.key, {{setting.name, std::to_string(value)}});
+        (void)user.Write({numberEntry(setting.key, setting.name, value)});
     }
 };
 
@@ -255,24 +261,28 @@ std::string clsSettings::StateDirectory() const {
     return programForm(path);
 }
 
-std::optional<std::string> clsSettings::ReadRegString(std::string_view Key,
-                                                      std::string_view Name) const {
-    return m->user.Read(Key, Name);
+std::string clsSettings::ReadRegValue(std::string_view Key, std::string_view Name,
+                                      std::string_view Default) const {
+    return m->user.Read(Key, Name).value_or(std::string(Default));
 }
 
-std::optional<std::int32_t> clsSettings::ReadRegLong(std::string_view Key,
-                                                     std::string_view Name) const {
+std::int32_t clsSettings::ReadRegValue(std::string_view Key, std::string_view Name,
+                                       std::int32_t Default) const {
     const auto value = m->user.Read(Key, Name);
-    return value ? keshobjects::readInteger(*value) : std::nullopt;
+    return (value ? keshobjects::readInteger(*value) : std::nullopt).value_or(Default);
 }
 
 bool clsSettings::SaveRegValue(std::string_view Key, std::string_view Name,
                                const std::string& Value, bool DeleteIfEmpty) {
-    return m->user.Write(Key, {textEntry(Name, Value, DeleteIfEmpty)});
+    return m->user.Write({textEntry(Key, Name, Value, DeleteIfEmpty)});
 }
 
 bool clsSettings::SaveRegValue(std::string_view Key, std::string_view Name, std::int32_t Value) {
-    return m->user.Write(Key, {{std::string(Name), std::to_string(Value)}});
+    return m->user.Write({numberEntry(Key, Name, Value)});
+}
+
+bool clsSettings::SaveRegValues(const std::vector<SettingsStore::Entry>& Values) {
+    return m->user.Write(Values);
 }
 
 std::vector<std::string> clsSettings::SubKeys(std::string_view Key) const {
@@ -283,9 +293,9 @@ bool clsSettings::InitEnviroment() {
     const QFileInfo program(QCoreApplication::applicationFilePath());
     const std::string name = program.completeBaseName().toStdString();
     // The entry is for other programs: its path is in their form, the platform's.
-    (void)m->machine.Write("", {{"path", QDir::toNativeSeparators(program.path()).toStdString()},
-                                {"EXEName", name + ".exe"},
-                                {"version", ProgramVersion()}});
+    (void)m->machine.Write({{"", "path", QDir::toNativeSeparators(program.path()).toStdString()},
+                            {"", "EXEName", name + ".exe"},
+                            {"", "version", ProgramVersion()}});
     m->temp = MakeTempDirectory();
     return true;
 }

@@ -6,9 +6,10 @@
 // here is in the program's form ("\").
 #pragma once
 
+#include "core/SettingsStore.h"
+
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -58,17 +59,19 @@ public:
     /// KESH_STATE_DIR, else the platform's own; made if missing.
     [[nodiscard]] std::string StateDirectory() const;
 
-    /// A value of the user root; the key is empty for the root itself, a group otherwise ("TE",
-    /// "main\icons").
-    [[nodiscard]] std::optional<std::string> ReadRegString(std::string_view Key,
-                                                           std::string_view Name) const;
-    [[nodiscard]] std::optional<std::int32_t> ReadRegLong(std::string_view Key,
-                                                          std::string_view Name) const;
+    /// A value of the user root, or the default if it is missing or no number; the key is empty for
+    /// the root itself, a group otherwise ("TE", "main\icons").
+    [[nodiscard]] std::string ReadRegValue(std::string_view Key, std::string_view Name,
+                                           std::string_view Default = {}) const;
+    [[nodiscard]] std::int32_t ReadRegValue(std::string_view Key, std::string_view Name,
+                                            std::int32_t Default) const;
     bool SaveRegValue(std::string_view Key, std::string_view Name, const std::string& Value,
                       bool DeleteIfEmpty);
     bool SaveRegValue(std::string_view Key, std::string_view Name, std::int32_t Value);
+    /// Several values of the user root in one write of the file: all of them or none.
+    bool SaveRegValues(const std::vector<SettingsStore::Entry>& Values);
 
-    /// Names of the groups directly below a key, in the store's order.
+    /// Names of the groups directly below a key, in byte order.
     [[nodiscard]] std::vector<std::string> SubKeys(std::string_view Key) const;
 
     /// Writes the program's own entry and makes the temporary directory.

@@ -1,13 +1,17 @@
+#include "core/SettingsFile.h"
 #include "core/clsSettings.h"
 #include "core/mdlCommon.h"
 #include "core/surroundings.h"
+#include "lornfd/faults.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 
-#include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <limits>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 class SettingsStores : public Surroundings {
 protected:
@@ -52,9 +56,9 @@ TEST_F(SettingsStores, EachPropertyHasItsOwnPlace) {
         (settings.*row.set)(std::string("\\of\\") + row.name);
     for (const Text& row : texts) {
         EXPECT_EQ((settings.*row.get)(), std::string("\\of\\") + row.name);
-        EXPECT_EQ(settings.ReadRegString(row.key, row.name), std::string("\\of\\") + row.name);
+        EXPECT_EQ(settings.ReadRegValue(row.key, row.name), std::string("\\of\\") + row.name);
         (settings.*row.set)("");
-        EXPECT_FALSE(settings.ReadRegString(row.key, row.name)) << row.name << " was not deleted";
+        EXPECT_EQ(settings.ReadRegValue(row.key, row.name, "gone"), "gone") << row.name;
     }
 
     struct Flag {
@@ -75,9 +79,9 @@ TEST_F(SettingsStores, EachPropertyHasItsOwnPlace) {
     for (const Flag& row : flags) {
         (settings.*row.set)(false);
         EXPECT_FALSE((settings.*row.get)());
-        EXPECT_EQ(settings.ReadRegString(row.key, row.name), "0");
+        EXPECT_EQ(settings.ReadRegValue(row.key, row.name), "0");
         (settings.*row.set)(true);
-        EXPECT_EQ(settings.ReadRegLong(row.key, row.name), 1);
+        EXPECT_EQ(settings.ReadRegValue(row.key, row.name, -1), 1);
     }
 }
 
@@ -116,11 +120,11 @@ TEST_F(SettingsStores, WritesOfOthersAreSeenAndKept) {
     settings.SetDataRoot("\\b");
     EXPECT_NE(read("config/user.ini").find("width=1024"), std::string::npos);
     EXPECT_NE(read("config/user.ini").find("DescLanguage=7"), std::string::npos);
-    EXPECT_EQ(other.ReadRegLong("TE", "width"), 1024);
+    EXPECT_EQ(other.ReadRegValue("TE", "width", -1), 1024);
 
     QFile::remove(native("config/user.ini"));
     EXPECT_EQ(settings.DescLangID(), 44);
-    EXPECT_FALSE(settings.ReadRegLong("TE", "width"));
+    EXPECT_EQ(settings.ReadRegValue("TE", "width", -1), -1);
 }
 
 TEST_F(SettingsStores, EveryTextReadsBackTheSame) {
@@ -145,15 +149,51 @@ TEST_F(SettingsStores, EveryTextReadsBackTheSame) {
             ASSERT_TRUE(settings.SaveRegValue(key, "name/" + texts[i] + std::to_string(i), texts[i],
                                               false));
     }
-    // Bytes of the file, not what is still in memory: the store sees a file that it has not read
-    // yet.
     QDir().rename(native("config"), native("config2"));
     qputenv("KESH_CONFIG_DIR", native("config2").toUtf8());
     const clsSettings fresh;
     for (const std::string& key : keys)
         for (std::size_t i = 0; i < texts.size(); ++i)
-            EXPECT_EQ(fresh.ReadRegString(key, "name/" + texts[i] + std::to_string(i)), texts[i])
+            EXPECT_EQ(fresh.ReadRegValue(key, "name/" + texts[i] + std::to_string(i), "none"),
+                      texts[i])
                 << key << " " << i;
+}
+
+TEST(SettingsFiles, EveryNameAndKeyIsItsOwn) {
+    const Texts names = {"",        "General",  "%47eneral", " General", "General ",     "general",
+                         "DEFAULT", " x",       "x ",        "x",        "x%20",         "[x]",
+                         ";x",      "#x",       "a=b",       "@x",       "\"x\"",        "x\n",
+                         "\xF6",    "\xC3\xB6", "a/b",       "a / b",    "\xEF\xBB\xBFx"};
+    Texts keys = names;
+    for (const std::string& name : names)
+        keys.push_back("main\\" + name);
+    SettingsMap map;
+    for (const std::string& key : keys)
+        for (const std::string& name : names)
+            map[key][name] = key + "|" + name;
+    EXPECT_EQ(ReadSettings(WriteSettings(map)), map);
+}
+
+TEST_F(SettingsStores, LongNamesAreRefused) {
+    const std::string longest(255, '%');
+    EXPECT_TRUE(settings.SaveRegValue(longest, longest, "x", false));
+    EXPECT_EQ(settings.ReadRegValue(longest, longest), "x");
+    EXPECT_FALSE(settings.SaveRegValue(longest + '%', "a", "x", false));
+    EXPECT_FALSE(settings.SaveRegValue("a", longest + '%', "x", false));
+}
+
+TEST_F(SettingsStores, SeveralValuesAreWrittenAtOnce) {
+    settings.SaveRegValue("a", "gone", 1);
+    int replacements = 0;
+    lornfd::setFaultHook([&](lornfd::DiskOperation operation, std::size_t*) {
+        replacements += operation == lornfd::DiskOperation::Rename;
+        return 0;
+    });
+    EXPECT_TRUE(settings.SaveRegValues({{"", "x", "1"}, {"a", "gone", {}}, {"a\\b", "y", "2"}}));
+    EXPECT_TRUE(settings.SaveRegValues({{"", "x", "1"}, {"a", "gone", {}}}));
+    lornfd::setFaultHook({});
+    EXPECT_EQ(replacements, 1) << "once, and not at all where nothing changes";
+    EXPECT_EQ(read("config/user.ini"), "[General]\nx=1\n\n[a\\b]\ny=2\n");
 }
 
 TEST_F(SettingsStores, FilesMayBeWrittenByHand) {
@@ -165,20 +205,24 @@ TEST_F(SettingsStores, FilesMayBeWrittenByHand) {
     EXPECT_EQ(settings.KeshEXEPath(), "C:\\new\\x,y;z.exe");
     EXPECT_EQ(settings.Ext3DViewerCmdLine(), "\"%1\" -a=b \"%2\"");
     EXPECT_EQ(settings.Ext3DViewerPath(), "\\view\n");
-    EXPECT_EQ(settings.ReadRegLong("GE", "left"), -5);
+    EXPECT_EQ(settings.ReadRegValue("GE", "left", -1), -5);
 
     settings.SetDataRoot("\\plain \xE4 path");
     EXPECT_NE(read("config/user.ini").find("DataPath=\\plain \xE4 path\n"), std::string::npos)
         << "a path does not stand there as it is";
 }
 
+TEST_F(SettingsStores, ByteOrderMarkHidesNoSection) {
+    write("config/user.ini", "\xEF\xBB\xBF[TE]\nleft=3\n");
+    EXPECT_EQ(settings.ReadRegValue("TE", "left", -1), 3);
+}
+
 TEST_F(SettingsStores, SubKeysAreListed) {
     for (const char* icon : {"te", "vfs://", "a\"b"})
         settings.SaveRegValue(std::string("main\\icons\\") + icon, "caption", icon, true);
     settings.SaveRegValue("main", "left", 5);
-    Texts icons = settings.SubKeys("main\\icons");
-    std::sort(icons.begin(), icons.end());
-    EXPECT_EQ(icons, (Texts{"a\"b", "te", "vfs://"}));
+    EXPECT_EQ(settings.SubKeys("main\\icons"), (Texts{"a\"b", "te", "vfs://"}));
+    EXPECT_EQ(settings.SubKeys(""), (Texts{"main"}));
     EXPECT_EQ(settings.SubKeys("main"), (Texts{"icons"}));
     EXPECT_TRUE(settings.SubKeys("main\\icons\\te").empty());
 }
@@ -187,7 +231,7 @@ TEST_F(SettingsStores, NumbersThatAreNoneGiveTheDefault) {
     for (const char* text : {"", "abc", "44.5", "99999999999", "0x10", "4 4"}) {
         settings.SaveRegValue("", "DescLanguage", text, false);
         EXPECT_EQ(settings.DescLangID(), 44) << text;
-        EXPECT_FALSE(settings.ReadRegLong("", "DescLanguage")) << text;
+        EXPECT_EQ(settings.ReadRegValue("", "DescLanguage", -1), -1) << text;
     }
     settings.SetDescLangID(std::numeric_limits<std::int32_t>::min());
     EXPECT_EQ(settings.DescLangID(), std::numeric_limits<std::int32_t>::min());
@@ -212,15 +256,15 @@ TEST_F(SettingsStores, RubbishGivesDefaultsAndSavingKeepsWhatIsValid) {
         write("config/user.ini", text);
         EXPECT_EQ(settings.DescLangID(), 44);
         EXPECT_EQ(settings.DataRoot(), "");
-        EXPECT_FALSE(settings.ReadRegLong("TE", "width"));
+        EXPECT_EQ(settings.ReadRegValue("TE", "width", -1), -1);
 
         write("config/user.ini", valid + text);
         EXPECT_EQ(settings.DescLangID(), 49);
         EXPECT_TRUE(settings.SaveRegValue("GE", "left", 3));
         const clsSettings other;
         EXPECT_EQ(other.DescLangID(), 49);
-        EXPECT_EQ(other.ReadRegLong("TE", "width"), 800);
-        EXPECT_EQ(other.ReadRegLong("GE", "left"), 3);
+        EXPECT_EQ(other.ReadRegValue("TE", "width", -1), 800);
+        EXPECT_EQ(other.ReadRegValue("GE", "left", -1), 3);
     }
 }
 
@@ -228,8 +272,13 @@ TEST_F(SettingsStores, FileThatCannotBeReadGivesDefaults) {
     QDir().mkdir(native("config/user.ini"));
     EXPECT_EQ(settings.DescLangID(), 44);
     EXPECT_FALSE(settings.SaveRegValue("TE", "left", 3));
-    EXPECT_FALSE(settings.ReadRegLong("TE", "left"));
+    EXPECT_EQ(settings.ReadRegValue("TE", "left", -1), -1);
     QDir().rmdir(native("config/user.ini"));
+
+    ASSERT_EQ(mkfifo(native("config/user.ini").toUtf8(), 0600), 0);
+    EXPECT_EQ(settings.DescLangID(), 44) << "it waited for somebody to write";
+    EXPECT_FALSE(settings.SaveRegValue("TE", "left", 3));
+    QFile::remove(native("config/user.ini"));
 
     QFile huge(native("config/user.ini"));
     ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(qint64{1} << 32));
@@ -238,29 +287,92 @@ TEST_F(SettingsStores, FileThatCannotBeReadGivesDefaults) {
     EXPECT_EQ(huge.size(), qint64{1} << 32);
 }
 
+TEST(SettingsFiles, HalfReadOnesAreToldFromEmptyOnes) {
+    EXPECT_TRUE(LoadSettings("/nowhere/user.ini"));
+    EXPECT_FALSE(LoadSettings("/"));
+#ifdef __linux__
+    EXPECT_FALSE(LoadSettings("/proc/self/mem")) << "its first bytes cannot be read";
+    EXPECT_FALSE(LoadSettings("/proc/self/status")) << "longer than it says";
+#endif
+}
+
+TEST(SettingsFiles, LongNamesDoNotMultiply) {
+    const std::string longName(500'000, 'n');
+    std::string text = "[" + longName + "]\n";
+    for (int i = 0; i < 50'000; ++i)
+        text += "n" + std::to_string(i) + "=\n";
+    EXPECT_TRUE(ReadSettings(text).empty());
+    EXPECT_EQ(ReadSettings(text + "[TE]\n" + longName + "=1\nleft=3\n"),
+              (SettingsMap{{"TE", {{"left", "3"}}}}));
+}
+
+/// No file takes a byte while it lives.
+class FullDisk {
+public:
+    FullDisk() {
+        getrlimit(RLIMIT_FSIZE, &m_limit);
+        const rlimit none{0, m_limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &m_limit);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_limit{};
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
 TEST_F(SettingsStores, FailedSaveLeavesTheFormerValue) {
     settings.SetDescLangID(49);
     const std::string before = read("config/user.ini");
-    rlimit limit{};
-    getrlimit(RLIMIT_FSIZE, &limit);
-    const rlimit none{0, limit.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &none);
-    const bool changed = settings.SaveRegValue("", "DescLanguage", 7);
-    const bool added = settings.SaveRegValue("TE", "left", 3);
-    const auto language = settings.DescLangID();
-    const auto left = settings.ReadRegLong("TE", "left");
-    setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, handler);
-
-    EXPECT_FALSE(changed);
-    EXPECT_FALSE(added);
-    EXPECT_EQ(language, 49);
-    EXPECT_FALSE(left);
+    {
+        const FullDisk full;
+        EXPECT_FALSE(settings.SaveRegValue("", "DescLanguage", 7));
+        EXPECT_FALSE(settings.SaveRegValue("TE", "left", 3));
+        EXPECT_EQ(settings.DescLangID(), 49);
+        EXPECT_EQ(settings.ReadRegValue("TE", "left", -1), -1);
+    }
     EXPECT_EQ(read("config/user.ini"), before);
-    EXPECT_TRUE(settings.SaveRegValue("TE", "left", 3));
     EXPECT_EQ(QDir(native("config")).entryList(QDir::Files | QDir::Hidden).size(), 1)
         << "something was left behind";
+
+    // Nothing of the failed saves is left that could go over another program's edit.
+    write("config/user.ini", "[General]\nDescLanguage=12\n[TE]\nleft=5\n");
+    EXPECT_TRUE(settings.SaveRegValue("TE", "top", 3));
+    EXPECT_EQ(settings.DescLangID(), 12);
+    EXPECT_EQ(settings.ReadRegValue("TE", "left", -1), 5);
+}
+
+TEST_F(SettingsStores, SaveFailsWholeAtEveryStep) {
+    const std::string before = "[General]\nDescLanguage=49\n";
+    int failures = 0;
+    for (int step = 0; step == failures; ++step) {
+        write("config/user.ini", before.c_str());
+        int left = step;
+        bool replaced = false;
+        lornfd::setFaultHook([&](lornfd::DiskOperation operation, std::size_t*) {
+            if (left-- == 0)
+                return ENOSPC;
+            replaced = replaced || operation == lornfd::DiskOperation::Rename;
+            return 0;
+        });
+        failures += !settings.SaveRegValue("", "DescLanguage", 7);
+        lornfd::setFaultHook({});
+        EXPECT_EQ(settings.DescLangID(), replaced ? 7 : 49) << step;
+        EXPECT_EQ(QDir(native("config")).entryList(QDir::Files | QDir::Hidden).size(), 1) << step;
+    }
+    EXPECT_GE(failures, 4) << "open, write, flush, rename";
+}
+
+TEST_F(SettingsStores, DirectoryIsMadeWhenSomethingIsSaved) {
+    qputenv("KESH_CONFIG_DIR", native("none/yet").toUtf8());
+    clsSettings fresh;
+    EXPECT_EQ(fresh.DescLangID(), 44);
+    EXPECT_FALSE(QFile::exists(native("none")));
+    fresh.SetDescLangID(49);
+    EXPECT_EQ(fresh.DescLangID(), 49);
 }
 
 TEST_F(SettingsStores, RecentListsKeepTheirOldTail) {
@@ -275,6 +387,16 @@ TEST_F(SettingsStores, RecentListsKeepTheirOldTail) {
     list[0] = "vfs://new";
     list[1] = "\\b";
     EXPECT_EQ(settings.LoadRecentTFiles(), list);
+
+    // A list of any length is read in one pass.
+    std::vector<SettingsStore::Entry> entries;
+    for (int i = 0; i < 10'000; ++i)
+        entries.push_back({"mru\\TXTEditor", std::to_string(i), "\\file"});
+    ASSERT_TRUE(settings.SaveRegValues(entries));
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(settings.LoadRecentTFiles(), Texts(10'000, "\\file"));
+    EXPECT_LT(timer.elapsed(), 5000) << "milliseconds";
 
     settings.SaveRecentGalaxyMaps({"\\map"});
     for (const char* name : {"12345", "name", "-1", ""})

@@ -1,0 +1,58 @@
+#include "lornfd/paths.h"
+#include "scratch.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace {
+
+using namespace lornfd;
+
+TEST(Paths, NativeFormLeavesTheEntry) {
+    const struct {
+        const char* given;
+        const char* native;
+    } cases[] = {{"a\\b/c", "a/b/c"},
+                 {"\\game\\01.cat::types\\a.pck", "/game/01.cat::types\\a.pck"},
+                 {"a\\b::c\\d::e", "a/b::c\\d::e"},
+                 {"::x\\y", "::x\\y"},
+                 {"", ""}};
+    for (const auto& wanted : cases)
+        EXPECT_EQ(nativePath(wanted.given), wanted.native);
+}
+
+TEST(Paths, FoundWithoutRegardToCaseExactFirst) {
+    const scratch::Directory directory;
+    std::filesystem::create_directories(directory / "Mods/Inner");
+    scratch::putBytes(directory / "Mods/Inner/Ships.txt", "");
+    scratch::putBytes(directory / "Mods/Inner/SHIPS.txt", "");
+    std::filesystem::create_symlink("nowhere", directory / "Mods/Dangling");
+    const struct {
+        const char* given;
+        const char* found;
+    } cases[] = {{"mods\\inner\\Ships.txt", "Mods/Inner/Ships.txt"},
+                 {"MODS/INNER/ships.TXT", "Mods/Inner/SHIPS.txt"},
+                 {"mods\\INNER\\new\\Name.txt", "Mods/Inner/new/Name.txt"},
+                 {"mods\\dangling", "Mods/Dangling"},
+                 {"mods\\inner\\SHIPS.TXT::Types\\X", "Mods/Inner/SHIPS.txt::Types\\X"}};
+    for (const auto& wanted : cases)
+        EXPECT_EQ(resolvePath(directory / wanted.given), directory / wanted.found);
+}
+
+TEST(Paths, ComparesFoldedBytesThenLength) {
+    const struct {
+        const char* a;
+        const char* b;
+        int order;
+    } cases[] = {{"ABC", "abc", 0}, {"a_b", "aAb", -1},   {"ab", "ABC", -1},
+                 {"\xff", "z", 1},  {"\xc4", "\xe4", -1}, {"", "", 0}};
+    for (const auto& wanted : cases) {
+        EXPECT_EQ(compareNoCase(wanted.a, wanted.b), wanted.order);
+        EXPECT_EQ(compareNoCase(wanted.b, wanted.a), -wanted.order);
+        EXPECT_EQ(equalNoCase(wanted.a, wanted.b), wanted.order == 0);
+    }
+}
+
+} // namespace

@@ -14,8 +14,8 @@ namespace lornfd {
 /// happens to the catalog later.
 struct OpenCatalog {
     std::shared_ptr<const CatalogIndex> index;
-    platform::File data;   ///< closed if there is no data file, in a catalog without entries
-    std::int64_t dataSize; ///< bytes
+    platform::File data;       ///< closed if there is no data file, in a catalog without entries
+    std::int64_t dataSize = 0; ///< bytes
     platform::File
         indexFile; ///< held open so that its number on the disk is not given to another file
     platform::FileStamp stamp; ///< of the index

@@ -30,7 +30,7 @@ LastError& lastError() {
     return error;
 }
 
-bool fail(LornFDError code, ErrorParts parts) {
+bool fail(LornFDError code, const ErrorParts& parts) {
     lastError().set(code, parts);
     return false;
 }

@@ -15,7 +15,7 @@ namespace lornfd {
 LastError& lastError();
 
 /// Sets the last error. Gives false, so that a failing function can return it.
-bool fail(LornFDError code, ErrorParts parts);
+bool fail(LornFDError code, const ErrorParts& parts);
 /// The same with the system's words as the reason.
 bool fail(LornFDError code, std::string_view file, const std::error_code& reason);
 

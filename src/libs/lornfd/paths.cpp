@@ -63,6 +63,12 @@ std::string nativePath(std::string_view path) {
     return native;
 }
 
+std::string programPath(std::string_view path) {
+    std::string result(path);
+    std::ranges::replace(result, '/', '\\');
+    return result;
+}
+
 std::string resolvePath(std::string_view path) {
     const std::string native = nativePath(path);
     const std::size_t entry = std::min(native.find(entryMark), native.size());

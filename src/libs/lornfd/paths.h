@@ -9,6 +9,9 @@ namespace lornfd {
 /// The native form of a plain path; in a catalog path only the part before "::" changes.
 std::string nativePath(std::string_view path);
 
+/// The program's form of a native path: every "/" as "\".
+std::string programPath(std::string_view path);
+
 /// nativePath of an existing file or directory found without regard to case, component by
 /// component; an exact match wins. Where the last components do not exist they stay as given.
 std::string resolvePath(std::string_view path);

@@ -21,6 +21,12 @@ QString title() {
     return QString::fromStdString(ProgramTitle());
 }
 
+void traceWarnings() {
+    for (const QString& line :
+         QString::fromStdString(KeshVFS_Warnings()).split(u'\n', Qt::SkipEmptyParts))
+        Settings->Trace(line.toStdString(), true);
+}
+
 void createView(QWidget* owner) {
     KeshVFS_CreateVFS(Settings->DataRoot());
     const std::string mod = Settings->ActiveModFullName();
@@ -48,7 +54,11 @@ void loadResources(QWidget* owner) {
 void LoadKeshData(QWidget* Owner) {
     std::vector<Phase> phases = {
         {"", [&] { ShowWait(title() + tr(" - scanning Kesh data files. Please wait..."), Owner); }},
-        {"KeshVFS_CreateVFS", [&] { createView(Owner); }},
+        {"KeshVFS_CreateVFS",
+         [&] {
+             createView(Owner);
+             traceWarnings();
+         }},
         {"Archive.Clear", [] { Archive->Clear(); }},
     };
     if (Settings->LoadDescriptions()) {

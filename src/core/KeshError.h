@@ -20,9 +20,8 @@ public:
         : std::runtime_error(text), m_number(number), m_source(std::move(source)) {}
 
     [[nodiscard]] std::uint32_t Number() const noexcept { return m_number; }
-    [[nodiscard]] const std::string& Source() const noexcept {
-        return m_source;
-    } ///< class or routine
+    /// Class or routine.
+    [[nodiscard]] const std::string& Source() const noexcept { return m_source; }
 
 private:
     std::uint32_t m_number;

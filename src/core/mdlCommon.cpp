@@ -4,6 +4,7 @@
 #include "keshobjects/keshobjects.h"
 #include "keshvfs/keshvfs.h"
 #include "lornfd/lornfd.h"
+#include "lornfd/paths.h"
 
 #include <algorithm>
 
@@ -64,10 +65,8 @@ std::string SplitCatalogPath(std::string_view Path, std::string& Catalog) {
 }
 
 std::string WithBackslashes(std::string_view Path) {
-    std::string result(Path);
-    const auto from = IsVFSPath(Path) ? VfsPrefix.size() : 0;
-    std::replace(result.begin() + static_cast<std::ptrdiff_t>(from), result.end(), '/', '\\');
-    return result;
+    return IsVFSPath(Path) ? std::string(VfsPrefix) + lornfd::programPath(StripVFS(Path))
+                           : lornfd::programPath(Path);
 }
 
 std::string LornFDErrorText() {

@@ -13,6 +13,8 @@ std::string ShownPath(std::string_view Path) {
 }
 
 std::optional<std::string> FindInVFS(std::string_view NameInView) {
+    if (NameInView.find_first_of("*?") != NameInView.npos)
+        return {};
     VfsSearch search(IsVFSPath(NameInView) ? StripVFS(NameInView) : std::string(NameInView));
     while (search.Found() && search.IsDirectory())
         search.Next();

@@ -7,15 +7,15 @@
 #include <string_view>
 
 /// A path from the platform (dialog, drop, command line, settings) in the program's form.
-std::string FromPlatform(std::string_view Path);
+[[nodiscard]] std::string FromPlatform(std::string_view Path);
 /// A path as messages and captions show it: native, catalog and "vfs://" forms recognised.
-std::string ShownPath(std::string_view Path);
+[[nodiscard]] std::string ShownPath(std::string_view Path);
 
-/// The real place of a "vfs://" name or of a name relative to the view, whole; empty if it is
-/// nowhere.
-std::optional<std::string> FindInVFS(std::string_view NameInView);
-/// Plain and catalog paths as they are, "vfs://" paths found in the view; empty if nowhere.
-std::optional<std::string> RealPath(std::string_view Path);
+/// The real place of a "vfs://" name or of a name relative to the view, whole; none if it is
+/// nowhere. "*" and "?" stand in no name, so that a mask never gives some other file.
+[[nodiscard]] std::optional<std::string> FindInVFS(std::string_view NameInView);
+/// Plain and catalog paths as they are, "vfs://" paths found in the view; none if nowhere.
+[[nodiscard]] std::optional<std::string> RealPath(std::string_view Path);
 
 /// Walks the entries that a mask matches in the view, with whole names; closes its handle.
 class VfsSearch {

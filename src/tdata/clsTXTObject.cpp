@@ -2,7 +2,6 @@
 
 #include "core/KeshError.h"
 
-#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -21,25 +20,12 @@ void clsTXTObject::FailBounds(std::int32_t index, std::int32_t count) const {
     throw KeshError(errnum::Bounds, "clsTXTObject", text);
 }
 
-std::uint32_t clsTXTObject::Checked(std::int32_t index) const {
-    if (index < 0 || index >= size())
-        FailBounds(index, 0);
-    return static_cast<std::uint32_t>(index);
-}
-
 std::string clsTXTObject::GetLastError() const {
     return m_seldom ? m_seldom->lastError : std::string();
 }
 
 std::string clsTXTObject::GSubType() const {
     return std::string(ValueText(5));
-}
-
-std::int32_t clsTXTObject::TailNumber(std::int32_t fromEnd) const {
-    const auto number = std::nearbyint(ValueNumber(size() - fromEnd).value_or(0));
-    return std::abs(number) <= std::numeric_limits<std::int32_t>::max()
-               ? static_cast<std::int32_t>(number)
-               : 0;
 }
 
 std::string clsTXTObject::key() const {
@@ -71,12 +57,9 @@ std::string_view clsTXTObject::ValueText(std::int32_t index) const {
     return m_values.Spelling(Checked(index));
 }
 
-std::optional<double> clsTXTObject::ValueNumber(std::int32_t index) const {
-    return m_values.Number(Checked(index));
-}
-
-std::int32_t clsTXTObject::size() const noexcept {
-    return static_cast<std::int32_t>(m_values.Size());
+std::optional<std::int32_t> clsTXTObject::ValueInteger(std::int32_t index) const {
+    const auto number = ValueNumber(index);
+    return number ? keshobjects::roundToInteger(*number) : std::nullopt;
 }
 
 void clsTXTObject::InsertSpaceToArray(std::int32_t index, std::int32_t count) {
@@ -104,14 +87,15 @@ void clsTXTObject::Construct(std::int32_t size) {
 }
 
 void clsTXTObject::CopyTo(clsTXTObject& target) const {
+    const clsValueArray values = m_values; // the target may be this record
     target.ID = ID;
     target.otype = otype;
     target.Index = Index;
     target.Dirty = Dirty;
     target.Construct(size());
-    for (std::int32_t i = 0; i < size() && !target.Dirty; ++i)
-        target.Dirty = !keshobjects::equalValues(target.Value(i), Value(i));
-    target.m_values = m_values;
+    for (std::uint32_t i = 0; i < values.Size() && !target.Dirty; ++i)
+        target.Dirty = !keshobjects::equalValues(target.m_values.Get(i), values.Get(i));
+    target.m_values = values;
 }
 
 std::shared_ptr<clsTXTObject> clsTXTObject::Clone() const {
@@ -137,7 +121,8 @@ void clsTXTObject::SetValues(clsValueArray values) {
 }
 
 void clsTXTObject::Remember() {
-    if (!m_seldom || !m_seldom->former)
+    // A record that is being made has nothing to go back to.
+    if (m_values.Size() > 0 && (!m_seldom || !m_seldom->former))
         Rare().former = m_values;
 }
 

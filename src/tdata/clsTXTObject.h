@@ -43,9 +43,15 @@ public:
     void SetValue(std::int32_t index, const KeshValue& value);
     /// The value's spelling, valid until the next change.
     [[nodiscard]] std::string_view ValueText(std::int32_t index) const;
-    [[nodiscard]] std::optional<double>
-    ValueNumber(std::int32_t index) const; ///< if it is a number
-    [[nodiscard]] std::int32_t size() const noexcept;
+    /// The value if it is a number.
+    [[nodiscard]] std::optional<double> ValueNumber(std::int32_t index) const {
+        return m_values.Number(Checked(index));
+    }
+    /// The same rounded to a whole number of 32 bits; nothing for one that leaves them.
+    [[nodiscard]] std::optional<std::int32_t> ValueInteger(std::int32_t index) const;
+    [[nodiscard]] std::int32_t size() const noexcept {
+        return static_cast<std::int32_t>(m_values.Size());
+    }
     [[nodiscard]] std::string GetLastError() const; ///< of the last operation that failed here
 
     /// Makes room: `count` unset values at `index`, which must lie from 1 to size - 1. Dirty is
@@ -76,8 +82,14 @@ private:
 
     void Remember();
     [[noreturn]] void FailBounds(std::int32_t index, std::int32_t count) const;
-    [[nodiscard]] std::uint32_t Checked(std::int32_t index) const;
-    [[nodiscard]] std::int32_t TailNumber(std::int32_t fromEnd) const;
+    [[nodiscard]] std::uint32_t Checked(std::int32_t index) const {
+        if (index < 0 || index >= size())
+            FailBounds(index, 0);
+        return static_cast<std::uint32_t>(index);
+    }
+    [[nodiscard]] std::int32_t TailNumber(std::int32_t fromEnd) const {
+        return ValueInteger(size() - fromEnd).value_or(0);
+    }
     void SetTailNumber(std::int32_t fromEnd, std::int32_t value) {
         SetValue(size() - fromEnd, value);
     }

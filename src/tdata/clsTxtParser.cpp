@@ -1,5 +1,6 @@
 #include "tdata/clsTxtParser.h"
 
+#include "core/KeshError.h"
 #include "core/mdlCommon.h"
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
@@ -99,7 +100,8 @@ bool clsTxtParser::LoadFromHandle(std::int32_t Text, std::int32_t Type) {
 
 bool clsTxtParser::Save(std::int32_t FileHandle) {
     m_lastError.clear();
-    bool saved = m_otype == otype::Jobs ? SaveJobs(FileHandle) : SaveRecords(FileHandle);
+    bool saved = CheckWritable() &&
+                 (m_otype == otype::Jobs ? SaveJobs(FileHandle) : SaveRecords(FileHandle));
     if (LornFD_SetEndOfFile(FileHandle) == 0 && saved)
         saved = SetError(LornFDErrorText());
     if (saved) {
@@ -108,6 +110,18 @@ bool clsTxtParser::Save(std::int32_t FileHandle) {
             record->Dirty = false;
     }
     return saved;
+}
+
+// What a window or tool set without looking must not make the file unreadable.
+bool clsTxtParser::CheckWritable() {
+    for (const auto& record : m_byIndex)
+        if (const auto index = record->Values().FirstUnwritable(m_otype == otype::Jobs))
+            return SetError(
+                "Value " + std::to_string(*index) + " of " + std::string(record->ObjectName()) +
+                " (object " + std::to_string(record->Index) +
+                ") holds signs that cannot be written: " +
+                std::string(record->ValueText(static_cast<std::int32_t>(*index)).substr(0, 40)));
+    return true;
 }
 
 bool clsTxtParser::SaveRecords(std::int32_t FileHandle) {
@@ -151,17 +165,9 @@ RecordPtr clsTxtParser::FindKey(std::string_view Key) const {
 RecordPtr clsTxtParser::Find(std::int32_t ID) const {
     if (m_byId.empty())
         for (const auto& record : m_byIndex)
-            SetById(record.get());
-    if (ID < 0 || ID >= std::ssize(m_byId) || m_byId[static_cast<std::size_t>(ID)] == nullptr)
-        return {};
-    return FindIndex(m_byId[static_cast<std::size_t>(ID)]->Index);
-}
-
-void clsTxtParser::SetById(clsTXTObject* record) const {
-    const auto id = static_cast<std::size_t>(record->ID);
-    if (id >= m_byId.size())
-        m_byId.resize(id + 1);
-    m_byId[id] = record;
+            m_byId.emplace(record->ID, record.get());
+    const auto found = m_byId.find(ID);
+    return found == m_byId.end() ? RecordPtr() : FindIndex(found->second->Index);
 }
 
 RecordPtr clsTxtParser::FindID(std::string_view Name) const {
@@ -196,22 +202,21 @@ bool clsTxtParser::CheckDirty() const {
 bool clsTxtParser::RemoveObject(const RecordPtr& Record) {
     if (!Record || Find(Record->ID) != Record)
         return false;
-    const auto position = PositionOf(Record);
+    const auto position = Record->Index; // the argument may be the element that goes
     std::erase(m_byName, Record.get());
-    m_byId[static_cast<std::size_t>(Record->ID)] = nullptr;
-    const RecordPtr kept = Record; // the argument may be the element that goes
-    m_byIndex.erase(m_byIndex.begin() + static_cast<std::ptrdiff_t>(position));
-    Renumber(position);
+    m_byId.erase(Record->ID);
+    m_byIndex.erase(m_byIndex.begin() + position);
+    Renumber(static_cast<std::size_t>(position));
     m_dirty = true;
     return true;
 }
 
 RecordPtr clsTxtParser::CreateObject(const RecordPtr& After) {
-    return AddNew(After ? PositionOf(After) + 1 : m_byIndex.size());
+    return AddNew(PositionBehind(After));
 }
 
 RecordPtr clsTxtParser::CreateObjectBefore(const RecordPtr& Before) {
-    return AddNew(Before ? PositionOf(Before) : m_byIndex.size());
+    return AddNew(Holds(Before) ? static_cast<std::size_t>(Before->Index) : m_byIndex.size());
 }
 
 RecordPtr clsTxtParser::AddNew(std::size_t Position) {
@@ -224,7 +229,7 @@ RecordPtr clsTxtParser::AddNew(std::size_t Position) {
 }
 
 void clsTxtParser::AddObjectP(RecordPtr Record, const RecordPtr& After) {
-    InsertAt(After ? PositionOf(After) + 1 : m_byIndex.size(), std::move(Record));
+    InsertAt(PositionBehind(After), std::move(Record));
 }
 
 void clsTxtParser::RestoreObject(RecordPtr Record, std::int32_t Index) {
@@ -234,12 +239,17 @@ void clsTxtParser::RestoreObject(RecordPtr Record, std::int32_t Index) {
 }
 
 void clsTxtParser::InsertAt(std::size_t Position, RecordPtr Record) {
-    if (!m_byName.empty())
-        m_byName.insert(
-            std::upper_bound(m_byName.begin(), m_byName.end(), Record.get(), NameBefore),
-            Record.get());
-    if (!m_byId.empty())
-        SetById(Record.get());
+    if (Record->ID < 0 || Find(Record->ID))
+        throw KeshError(errnum::General, "clsTxtParser",
+                        "There is a record of key " + Record->key() + " already.");
+    if (!m_byName.empty()) {
+        // A walk, since renames may have left the order unsorted.
+        const auto greater = [&](const clsTXTObject* other) {
+            return NameBefore(Record.get(), other);
+        };
+        m_byName.insert(std::find_if(m_byName.begin(), m_byName.end(), greater), Record.get());
+    }
+    m_byId.emplace(Record->ID, Record.get());
     m_byIndex.insert(m_byIndex.begin() + static_cast<std::ptrdiff_t>(Position), std::move(Record));
     Renumber(Position);
 }
@@ -249,6 +259,10 @@ void clsTxtParser::Renumber(std::size_t From) {
         m_byIndex[i]->Index = static_cast<std::int32_t>(i);
 }
 
-std::size_t clsTxtParser::PositionOf(const RecordPtr& Record) const {
-    return static_cast<std::size_t>(Record->Index);
+bool clsTxtParser::Holds(const RecordPtr& Record) const {
+    return Record && FindIndex(Record->Index) == Record;
+}
+
+std::size_t clsTxtParser::PositionBehind(const RecordPtr& Record) const {
+    return Holds(Record) ? static_cast<std::size_t>(Record->Index) + 1 : m_byIndex.size();
 }

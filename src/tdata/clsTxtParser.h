@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 using RecordPtr = std::shared_ptr<clsTXTObject>;
@@ -38,17 +39,20 @@ public:
     /// False, and nothing changed, unless the record under that key is this very one.
     [[nodiscard]] bool RemoveObject(const RecordPtr& Record);
     [[nodiscard]] bool CheckDirty() const;
-    /// A new record without values, behind `After` or at the end.
+    /// A new record without values, behind `After`, or at the end if that is no record
+    /// here.
     RecordPtr CreateObject(const RecordPtr& After);
     /// The same in front of `Before`, or at the end.
     RecordPtr CreateObjectBefore(const RecordPtr& Before);
+    /// Adds a record with the ID that it has; throws KeshError if that is negative or taken.
     void AddObjectP(RecordPtr Record, const RecordPtr& After);
-    /// Puts a removed record back at its place in file order; it keeps its ID.
+    /// Puts a removed record back at its place in file order; it keeps its ID. Throws as
+    /// AddObjectP.
     void RestoreObject(RecordPtr Record, std::int32_t Index);
 
     [[nodiscard]] const std::vector<RecordPtr>& ByIndex() const noexcept { return m_byIndex; }
-    /// Sorted by ObjectName without regard to case, equal names in their order of arrival. Sorted
-    /// when first asked for; does not follow later renames.
+    /// By ObjectName without regard to case, equal names in their order of arrival. Sorted when
+    /// first asked for; does not follow renames after that.
     [[nodiscard]] const std::vector<clsTXTObject*>& ByName() const;
 
     [[nodiscard]] bool Dirty() const noexcept { return m_dirty; } ///< a record was added or removed
@@ -60,15 +64,16 @@ private:
     RecordPtr AddNew(std::size_t Position);
     void InsertAt(std::size_t Position, RecordPtr Record);
     void Renumber(std::size_t From);
-    void SetById(clsTXTObject* record) const;
-    [[nodiscard]] std::size_t PositionOf(const RecordPtr& Record) const;
+    [[nodiscard]] bool Holds(const RecordPtr& Record) const;
+    [[nodiscard]] std::size_t PositionBehind(const RecordPtr& Record) const;
+    bool CheckWritable();
     bool SaveRecords(std::int32_t FileHandle);
     bool SaveJobs(std::int32_t FileHandle);
 
     std::shared_ptr<clsLoadedText> m_text;
     std::vector<RecordPtr> m_byIndex;
-    mutable std::vector<clsTXTObject*> m_byName; ///< empty until asked for
-    mutable std::vector<clsTXTObject*> m_byId;   ///< the same; IDs are dense and never reused
+    mutable std::vector<clsTXTObject*> m_byName;                    ///< empty until asked for
+    mutable std::unordered_map<std::int32_t, clsTXTObject*> m_byId; ///< the same
     std::string m_lastError;
     std::int32_t m_version = 0;
     std::int32_t m_otype = 0;

@@ -1,5 +1,23 @@
 #include "tdata/clsValueArray.h"
 
+namespace {
+
+/// Whether the loader would give a spelling back as it is.
+bool readsBack(std::string_view spelling, bool jobs) {
+    const auto has = [&](std::string_view sign) { return spelling.find(sign) != spelling.npos; };
+    if (has(";") || has(std::string_view("\0", 1)) || (!jobs && (has("//") || has("/*"))))
+        return false;
+    return spelling.empty() ||
+           !(keshobjects::isBlank(spelling.front()) || keshobjects::isBlank(spelling.back()));
+}
+
+/// The same for the raw rest of a line.
+bool readsBackRaw(std::string_view spelling) {
+    return spelling.find_first_of(std::string_view("\r\n\0", 3)) == spelling.npos;
+}
+
+} // namespace
+
 clsValueArray::clsValueArray(std::shared_ptr<const clsLoadedText> text, std::uint32_t first,
                              std::uint32_t size, ValueForm form, bool written)
     : m_text(std::move(text)), m_first(first), m_size(size), m_form(form), m_written(written) {}
@@ -10,7 +28,10 @@ clsValueArray::clsValueArray(std::uint32_t size)
 bool clsValueArray::IsTextPlace(std::uint32_t index) const noexcept {
     switch (m_form) {
     case ValueForm::AsShown:
+    case ValueForm::List:
         return false;
+    case ValueForm::Sections:
+        return index % 5 < 2;
     case ValueForm::AllText:
         return true;
     case ValueForm::LastText:
@@ -22,9 +43,11 @@ bool clsValueArray::IsTextPlace(std::uint32_t index) const noexcept {
 
 std::string_view clsValueArray::PlaceSpelling(std::uint32_t index) const {
     const auto text = m_text->Text();
-    return m_form == ValueForm::LastRaw && IsTextPlace(index)
-               ? keshobjects::rawAt(text, PlaceAt(index))
-               : keshobjects::valueAt(text, PlaceAt(index));
+    if (m_form == ValueForm::LastRaw && IsTextPlace(index))
+        return keshobjects::rawAt(text, PlaceAt(index));
+    const auto spelling = keshobjects::valueAt(text, PlaceAt(index));
+    return m_form == ValueForm::List ? keshobjects::trimEnd(spelling.substr(0, spelling.find(',')))
+                                     : spelling;
 }
 
 bool clsValueArray::IsText(std::uint32_t index) const {
@@ -52,11 +75,8 @@ KeshValue clsValueArray::Get(std::uint32_t index) const {
     return IsText(index) ? KeshValue(std::string(spelling)) : keshobjects::readValue(spelling);
 }
 
-std::optional<double> clsValueArray::Number(std::uint32_t index) const {
-    if (IsText(index))
-        return {};
-    return m_cells ? keshobjects::readNumber(Spelling(index))
-                   : keshobjects::numberAt(m_text->Text(), PlaceAt(index));
+std::optional<double> clsValueArray::SpelledNumber(std::uint32_t index) const {
+    return IsText(index) ? std::nullopt : keshobjects::readNumber(Spelling(index));
 }
 
 std::vector<clsValueArray::Cell>& clsValueArray::OwnCells() {
@@ -64,8 +84,10 @@ std::vector<clsValueArray::Cell>& clsValueArray::OwnCells() {
         auto cells = std::make_shared<std::vector<Cell>>();
         cells->reserve(m_size);
         for (std::uint32_t i = 0; i < m_size; ++i)
-            cells->push_back(IsTextPlace(i) ? Cell(Own{std::string(PlaceSpelling(i)), true})
-                                            : Cell(PlaceAt(i)));
+            if (IsTextPlace(i) || m_form == ValueForm::List)
+                cells->push_back(Own{std::string(PlaceSpelling(i)), IsTextPlace(i)});
+            else
+                cells->push_back(PlaceAt(i));
         m_cells = std::move(cells);
         m_form = ValueForm::AsShown;
         m_written = false;
@@ -81,10 +103,6 @@ void clsValueArray::Set(std::uint32_t index, const KeshValue& value) {
         cell = std::monostate();
     else
         cell = Own{keshobjects::spellValue(value), std::holds_alternative<std::string>(value)};
-}
-
-void clsValueArray::SetSpelling(std::uint32_t index, std::string spelling) {
-    OwnCells()[index] = Own{std::move(spelling), false};
 }
 
 void clsValueArray::Insert(std::uint32_t index, std::uint32_t count) {
@@ -106,9 +124,19 @@ std::optional<std::string_view> clsValueArray::Written() const {
     const std::size_t first = PlaceAt(0);
     const std::size_t last = PlaceAt(m_size - 1) + PlaceSpelling(m_size - 1).size();
     // A last value that ends with the text has no ";" to copy.
-    if (m_form == ValueForm::LastRaw || last >= text.size() || text[last] != ';')
+    if (last >= text.size() || text[last] != ';')
         return {};
     return text.substr(first, last + 1 - first);
+}
+
+std::optional<std::uint32_t> clsValueArray::FirstUnwritable(bool jobs) const {
+    for (std::uint32_t i = 0; m_cells && i < m_size; ++i) {
+        const auto* own = std::get_if<Own>(&(*m_cells)[i]);
+        const bool raw = jobs && i + 1 == m_size;
+        if (own != nullptr && !(raw ? readsBackRaw(own->spelling) : readsBack(own->spelling, jobs)))
+            return i;
+    }
+    return {};
 }
 
 bool clsValueArray::SameAs(const clsValueArray& other) const {

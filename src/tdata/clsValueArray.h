@@ -22,6 +22,8 @@ enum class ValueForm : std::uint8_t {
     AllText,  ///< every value is text (ware lists)
     LastText, ///< the last value is text (icon entries)
     LastRaw,  ///< the last value is the raw rest of its line, text (jobs)
+    List,     ///< a value ends before "," too (job wings)
+    Sections, ///< the first two of each five values are text (the root of icons)
 };
 
 class clsValueArray {
@@ -38,16 +40,22 @@ public:
     [[nodiscard]] KeshValue Get(std::uint32_t index) const;
     /// Valid until the next change; an unset cell spells the empty text.
     [[nodiscard]] std::string_view Spelling(std::uint32_t index) const;
-    [[nodiscard]] std::optional<double> Number(std::uint32_t index) const;
+    [[nodiscard]] std::optional<double> Number(std::uint32_t index) const {
+        return !m_cells && m_form == ValueForm::AsShown
+                   ? keshobjects::numberAt(m_text->Text(), PlaceAt(index))
+                   : SpelledNumber(index);
+    }
 
     void Set(std::uint32_t index, const KeshValue& value);
-    /// Sets a cell to a spelling read elsewhere, number or text as it shows.
-    void SetSpelling(std::uint32_t index, std::string spelling);
     void Insert(std::uint32_t index, std::uint32_t count); ///< unset cells
     void Remove(std::uint32_t index, std::uint32_t count);
 
     /// The record as the file has it, all values with their ";", if it stands there in one piece.
     [[nodiscard]] std::optional<std::string_view> Written() const;
+
+    /// The first value of its own that would not read back as it was set, if written; `jobs` as a
+    /// job's.
+    [[nodiscard]] std::optional<std::uint32_t> FirstUnwritable(bool jobs) const;
 
     /// Same number of values, each of the same kind and spelling.
     [[nodiscard]] bool SameAs(const clsValueArray& other) const;
@@ -62,6 +70,7 @@ private:
     [[nodiscard]] KeshPlace PlaceAt(std::uint32_t index) const {
         return m_text->Places[m_first + index];
     }
+    [[nodiscard]] std::optional<double> SpelledNumber(std::uint32_t index) const;
     [[nodiscard]] bool IsTextPlace(std::uint32_t index) const noexcept;
     [[nodiscard]] std::string_view PlaceSpelling(std::uint32_t index) const;
     [[nodiscard]] bool IsText(std::uint32_t index) const;

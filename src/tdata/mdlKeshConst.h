@@ -1,7 +1,5 @@
 // What every record needs before any field has a name: object types, record sizes, the common
 // frame.
-//
-// Some words here are misspelt; they are the game's own and stand as they are.
 #pragma once
 
 #include <cstdint>

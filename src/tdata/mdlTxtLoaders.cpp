@@ -5,7 +5,6 @@
 #include "tdata/mdlKeshConst.h"
 
 #include <algorithm>
-#include <cmath>
 #include <functional>
 #include <limits>
 
@@ -35,25 +34,28 @@ private:
     bool ReadShip();
     void ReadWing();
     void ReadIcon();
-    [[nodiscard]] std::int32_t FixedSize();
+    [[nodiscard]] std::int32_t FixedSize(); ///< 0 with the error set if such files are refused
+    std::int32_t Refuse(std::string text) { return Fail(std::move(text)) ? 1 : 0; }
 
     [[nodiscard]] bool IsEOF() const { return Kesh_TXTGetTokenType(m_handle) == KESH_TOKEN_END; }
     [[nodiscard]] std::int32_t ReadWhole() const;
     [[nodiscard]] KeshPlace ReadPlace();
-    [[nodiscard]] KeshPlace ReadWholePlace();
+    [[nodiscard]] KeshPlace ReadWholePlace() const;
     [[nodiscard]] KeshPlace ReadRawPlace() const;
-    [[nodiscard]] std::string ReadNumber(bool& more) const;
+    [[nodiscard]] KeshPlace ReadNumber(bool& more) const;
     void SkipBlankRestOfLine() const;
+    void Advance() const;
     void ReadPlaces(std::int64_t count);
     [[nodiscard]] std::int32_t CountAt(std::int64_t indexInRecord) const;
-    [[nodiscard]] std::string_view SpellingOf(KeshPlace place) const {
-        return keshobjects::valueAt(m_text->Text(), place);
+    /// The start of a value, for messages.
+    [[nodiscard]] std::string Shown(KeshPlace place) const {
+        return std::string(keshobjects::valueAt(m_text->Text(), place).substr(0, 40));
     }
 
     void Reserve(std::int64_t records, std::int64_t valuesEach);
     void BeginRecord();
     void AddRecord(ValueForm form);
-    clsTXTObject& AddRecord(std::int32_t id, clsValueArray values);
+    [[nodiscard]] clsValueArray ValuesRead(ValueForm form) const;
     bool Fail(std::string text);
 
     std::shared_ptr<clsLoadedText> m_text;
@@ -101,6 +103,8 @@ bool Loader::LoadRecords() {
     m_result.version = ReadWhole();
     const std::int32_t count = ReadWhole();
     const bool ships = m_type == otype::Ships;
+    if (!ships && count > 0 && FixedSize() <= 0)
+        return false;
     Reserve(count, ships ? ObjectSize(otype::Ships) : std::max(1, ObjectSize(m_type)));
     for (std::int32_t i = 0; i < count; ++i)
         if (!(ships ? ReadShip() : ReadFixed()))
@@ -115,26 +119,21 @@ std::int32_t Loader::FixedSize() {
     };
     static constexpr Oldest refused[]{{otype::Bullets, 53}, {otype::Missiles, 48}};
     for (const auto& rule : refused)
-        if (m_type == rule.type && m_result.version < rule.version) {
-            Fail("This is old version of the file (ver. " + std::to_string(m_result.version) +
-                 ").\r\n\r\nIt is not supported by this version of " + ProgramTitle() + ".");
-            return -1;
-        }
+        if (m_type == rule.type && m_result.version < rule.version)
+            return Refuse(
+                "This is old version of the file (ver. " + std::to_string(m_result.version) +
+                ").\r\n\r\nIt is not supported by this version of " + ProgramTitle() + ".");
     constexpr std::int32_t oldNebulaVersion = 13;
     constexpr std::int32_t oldNebulaSize = 27;
     if (m_type == otype::Nebula && m_result.version <= oldNebulaVersion)
         return oldNebulaSize;
-    return ObjectSize(m_type);
+    const std::int32_t size = ObjectSize(m_type);
+    return size > 0 ? size : Refuse("Unknown size of entries in file. Cannot load.");
 }
 
 bool Loader::ReadFixed() {
-    const std::int32_t size = FixedSize();
-    if (size < 0)
-        return false;
-    if (size == 0)
-        return Fail("Unknown size of entries in file. Cannot load.");
     BeginRecord();
-    ReadPlaces(size);
+    ReadPlaces(FixedSize());
     AddRecord(ValueForm::AsShown);
     return true;
 }
@@ -167,12 +166,11 @@ bool Loader::ReadShip() {
 std::int32_t Loader::CountAt(std::int64_t indexInRecord) const {
     const auto place = m_text->Places[m_first + static_cast<std::size_t>(indexInRecord)];
     const auto number = keshobjects::numberAt(m_text->Text(), place);
-    const double rounded = std::nearbyint(number.value_or(std::numeric_limits<double>::infinity()));
-    if (std::abs(rounded) > std::numeric_limits<std::int32_t>::max())
-        Throw(errnum::Loader, "Expected a count, not \"" +
-                                  std::string(SpellingOf(place).substr(0, 40)) + "\" in " +
+    const auto count = number ? keshobjects::roundToInteger(*number) : std::nullopt;
+    if (!count)
+        Throw(errnum::Loader, "Expected a count, not \"" + Shown(place) + "\" in " +
                                   Kesh_TXTDescribePlace(m_handle, place) + ".");
-    return static_cast<std::int32_t>(rounded);
+    return *count;
 }
 
 // --- Layouts of their own
@@ -206,7 +204,7 @@ void Loader::SkipBlankRestOfLine() const {
         return;
     const auto rest = keshobjects::rawAt(m_text->Text(), place);
     if (std::all_of(rest.begin(), rest.end(), keshobjects::isBlank))
-        static_cast<void>(Kesh_TXTAdvance(m_handle, 1));
+        Advance();
 }
 
 bool Loader::LoadJobWings() {
@@ -216,13 +214,12 @@ bool Loader::LoadJobWings() {
 }
 
 void Loader::ReadWing() {
-    std::vector<std::string> spellings{std::string(SpellingOf(ReadWholePlace()))};
+    BeginRecord();
+    m_written = false; // lists are written with ";" throughout
+    m_text->Places.push_back(ReadWholePlace());
     for (bool more = true; more;)
-        spellings.push_back(ReadNumber(more));
-    clsValueArray values(static_cast<std::uint32_t>(spellings.size()));
-    for (std::uint32_t i = 0; i < values.Size(); ++i)
-        values.SetSpelling(i, std::move(spellings[i]));
-    AddRecord(++m_nextID, std::move(values));
+        m_text->Places.push_back(ReadNumber(more));
+    AddRecord(ValueForm::List);
 }
 
 bool Loader::LoadWareLists() {
@@ -239,7 +236,9 @@ bool Loader::LoadWareLists() {
 bool Loader::LoadIconData() {
     if (IsEOF())
         return Fail("File is empty");
-    clsTXTObject& root = AddRecord(++m_nextID, clsValueArray());
+    BeginRecord();
+    AddRecord(ValueForm::Sections);
+    const RecordPtr root = m_result.records.back();
     std::vector<KeshPlace> headers;
     do {
         for (int texts = 0; texts < 2; ++texts)
@@ -250,13 +249,10 @@ bool Loader::LoadIconData() {
         for (std::int32_t i = 0; i < entries; ++i)
             ReadIcon();
     } while (!IsEOF());
-    clsValueArray values(static_cast<std::uint32_t>(headers.size()));
-    for (std::uint32_t i = 0; i < values.Size(); ++i)
-        if (i % 5 < 2)
-            values.Set(i, std::string(SpellingOf(headers[i])));
-        else
-            values.SetSpelling(i, std::string(SpellingOf(headers[i])));
-    root.LoadValues(std::move(values));
+    BeginRecord();
+    m_written = false; // the icons stand between the sections
+    m_text->Places.insert(m_text->Places.end(), headers.begin(), headers.end());
+    root->LoadValues(ValuesRead(ValueForm::Sections));
     return true;
 }
 
@@ -287,12 +283,11 @@ KeshPlace Loader::ReadPlace() {
     return place;
 }
 
-KeshPlace Loader::ReadWholePlace() {
-    const KeshPlace place = ReadPlace();
-    if (!keshobjects::integerAt(m_text->Text(), place))
-        Throw(errnum::ReadValue, "Expected a whole number, not \"" +
-                                     std::string(SpellingOf(place).substr(0, 40)) + "\" in " +
-                                     Kesh_TXTDescribePlace(m_handle, place) + ".");
+KeshPlace Loader::ReadWholePlace() const {
+    KeshPlace place = 0;
+    if (Kesh_TXTGetTokenPlace(m_handle, place) == 0)
+        Throw(errnum::ReadValue, KeshObjectsErrorText());
+    static_cast<void>(ReadWhole());
     return place;
 }
 
@@ -300,24 +295,33 @@ KeshPlace Loader::ReadRawPlace() const {
     KeshPlace place = 0;
     if (Kesh_TXTGetRawPlace(m_handle, place) == 0)
         Throw(errnum::Loader, "Attempt to read at EOF");
-    static_cast<void>(Kesh_TXTAdvance(m_handle, 1));
+    Advance();
     return place;
 }
 
-std::string Loader::ReadNumber(bool& more) const {
+KeshPlace Loader::ReadNumber(bool& more) const {
     KeshValue token;
-    const bool plain = Kesh_TXTGetTokenType(m_handle) == KESH_TOKEN_VALUE;
-    static_cast<void>(Kesh_TXTGetTokenValue(m_handle, token));
-    std::string spelling = keshobjects::spellValue(token);
-    if (!plain)
-        Throw(errnum::Loader, "Unexpected here: " + spelling);
+    KeshPlace place = 0;
+    const auto type = Kesh_TXTGetTokenType(m_handle);
+    if (Kesh_TXTGetTokenValue(m_handle, token) == 0 || Kesh_TXTGetTokenPlace(m_handle, place) == 0)
+        Throw(errnum::ReadValue, KeshObjectsErrorText());
+    const std::string& spelling = std::get<std::string>(token);
+    const std::string where =
+        spelling.substr(0, 40) + " in " + Kesh_TXTDescribePlace(m_handle, place);
+    if (type != KESH_TOKEN_VALUE)
+        Throw(errnum::Loader, "Unexpected here: " + where);
     if (!keshobjects::readInteger(spelling))
-        Throw(errnum::Loader, "Expected number, not " + spelling);
-    static_cast<void>(Kesh_TXTAdvance(m_handle, 1));
+        Throw(errnum::Loader, "Expected number, not " + where);
+    Advance();
     more = Kesh_TXTGetTokenType(m_handle) == KESH_TOKEN_LIST_SEPARATOR;
     if (more)
-        static_cast<void>(Kesh_TXTAdvance(m_handle, 1));
-    return spelling;
+        Advance();
+    return place;
+}
+
+void Loader::Advance() const {
+    if (Kesh_TXTAdvance(m_handle, 1) == 0)
+        Throw(errnum::ReadValue, KeshObjectsErrorText());
 }
 
 void Loader::ReadPlaces(std::int64_t count) {
@@ -356,16 +360,12 @@ void Loader::BeginRecord() {
     m_written = true;
 }
 
-void Loader::AddRecord(ValueForm form) {
+clsValueArray Loader::ValuesRead(ValueForm form) const {
     const auto size = static_cast<std::uint32_t>(m_text->Places.size() - m_first);
-    // Ships and jobs count ware lists from 0, everything else counts from 1.
-    const std::int32_t id = m_type == otype::WareLists ? m_nextID : m_nextID + 1;
-    ++m_nextID;
-    AddRecord(id,
-              clsValueArray(m_text, static_cast<std::uint32_t>(m_first), size, form, m_written));
+    return {m_text, static_cast<std::uint32_t>(m_first), size, form, m_written};
 }
 
-clsTXTObject& Loader::AddRecord(std::int32_t id, clsValueArray values) {
+void Loader::AddRecord(ValueForm form) {
     if (m_block->size() == m_block->capacity()) {
         // Records that are handed out never move: a full block stays as it is, the next one is
         // larger.
@@ -374,12 +374,13 @@ clsTXTObject& Loader::AddRecord(std::int32_t id, clsValueArray values) {
         m_block->reserve(next);
     }
     clsTXTObject& record = m_block->emplace_back();
-    record.LoadValues(std::move(values));
-    record.ID = id;
+    record.LoadValues(ValuesRead(form));
+    // Ships and jobs count ware lists from 0, everything else counts from 1.
+    record.ID = m_type == otype::WareLists ? m_nextID : m_nextID + 1;
+    ++m_nextID;
     record.otype = m_type;
     record.Index = static_cast<std::int32_t>(m_result.records.size());
     m_result.records.emplace_back(m_block, &record);
-    return record;
 }
 
 } // namespace

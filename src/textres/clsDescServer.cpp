@@ -7,6 +7,8 @@
 #include "keshobjects/value.h"
 #include "lornfd/lornfd.h"
 
+#include <QString>
+
 #include <algorithm>
 
 std::unique_ptr<clsDescServer> DescServer;
@@ -15,14 +17,9 @@ namespace {
 
 constexpr const char* NewLine = "\r\n";
 
-std::string padded(std::int32_t number, std::size_t digits) {
-    const std::string text = std::to_string(std::abs(std::int64_t{number}));
-    const std::string zeros(digits - std::min(digits, text.size()), '0');
-    return (number < 0 ? "-" : "") + zeros + text;
-}
-
 std::string languageMask(std::int32_t lang, bool newerNames) {
-    return newerNames ? "t\\*-L" + padded(lang, 3) : "t\\" + std::to_string(lang) + "*";
+    const QString mask = newerNames ? QStringLiteral("t\\*-L%1") : QStringLiteral("t\\%1*");
+    return mask.arg(lang, newerNames ? 3 : 0, 10, QLatin1Char('0')).toStdString();
 }
 
 std::string nameOfPlace(const std::string& place) {
@@ -39,7 +36,7 @@ std::string loadFile(const std::string& place) {
     const std::int32_t file =
         LornFD_OpenFile(place, LORNFD_READ, LORNFD_OPEN_EXISTING, LORNFD_AS_IS);
     if (file == 0)
-        return "Error opening file \"" + place + "\":" + NewLine + LornFDErrorText();
+        return "Error opening file \"" + ShownPath(place) + "\":" + NewLine + LornFDErrorText();
     LornFD_CloseFile(file);
     return {};
 }
@@ -53,7 +50,6 @@ std::vector<std::string> clsDescServer::FindFiles(std::int32_t Lang, bool NewerN
         m_lastError = "No XML/PCK resource files with LangID=" + std::to_string(Lang) + " found.";
         return {};
     }
-    m_currentLanguage = Lang;
     std::vector<std::string> places;
     for (; search.Found(); search.Next())
         if (isLanguageFile(search, NewerNames))

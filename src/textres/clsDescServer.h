@@ -29,7 +29,6 @@ public:
 
 private:
     std::string m_lastError;
-    std::int32_t m_currentLanguage = 0; ///< last one that had files
 };
 
 /// Made by Main, lives until the process ends.

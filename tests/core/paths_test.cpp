@@ -45,6 +45,8 @@ TEST_F(View, FindsRealPlacesOfNames) {
     EXPECT_FALSE(FindInVFS("types\\TOnly.d")) << "a directory is no file";
     EXPECT_FALSE(FindInVFS("types\\TNone"));
     EXPECT_FALSE(FindInVFS("vfs://"));
+    for (const char* mask : {"types\\*", "types\\TShips.tx?", "t*\\TShips.txt", "vfs://types\\TL*"})
+        EXPECT_FALSE(FindInVFS(mask)) << mask;
 
     EXPECT_EQ(RealPath("\\some\\file.txt").value_or("none"), "\\some\\file.txt");
     EXPECT_EQ(RealPath("01.cat::types\\T.pck").value_or("none"), "01.cat::types\\T.pck");

@@ -67,7 +67,7 @@ inline std::string save(clsTxtParser& parser) {
     return readFile(path);
 }
 
-/// `count` values "0;" and so on, for records whose content does not matter.
+/// `value` so many times, for records whose content does not matter.
 inline std::string repeat(const std::string& value, int count) {
     std::string text;
     for (int i = 0; i < count; ++i)
@@ -75,7 +75,7 @@ inline std::string repeat(const std::string& value, int count) {
     return text;
 }
 
-/// All values of a record with ";" between.
+/// All values of a record, each with ";" behind.
 inline std::string joined(const clsTXTObject& record) {
     return record.GetObjectTData();
 }

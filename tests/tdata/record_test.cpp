@@ -102,6 +102,18 @@ TEST(Record, CopyOfAConstructedRecordIsClean) {
     EXPECT_TRUE(named->Clone()->Dirty);
 }
 
+TEST(Record, CopyOntoItselfKeepsIt) {
+    const auto record = constructed(4);
+    record->SetObjectName("SS_X");
+    record->CopyTo(*record);
+    EXPECT_EQ(joined(*record), "0;0;0;SS_X;");
+}
+
+TEST(Record, ARecordInTheMakingHasNoFormerValues) {
+    EXPECT_FALSE(constructed(4)->TakeFormerValues());
+    EXPECT_FALSE(constructed(4)->Clone()->TakeFormerValues());
+}
+
 TEST(Record, OutlivesItsParser) {
     RecordPtr record;
     {
@@ -207,7 +219,9 @@ TEST(Ware, RaceIsToldForFactoriesAndDocksOnly) {
     for (const auto& [type, race, text] :
          {Case{otype::Factories, 1, "Argon"}, Case{otype::Docks, 19, "Yaki"},
           Case{otype::Docks, 0, "Unknown value"}, Case{otype::Docks, 20, "Unknown value"},
-          Case{otype::Docks, std::string("x"), "Unknown value"}, Case{otype::Ware, 1, ""}}) {
+          Case{otype::Docks, std::string("x"), "Unknown value"},
+          Case{otype::Docks, 1e300, "Unknown value"}, Case{otype::Docks, 1.9, "Boron"},
+          Case{otype::Ware, 1, ""}}) {
         const auto record = constructed(20);
         record->otype = type;
         record->SetValue(13, race);

@@ -74,6 +74,9 @@ using KeshPlace = std::uint32_t;
 /// but the first of this call, or a ";" is missing.
 std::int64_t Kesh_TXTLoadPlaces(std::int32_t Text, std::int64_t Count, KeshPlace* Places,
                                 bool& Written);
+/// The place of the value token at the read position, which it does not step over. In a list it
+/// ends before the next ",".
+std::int32_t Kesh_TXTGetTokenPlace(std::int32_t Text, KeshPlace& Place);
 /// The place of the raw rest of line at the read position (jobs mode); it ends before the line
 /// break.
 std::int32_t Kesh_TXTGetRawPlace(std::int32_t Text, KeshPlace& Place);

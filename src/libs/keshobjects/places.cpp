@@ -35,7 +35,7 @@ std::string_view rawAt(std::string_view text, KeshPlace place) noexcept {
     return rest.substr(0, rest.find_first_of("\r\n"));
 }
 
-std::optional<double> numberAt(std::string_view text, KeshPlace place) noexcept {
+std::optional<double> anyNumberAt(std::string_view text, KeshPlace place) noexcept {
     return readAt<double>(text, place);
 }
 

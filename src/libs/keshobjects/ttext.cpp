@@ -214,6 +214,17 @@ std::int64_t Kesh_TXTLoadPlaces(std::int32_t Text, std::int64_t Count, KeshPlace
     return read;
 }
 
+std::int32_t Kesh_TXTGetTokenPlace(std::int32_t Text, KeshPlace& Place) {
+    Tokenizer* const text = textOf(Text);
+    if (text == nullptr)
+        return 0;
+    const auto token = text->token();
+    if (!token)
+        return fail(*text);
+    Place = static_cast<KeshPlace>(token->data() - text->text().data());
+    return 1;
+}
+
 std::int32_t Kesh_TXTGetRawPlace(std::int32_t Text, KeshPlace& Place) {
     Tokenizer* const text = textOf(Text);
     if (text == nullptr)

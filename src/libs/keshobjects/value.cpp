@@ -47,6 +47,14 @@ std::optional<std::int32_t> readInteger(std::string_view text) noexcept {
     return readWhole<std::int32_t>(text);
 }
 
+std::optional<std::int32_t> roundToInteger(double number) noexcept {
+    const double whole = std::nearbyint(number);
+    using limits = std::numeric_limits<std::int32_t>;
+    return whole >= limits::min() && whole <= limits::max()
+               ? std::optional(static_cast<std::int32_t>(whole))
+               : std::nullopt;
+}
+
 KeshValue readValue(std::string_view text) {
     if (const auto integer = readInteger(text))
         return *integer;

@@ -19,6 +19,8 @@ namespace keshobjects {
 std::optional<double> readNumber(std::string_view text) noexcept;
 /// The whole number in 32-bit range that the whole of `text` spells (sign and digits only).
 std::optional<std::int32_t> readInteger(std::string_view text) noexcept;
+/// A number rounded to a whole one, halves to even; nothing if that leaves 32 bits.
+std::optional<std::int32_t> roundToInteger(double number) noexcept;
 /// What a spelling means: integer, real or text.
 KeshValue readValue(std::string_view text);
 

@@ -127,7 +127,7 @@ QString frmTXTEditor::RowText(const RecordPtr& Record) const {
         return m_activeEditor ? m_activeEditor->ObjectName(Record)
                               : std::string(Record->ObjectName());
     };
-    const auto idUnlessText = [&](std::string text) { return text.empty() ? id() : text; };
+    const auto idUnlessText = [&](const std::string& text) { return text.empty() ? id() : text; };
     const NameMode mode = Mode();
     if (mode == NameMode::Name)
         return askPanel([&] { return idUnlessText(m_activeEditor->GetResourceName(Record)); },

@@ -1,5 +1,8 @@
+#include "keshvfs/entryindex.h"
 #include "keshvfs/gamedirectory.h"
 #include "lornfd/lornfd.h"
+
+#include <set>
 
 namespace fs = std::filesystem;
 
@@ -89,6 +92,63 @@ TEST_F(GameDirectory, NoRootIsAnEmptyView) {
     EXPECT_EQ(KeshVFS_GetLastError(), KESHVFS_E_DIRECTORY);
     EXPECT_NE(errorText().find("nowhere"), std::string::npos) << errorText();
     EXPECT_EQ(found("*"), Names{});
+}
+
+TEST_F(GameDirectory, RootThatReadsAsACatalogIsRefused) {
+    write("mods::old/a.txt");
+    EXPECT_FALSE(KeshVFS_CreateVFS(root + "/mods::old"));
+    EXPECT_EQ(KeshVFS_GetLastError(), KESHVFS_E_DIRECTORY);
+    for (const auto& text : {errorText(), KeshVFS_Warnings()})
+        EXPECT_NE(text.find(root + "/mods::old: "), std::string::npos) << text;
+    EXPECT_EQ(found("*"), Names{});
+}
+
+TEST_F(GameDirectory, DeepEntriesAreLeftOut) {
+    const auto deep = [](int parts) {
+        std::string name;
+        for (int i = 1; i < parts; ++i)
+            name += "d\\";
+        return name + "f.txt";
+    };
+    catalog("01.cat", {deep(32), deep(33), "x\\" + deep(32), "last.txt"});
+    std::string path = deep(32);
+    std::ranges::replace(path, '\\', '/');
+    write("loose/" + path.substr(2));
+    write("loose/" + path);
+    createView();
+    EXPECT_EQ(real(deep(32)), "01.cat::" + path);
+    EXPECT_EQ(real("loose\\" + deep(31)), "loose/" + path.substr(2));
+    EXPECT_EQ(real("last.txt"), "01.cat::last.txt");
+    EXPECT_EQ(found(deep(33)), Names{});
+    EXPECT_EQ(found("x*"), Names{});
+    EXPECT_EQ(found("loose\\" + deep(32)), Names{});
+    EXPECT_NE(KeshVFS_Warnings().find("01.cat: 2 entries have more than 32 parts"),
+              std::string::npos)
+        << KeshVFS_Warnings();
+    EXPECT_NE(KeshVFS_Warnings().find(": it lies too deep"), std::string::npos);
+
+    const std::string before = KeshVFS_Warnings();
+    const std::int32_t handle = LornFD_OpenCatalog(root + "/01.cat", LORNFD_OPEN_EXISTING);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(listed(handle, "*"), (Names{"d\\", "last.txt"}));
+    LornFD_CloseCatalog(handle);
+    EXPECT_EQ(KeshVFS_Warnings(), before) << "one warning grew with each listing";
+}
+
+TEST(NameHashes, CollisionsDependOnTheSeed) {
+    const auto hash = [](int i, std::uint64_t seed) {
+        return keshvfs::hashName("types\\file" + std::to_string(i), false, seed) % 0x10000U;
+    };
+    std::vector<int> falling; // into one slot of many, as an attacker would choose names
+    for (int i = 0; i < 1'000'000; ++i)
+        if (hash(i, 1) == 0)
+            falling.push_back(i);
+    ASSERT_GT(falling.size(), 5U);
+    std::set<std::uint32_t> slots;
+    for (const int i : falling)
+        slots.insert(hash(i, 0x9e3779b97f4a7c15U));
+    EXPECT_GT(slots.size(), falling.size() / 2);
+    EXPECT_EQ(keshvfs::hashName("A/b", true, 1), keshvfs::hashName("a\\B", true, 1));
 }
 
 TEST_F(GameDirectory, ListsACatalogAfterItIsClosed) {

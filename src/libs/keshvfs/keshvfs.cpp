@@ -4,6 +4,7 @@
 #include "keshvfs/view.h"
 #include "lornfd/lasterror.h"
 #include "lornfd/lornfd.h"
+#include "lornfd/paths.h"
 
 #include <algorithm>
 #include <array>
@@ -26,6 +27,7 @@ constexpr std::array ErrorTexts{
     lornfd::ErrorText{KESHVFS_E_DIRECTORY, "The game's directory cannot be read. {reason}"},
     lornfd::ErrorText{KESHVFS_E_HANDLE, "{place} is no open handle."},
     lornfd::ErrorText{KESHVFS_E_MEMORY, "There is not enough memory."},
+    lornfd::ErrorText{KESHVFS_E_FAILED, "The game's files cannot be searched. {reason}"},
 };
 
 /// A search in progress. It keeps its view, so that a reload does not take the entries from under
@@ -57,8 +59,10 @@ std::int32_t run(Operation operation) {
     state().error.clear();
     try {
         return operation(state());
+    } catch (const std::bad_alloc&) {
+        return state().error.set(KESHVFS_E_MEMORY);
     } catch (const std::exception& failure) {
-        return state().error.set(KESHVFS_E_MEMORY, {{}, {}, failure.what()});
+        return state().error.set(KESHVFS_E_FAILED, {{}, {}, failure.what()});
     }
 }
 
@@ -71,14 +75,26 @@ std::string driverErrorText() {
     return text.substr(0, text.find('\0'));
 }
 
-std::string inProgramForm(std::string_view path) {
-    std::string text(path);
-    std::ranges::replace(text, '/', '\\');
-    return text;
+void warn(State& s, const std::string& line) {
+    if (s.warnings.find(line + '\n') == std::string::npos)
+        s.warnings += line + '\n';
+}
+
+void addCatalog(State& s, View& view, const std::shared_ptr<const lornfd::CatalogIndex>& catalog,
+                std::string_view path, std::uint32_t layer, const Filters& filters) {
+    const std::size_t tooDeep = view.addCatalog(catalog, lornfd::programPath(path), layer, filters);
+    if (tooDeep != 0)
+        warn(s, catalog->path() + ": " + std::to_string(tooDeep) + " entries have more than " +
+                    std::to_string(View::MaxParts) + " parts in their names and are left out");
 }
 
 std::int32_t handleError(State& s, std::int32_t handle) {
     return s.error.set(KESHVFS_E_HANDLE, {{}, std::to_string(handle), {}});
+}
+
+std::int32_t rootError(State& s, std::string_view root, const std::string& reason) {
+    warn(s, reason);
+    return s.error.set(KESHVFS_E_DIRECTORY, {std::string(root), {}, reason});
 }
 
 std::int32_t open(State& s, Find find) {
@@ -122,7 +138,8 @@ const Find* standing(std::int32_t handle) {
 
 void addRootCatalogs(State& s, View& view, std::string_view root,
                      const std::map<std::string, std::string>& names) {
-    const std::string directory = inProgramForm(root.substr(0, root.find_last_not_of("\\/") + 1));
+    const std::string directory =
+        lornfd::programPath(root.substr(0, root.find_last_not_of("\\/") + 1));
     for (std::uint32_t number = 1; number < LooseLayer; ++number) {
         std::string name(number < 10 ? "0" : "");
         name.append(std::to_string(number)).append(".cat");
@@ -131,9 +148,9 @@ void addRootCatalogs(State& s, View& view, std::string_view root,
             return;
         const std::string path = directory + '\\' + at->second;
         if (const auto catalog = lornfd::CatalogIndex::open(path))
-            view.addCatalog(catalog, path, number, s.filters);
+            addCatalog(s, view, catalog, path, number, s.filters);
         else
-            s.warnings += driverErrorText() + '\n';
+            warn(s, driverErrorText());
     }
 }
 
@@ -157,13 +174,15 @@ std::int32_t KeshVFS_CreateVFS(std::string_view DataRoot) {
         s.view = std::make_shared<View>();
         if (DataRoot.empty())
             return 1;
+        if (DataRoot.find("::") != DataRoot.npos)
+            return rootError(s, DataRoot,
+                             lornfd::nativePath(DataRoot) + ": the name of a directory with \"::\" "
+                                                            "in it reads as a catalog's entry");
         auto view = std::make_shared<View>();
         LooseFiles loose = addLooseFiles(*view, DataRoot, LooseLayer, s.filters);
         s.warnings = std::move(loose.warnings);
-        if (!loose.rootRead) {
-            const std::string reason = s.warnings.substr(0, s.warnings.rfind('\n'));
-            return s.error.set(KESHVFS_E_DIRECTORY, {std::string(DataRoot), {}, reason});
-        }
+        if (!loose.rootRead)
+            return rootError(s, DataRoot, s.warnings.substr(0, s.warnings.find('\n')));
         addRootCatalogs(s, *view, DataRoot, loose.catalogs);
         s.view = std::move(view);
         return 1;
@@ -175,7 +194,7 @@ std::int32_t KeshVFS_AppendCatalog(std::string_view Catalog) {
         const auto catalog = lornfd::CatalogIndex::open(Catalog);
         if (!catalog)
             return s.error.set(KESHVFS_E_CATALOG, {std::string(Catalog), {}, driverErrorText()});
-        s.view->addCatalog(catalog, inProgramForm(Catalog), ++s.topLayer, s.filters);
+        addCatalog(s, *s.view, catalog, Catalog, ++s.topLayer, s.filters);
         return 1;
     });
 }
@@ -214,7 +233,7 @@ std::int32_t KeshVFS_CatFindInit(std::int32_t Catalog) {
         if (!index)
             return handleError(s, Catalog);
         auto view = std::make_shared<View>();
-        view->addCatalog(index, inProgramForm(index->path()), 1, {});
+        addCatalog(s, *view, index, index->path(), 1, {});
         return open(s, {std::move(view), {}});
     });
 }

@@ -24,9 +24,10 @@ enum KeshVFSError : std::int32_t {
     KESHVFS_OK = 0,
     KESHVFS_E_NOT_FOUND = 1, ///< nothing matches
     KESHVFS_E_CATALOG,       ///< a catalog did not open; the reason is the file driver's
-    KESHVFS_E_DIRECTORY,     ///< a directory of the data root cannot be read
+    KESHVFS_E_DIRECTORY,     ///< the data root cannot be read, or has "::" in its name
     KESHVFS_E_HANDLE,        ///< not an open handle of the right kind
     KESHVFS_E_MEMORY,
+    KESHVFS_E_FAILED, ///< anything else; the reason is the system's
 };
 
 /// Adds a mask of entries that the next view shows ("types\*"; "*" also crosses directories here).
@@ -64,6 +65,6 @@ std::int32_t KeshVFS_GetLastError();
 std::int32_t KeshVFS_TranslateError(std::int32_t Code, char* Buffer, std::int32_t Size,
                                     std::int32_t* Needed);
 
-/// What went wrong while the last view was built without stopping it (broken catalogs, unreadable
-/// directories): one line each, empty if nothing did.
+/// What was left out since the last view was begun (broken catalogs, unreadable directories, too
+/// deep entries), or why it has nothing: one line each, empty if nothing went wrong.
 std::string KeshVFS_Warnings();

@@ -21,6 +21,7 @@ struct Pending {
     std::string real; ///< prefix of real names
     Id directory;
     std::vector<fs::path> links; ///< the directories of the links that led here
+    std::size_t parts = 0;       ///< of `path`
 };
 
 bool contains(const fs::path& outer, const fs::path& inner) {
@@ -106,9 +107,14 @@ void Walk::visitFile(const Pending& here, const Entry& found) {
 void Walk::visitDirectory(const fs::directory_entry& entry, const Pending& here,
                           const Entry& found) {
     const std::string below = std::string(found.path) + '\\';
-    Pending next{entry.path(), here.path + below, here.real + below, NoId, here.links};
+    Pending next{entry.path(), here.path + below, here.real + below,
+                 NoId,         here.links,        here.parts + 1};
     if (!m_filters.showsBelow(next.path) || (isLink(entry) && !followLink(entry, next)))
         return;
+    if (here.parts + 1 == View::MaxParts) {
+        warn(entry.path(), "it lies too deep");
+        return;
+    }
     next.directory =
         m_view.addDirectory(here.directory, {m_view.keepName(found.path), 0, m_source});
     m_pending.push_back(std::move(next));
@@ -140,8 +146,7 @@ void Walk::warn(const fs::path& file, std::string_view reason) {
 
 LooseFiles addLooseFiles(View& view, std::string_view root, std::uint32_t layer,
                          const Filters& filters) {
-    std::string real(root.substr(0, root.find_last_not_of("\\/") + 1));
-    std::ranges::replace(real, '/', '\\');
+    const std::string real = lornfd::programPath(root.substr(0, root.find_last_not_of("\\/") + 1));
     return Walk(view, layer, filters)
         .run({fs::path(lornfd::resolvePath(root)), {}, real + '\\', View::Root, {}});
 }

@@ -3,6 +3,7 @@
 #include "keshvfs/wildcard.h"
 
 #include <algorithm>
+#include <random>
 #include <tuple>
 
 namespace keshvfs {
@@ -27,10 +28,17 @@ bool hasExtension(std::string_view name) {
 }
 
 std::uint32_t hashOf(bool directory, std::string_view name) {
-    std::uint64_t hash = 0xcbf29ce484222325U ^ (directory ? 1U : 0U);
-    for (const char c : name)
-        hash = (hash ^ static_cast<unsigned char>(foldName(c))) * 0x100000001b3U;
-    return static_cast<std::uint32_t>(hash ^ hash >> 32U);
+    static const std::uint64_t seed = [] {
+        std::random_device random;
+        return std::uint64_t{random()} << 32U | random();
+    }();
+    return hashName(name, directory, seed);
+}
+
+bool isTooDeep(std::string_view directory) {
+    const auto separators = std::ranges::count_if(
+        directory, [](char c) { return Separators.find(c) != std::string_view::npos; });
+    return static_cast<std::size_t>(separators) >= View::MaxParts;
 }
 
 } // namespace
@@ -109,22 +117,27 @@ void View::settle(Directory& directory) const {
     directory.sorted = false;
 }
 
-void View::addCatalog(const std::shared_ptr<const lornfd::CatalogIndex>& catalog,
-                      std::string_view prefix, std::uint32_t layer, const Filters& filters) {
+std::size_t View::addCatalog(const std::shared_ptr<const lornfd::CatalogIndex>& catalog,
+                             std::string_view prefix, std::uint32_t layer, const Filters& filters) {
     const Id source = addSource({layer, std::string(prefix) + "::", catalog});
     std::string_view lastPath;
     Id lastDirectory = Root;
+    std::size_t tooDeep = 0;
     for (std::size_t i = 0; i < catalog->size(); ++i) {
         const std::string_view path = catalog->entry(i).name;
         if (!filters.shows(path))
             continue;
         const std::size_t nameStart = path.find_last_of(Separators) + 1;
         if (const auto directory = path.substr(0, nameStart); directory != lastPath) {
-            lastDirectory = directoryOf(directory, source);
+            lastDirectory = isTooDeep(directory) ? NoId : directoryOf(directory, source);
             lastPath = directory;
         }
-        addFile(lastDirectory, {path, static_cast<std::uint32_t>(nameStart), source});
+        if (lastDirectory == NoId)
+            ++tooDeep;
+        else
+            addFile(lastDirectory, {path, static_cast<std::uint32_t>(nameStart), source});
     }
+    return tooDeep;
 }
 
 Id View::directoryOf(std::string_view path, Id source) {

@@ -49,6 +49,8 @@ struct Entry {
 class View {
 public:
     static constexpr Id Root = 0;
+    /// Parts of the longest path; a small catalog could ask for very many directories else.
+    static constexpr std::size_t MaxParts = 32;
 
     View();
     View(const View&) = delete;
@@ -62,8 +64,10 @@ public:
     /// The number of the directory `entry` in `parent`, made if it is new.
     Id addDirectory(Id parent, Entry entry);
     /// All entries of a catalog that the filters show; `prefix` stands before "::" in real names.
-    void addCatalog(const std::shared_ptr<const lornfd::CatalogIndex>& catalog,
-                    std::string_view prefix, std::uint32_t layer, const Filters& filters);
+    /// Gives the number of those left out for having more than MaxParts parts.
+    [[nodiscard]] std::size_t addCatalog(const std::shared_ptr<const lornfd::CatalogIndex>& catalog,
+                                         std::string_view prefix, std::uint32_t layer,
+                                         const Filters& filters);
 
     // Searching
     /// Entries that a mask matches, in name order; of a plain name without "." the topmost first.

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <regex>
 #include <string>
 #include <sys/mount.h>
 
@@ -81,6 +82,18 @@ TEST_P(SavingFaults, OldOrNewStandsWhateverFails) {
             for (const bool forEver : {false, true})
                 if (saving::isLong() || random() % 10 == 0)
                     runCase(first, code, forEver);
+}
+
+TEST_P(SavingFaults, EachFileIsFlushedBeforeTheNextStep) {
+    const saving::Scene scene(GetParam());
+    std::string operations;
+    lornfd::setFaultHook([&](DiskOperation operation, std::size_t*) {
+        operations += "OWFRD"[static_cast<int>(operation)];
+        return 0;
+    });
+    EXPECT_TRUE(scene.save(1));
+    lornfd::setFaultHook({});
+    EXPECT_TRUE(std::regex_match(operations, std::regex("(OW+F)+RD"))) << operations;
 }
 
 TEST_P(SavingFaults, ShortWritesAreContinued) {

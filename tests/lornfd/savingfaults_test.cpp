@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <regex>
 #include <string>
 #include <sys/mount.h>
 
@@ -93,7 +92,9 @@ TEST_P(SavingFaults, EachFileIsFlushedBeforeTheNextStep) {
     });
     EXPECT_TRUE(scene.save(1));
     lornfd::setFaultHook({});
-    EXPECT_TRUE(std::regex_match(operations, std::regex("(OW+F)+RD"))) << operations;
+    for (const char* unflushed : {"WO", "WR", "WD"})
+        EXPECT_EQ(operations.find(unflushed), std::string::npos) << operations;
+    EXPECT_TRUE(operations.ends_with("WFRD")) << operations;
 }
 
 TEST_P(SavingFaults, ShortWritesAreContinued) {

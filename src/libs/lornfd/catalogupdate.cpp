@@ -107,6 +107,7 @@ struct CatalogUpdate::Data {
     bool writeIndex(std::string_view dataName, const std::vector<CatalogEntry>& entries,
                     NewDataFile* newData);
     bool compact(std::vector<CatalogEntry> entries);
+    [[nodiscard]] bool failEarlier() const;
 };
 
 CatalogUpdate::Data::~Data() {
@@ -200,6 +201,11 @@ bool CatalogUpdate::Data::compact(std::vector<CatalogEntry> entries) {
     return target->writer().flush() && writeIndex(target->name(), entries, target.get());
 }
 
+bool CatalogUpdate::Data::failEarlier() const {
+    return fail(LORNFD_E_WRITE,
+                {.file = path, .place = {}, .reason = "an earlier entry could not be written"});
+}
+
 CatalogUpdate::CatalogUpdate(std::unique_ptr<Data> data) : m(std::move(data)) {}
 
 CatalogUpdate::~CatalogUpdate() = default;
@@ -234,10 +240,12 @@ bool CatalogUpdate::put(std::string_view name, std::string_view storedBytes) {
                      .place = {},
                      .reason = "an entry has a relative name of 1 to 255 bytes without "
                                "\"..\", drive or control character"});
-    BlockWriter* writer = m->failed ? nullptr : m->writer();
-    const std::int64_t offset = writer ? writer->position() : 0;
-    m->failed = !writer || !writer->write(storedBytes);
     if (m->failed)
+        return m->failEarlier();
+    m->failed = true; // also where something below throws
+    BlockWriter* writer = m->writer();
+    const std::int64_t offset = writer ? writer->position() : 0;
+    if (!writer || !writer->write(storedBytes))
         return false;
     Change change{.name = std::string(name),
                   .offset = offset,
@@ -246,6 +254,7 @@ bool CatalogUpdate::put(std::string_view name, std::string_view storedBytes) {
     std::ranges::replace(change.name, '/', '\\');
     std::string folded = foldCase(change.name);
     m->change(std::move(folded), std::move(change));
+    m->failed = false;
     return true;
 }
 
@@ -261,8 +270,7 @@ bool CatalogUpdate::remove(std::string_view name) {
 
 bool CatalogUpdate::commit() {
     if (m->failed)
-        return fail(LORNFD_E_WRITE,
-                    {.file = m->path, .place = {}, .reason = "an entry could not be written"});
+        return m->failEarlier();
     BlockWriter* writer = m->writer();
     if (!writer || !writer->flush())
         return false;

@@ -33,6 +33,7 @@ public:
     explicit OpenFile(std::string_view name) : m_name(name) {}
     /// For messages, in native form.
     [[nodiscard]] std::string name() const { return FileName::parse(m_name).shown(); }
+    [[nodiscard]] std::string_view givenName() const noexcept { return m_name; }
     [[nodiscard]] FileName parts() const { return FileName::parse(m_name); }
 
 private:

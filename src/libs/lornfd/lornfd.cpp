@@ -20,14 +20,15 @@ namespace {
 /// Runs one operation: the last error starts empty, and what the standard library throws becomes
 /// one.
 template <typename Result, typename Operation>
-Result guarded(Result failure, Operation operation) noexcept {
+Result guarded(std::string_view name, Result failure, Operation operation) noexcept {
     lastError().clear();
     try {
         return operation();
     } catch (const std::bad_alloc&) {
-        fail(LORNFD_E_TOO_BIG, {.file = {}, .place = {}, .reason = "there is no memory for it"});
+        fail(LORNFD_E_TOO_BIG,
+             {.file = nativePath(name), .place = {}, .reason = "there is no memory for it"});
     } catch (const std::exception& error) {
-        fail(LORNFD_E_READ, {.file = {}, .place = {}, .reason = error.what()});
+        fail(LORNFD_E_OPEN, {.file = nativePath(name), .place = {}, .reason = error.what()});
     }
     return failure;
 }
@@ -35,8 +36,8 @@ Result guarded(Result failure, Operation operation) noexcept {
 /// Runs an operation on what stands behind a handle, if that is of the kind asked for.
 template <typename Kind, typename Result, typename Operation>
 Result withHandle(std::int32_t handle, Result failure, Operation operation) {
-    return guarded(failure, [&]() -> Result {
-        Kind* object = dynamic_cast<Kind*>(HandleTable::instance().find(handle));
+    Kind* object = dynamic_cast<Kind*>(HandleTable::instance().find(handle));
+    return guarded(object ? object->givenName() : "", failure, [&]() -> Result {
         return object ? operation(*object) : (failHandle(handle), failure);
     });
 }
@@ -60,7 +61,7 @@ bool areKnown(std::string_view name, std::int32_t access, std::int32_t create,
 
 std::int32_t openFile(std::string_view name, std::int32_t access, std::int32_t create,
                       std::int32_t fileType) {
-    return guarded(0, [&]() -> std::int32_t {
+    return guarded(name, 0, [&]() -> std::int32_t {
         if (!isUsableName(name) || !areKnown(name, access, create, fileType))
             return 0;
         if (access == LORNFD_READ)
@@ -110,8 +111,8 @@ std::int32_t LornFD_OpenFileConvert(std::string_view Name, std::int32_t Access,
 }
 
 std::int32_t LornFD_CloseFile(std::int32_t File) {
-    return guarded(0, [&]() -> std::int32_t {
-        const auto file = HandleTable::instance().take<OpenFile>(File);
+    const auto file = HandleTable::instance().take<OpenFile>(File);
+    return guarded(file ? file->givenName() : "", 0, [&]() -> std::int32_t {
         if (!file)
             return failHandle(File);
         Writer* writer = dynamic_cast<Writer*>(file.get());
@@ -120,7 +121,7 @@ std::int32_t LornFD_CloseFile(std::int32_t File) {
 }
 
 std::int32_t LornFD_AbandonFile(std::int32_t File) {
-    return guarded(0, [&]() -> std::int32_t {
+    return guarded("", 0, [&]() -> std::int32_t {
         return HandleTable::instance().take<OpenFile>(File) ? 1 : failHandle(File);
     });
 }
@@ -161,19 +162,20 @@ std::string LornFD_FileName(std::int32_t File) {
 }
 
 std::int32_t LornFD_FileExists(std::string_view Name) {
-    return guarded(
-        0, [&]() -> std::int32_t { return isUsableName(Name) && Reader::open(Name) ? 1 : 0; });
+    return guarded(Name, 0, [&]() -> std::int32_t {
+        return isUsableName(Name) && Reader::open(Name) ? 1 : 0;
+    });
 }
 
 std::int32_t LornFD_DeleteFile(std::string_view Name) {
-    return guarded(0, [&]() -> std::int32_t {
+    return guarded(Name, 0, [&]() -> std::int32_t {
         const FileName name = FileName::parse(Name);
         return isUsableName(Name) && (name.inCatalog ? deleteEntry(name) : deletePlain(Name));
     });
 }
 
 std::int32_t LornFD_OpenCatalog(std::string_view Name, std::int32_t Create) {
-    return guarded(0, [&]() -> std::int32_t {
+    return guarded(Name, 0, [&]() -> std::int32_t {
         if (!isUsableName(Name) || !areKnown(Name, LORNFD_READ, Create, LORNFD_AS_IS) ||
             (Create == LORNFD_CREATE && !createCatalog(Name)))
             return 0;
@@ -185,7 +187,7 @@ std::int32_t LornFD_OpenCatalog(std::string_view Name, std::int32_t Create) {
 }
 
 std::int32_t LornFD_CloseCatalog(std::int32_t Catalog) {
-    return guarded(0, [&]() -> std::int32_t {
+    return guarded("", 0, [&]() -> std::int32_t {
         return HandleTable::instance().take<CatalogHandle>(Catalog) ? 1 : failHandle(Catalog);
     });
 }

@@ -116,17 +116,19 @@ std::unique_ptr<Writer> Writer::open(std::string_view name, bool mustExist, std:
 }
 
 bool Writer::write(std::string_view bytes) {
-    m_failed = m_failed || !take(bytes);
-    return !m_failed ||
-           fail(LORNFD_E_WRITE,
-                {.file = name(), .place = {}, .reason = lastError().text(lastError().code())});
+    if (m_failed)
+        return failEarlier();
+    m_failed = true; // also where taking them throws
+    m_failed = !take(bytes);
+    return !m_failed;
 }
 
 bool Writer::commit() {
-    if (m_failed)
-        return fail(LORNFD_E_WRITE,
-                    {.file = name(), .place = {}, .reason = "an earlier write failed"});
-    return replace();
+    return m_failed ? failEarlier() : replace();
+}
+
+bool Writer::failEarlier() const {
+    return fail(LORNFD_E_WRITE, {.file = name(), .place = {}, .reason = "an earlier write failed"});
 }
 
 } // namespace lornfd

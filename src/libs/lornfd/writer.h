@@ -26,6 +26,8 @@ protected:
 private:
     virtual bool take(std::string_view bytes) = 0;
     virtual bool replace() = 0;
+    [[nodiscard]] bool failEarlier() const;
+
     bool m_failed = false;
 };
 

@@ -36,8 +36,9 @@ void checkEntries(const lornfd::CatalogIndex& index) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::string text(reinterpret_cast<const char*>(data), size);
-    if (const auto index = lornfd::CatalogIndex::parse(std::move(text), dataSize, "fuzz.cat"))
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    if (const auto index =
+            lornfd::CatalogIndex::parse(lornfd::Buffer::copyOf(text), dataSize, "fuzz.cat"))
         checkEntries(*index);
     else
         require(LornFD_GetLastError() == LORNFD_E_CATALOG);

@@ -14,7 +14,7 @@ constexpr std::int64_t dataSize = 100;
 const std::string header = "KESHCAT 1 x.dat\n";
 
 std::shared_ptr<const CatalogIndex> parse(const std::string& text) {
-    return CatalogIndex::parse(text, dataSize, "x.cat");
+    return CatalogIndex::parse(Buffer::copyOf(text), dataSize, "x.cat");
 }
 
 TEST(CatalogIndex, ReadsEntries) {

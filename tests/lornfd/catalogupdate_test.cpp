@@ -156,6 +156,26 @@ TEST_F(CatalogChange, ReadAnewOnlyAfterAChange) {
     EXPECT_EQ(scratch::load(directory / "n0.cat::x"), "0");
 }
 
+TEST_F(CatalogChange, BurstOfOpensSeesWhatThisProgramDid) {
+    for (int round = 0; round < 5; ++round) {
+        const std::string content = "content " + std::to_string(round);
+        ASSERT_TRUE(scratch::save(catalog + "::a", content));
+        for (int i = 0; i < 100; ++i)
+            ASSERT_EQ(load("A"), content);
+    }
+    EXPECT_EQ(LornFD_DeleteFile(catalog), 1);
+    EXPECT_EQ(load("a"), "error 1");
+}
+
+TEST_F(CatalogChange, WriterLooksAtTheDiskAlsoInABurst) {
+    const std::string text = scratch::getBytes(catalog);
+    for (int i = 0; i < 100; ++i)
+        ASSERT_EQ(load("a"), "aaaaaaaaaa");
+    std::ofstream(catalog) << text.substr(0, text.rfind('\n', text.size() - 2) + 1); // without b
+    ASSERT_TRUE(CatalogUpdate::begin(catalog, false)->commit());
+    EXPECT_EQ(entries(), "a|");
+}
+
 TEST_F(CatalogChange, HandleKeepsTheCatalogAsItWas) {
     EXPECT_EQ(LornFD_OpenCatalog(directory / "none.cat", LORNFD_OPEN_EXISTING), 0);
     EXPECT_EQ(LornFD_GetLastError(), LORNFD_E_NOT_FOUND);

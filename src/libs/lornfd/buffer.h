@@ -13,8 +13,9 @@ class Buffer {
 public:
     Buffer() = default;
     /// Room for `size` bytes; data() is null if there is no memory for them.
-    explicit Buffer(std::size_t size)
-        : m_data(static_cast<char*>(std::malloc(size ? size : 1))), m_size(m_data ? size : 0) {}
+    explicit Buffer(std::size_t size);
+    /// data() is null if there is no memory for the copy.
+    static Buffer copyOf(std::string_view bytes);
     Buffer(Buffer&& other) noexcept
         : m_data(std::move(other.m_data)), m_size(std::exchange(other.m_size, 0)) {}
     Buffer& operator=(Buffer&& other) noexcept {
@@ -23,14 +24,9 @@ public:
         return *this;
     }
 
-    /// Keeps the first `size` bytes and gives the others back.
-    void shrink(std::size_t size) {
-        if (char* smaller = static_cast<char*>(std::realloc(m_data.get(), size ? size : 1))) {
-            static_cast<void>(m_data.release());
-            m_data.reset(smaller);
-        }
-        m_size = size;
-    }
+    /// Keeps the bytes up to the new size; false, and nothing changes, if there is no memory for
+    /// more.
+    [[nodiscard]] bool resize(std::size_t size);
 
     [[nodiscard]] char* data() noexcept { return m_data.get(); }
     [[nodiscard]] const char* data() const noexcept { return m_data.get(); }

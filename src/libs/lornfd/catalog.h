@@ -2,6 +2,8 @@
 // "Catalogs".
 #pragma once
 
+#include "lornfd/buffer.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -25,8 +27,8 @@ class CatalogIndex {
 public:
     /// Reads and checks an index, or null with the library's last error set (file and line).
     static std::shared_ptr<const CatalogIndex> open(std::string_view catalog);
-    /// As open, from text; `dataSize` is the size of the data file that it names.
-    static std::shared_ptr<const CatalogIndex> parse(std::string text, std::int64_t dataSize,
+    /// As open, from text of less than 4 GB; `dataSize` is the size of the data file that it names.
+    static std::shared_ptr<const CatalogIndex> parse(Buffer text, std::int64_t dataSize,
                                                      std::string_view nameForMessages);
     ~CatalogIndex();
 

@@ -2,11 +2,12 @@
 
 #include "lornfd/errors.h"
 #include "lornfd/namescan.h"
-#include "lornfd/newcontent.h"
 #include "lornfd/paths.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
+#include <limits>
 #include <map>
 #include <mutex>
 #include <string>
@@ -16,13 +17,25 @@ namespace lornfd {
 
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr std::size_t mostKept = 64; // each holds two open files
 constexpr int mostAttempts = 3;
+
+using Clock = std::chrono::steady_clock;
+
+// A system call for each of ten thousand entries costs as much as reading them. Opens that follow
+// each other this closely cannot be told from opens at one time.
+constexpr auto lookInterval = 50us;
+constexpr auto burstGap = 1ms;
+constexpr int burstLooks = 16; // without a gap and without a change, before looks become fewer
 
 struct Kept {
     std::string lookup; ///< native path before links are followed: they may be set anew
     std::shared_ptr<const OpenCatalog> catalog;
     std::uint64_t lastUse = 0;
+    Clock::time_point lastLook = {};
+    int looks = 0; ///< in this burst
 };
 
 struct Cache {
@@ -37,15 +50,18 @@ Cache& cache() {
 }
 
 bool readIndexText(const platform::File& file, const std::string& path, std::int64_t size,
-                   std::string& text) {
-    text.reserve(static_cast<std::size_t>(size) + scanSlack); // the parser adds it
-    text.resize(static_cast<std::size_t>(size));
+                   Buffer& text) {
+    constexpr std::int64_t mostBytes = std::numeric_limits<std::uint32_t>::max() - scanSlack;
+    if (size > mostBytes)
+        return fail(LORNFD_E_TOO_BIG,
+                    {.file = path, .place = {}, .reason = "an index has less than 4 GB"});
+    text = Buffer(static_cast<std::size_t>(size));
     std::size_t got = 0;
-    if (const std::error_code error = file.read(0, text.data(), text.size(), got))
-        return fail(LORNFD_E_READ,
-                    {.file = path, .place = offsetPlace(0), .reason = error.message()});
-    text.resize(got);
-    return true;
+    const std::error_code error = text.data() ? file.read(0, text.data(), text.size(), got)
+                                              : std::make_error_code(std::errc::not_enough_memory);
+    if (!error && text.resize(got))
+        return true;
+    return fail(LORNFD_E_READ, {.file = path, .place = offsetPlace(0), .reason = error.message()});
 }
 
 bool openIndex(const std::string& path, OpenCatalog& catalog) {
@@ -90,7 +106,7 @@ std::shared_ptr<const OpenCatalog> read(const std::string& lookup) {
     for (int attempt = 1;; ++attempt) {
         const std::string path = realPath(lookup);
         auto catalog = std::make_shared<OpenCatalog>();
-        std::string text;
+        Buffer text;
         if (!openIndex(path, *catalog) ||
             !readIndexText(catalog->indexFile, path, catalog->stamp.size, text))
             return nullptr;
@@ -111,6 +127,16 @@ std::shared_ptr<const OpenCatalog> read(const std::string& lookup) {
     }
 }
 
+bool isCurrent(Kept& kept, Look look) {
+    const Clock::time_point now = Clock::now();
+    if (look == Look::InBurst && kept.looks >= burstLooks && now - kept.lastLook < lookInterval)
+        return true;
+    kept.looks = now - kept.lastLook < burstGap ? kept.looks + 1 : 0;
+    kept.lastLook = now;
+    platform::FileStamp stamp;
+    return !platform::stamp(kept.lookup, stamp) && stamp == kept.catalog->stamp;
+}
+
 void makeRoom(Cache& cache) {
     if (cache.kept.size() < mostKept)
         return;
@@ -120,16 +146,14 @@ void makeRoom(Cache& cache) {
 
 } // namespace
 
-std::shared_ptr<const OpenCatalog> openCatalog(std::string_view catalog) {
+std::shared_ptr<const OpenCatalog> openCatalog(std::string_view catalog, Look look) {
     Cache& all = cache();
     const std::scoped_lock lock(all.mutex);
     const auto found = all.kept.find(catalog);
     if (found != all.kept.end()) {
-        Kept& kept = found->second;
-        platform::FileStamp now;
-        if (!platform::stamp(kept.lookup, now) && now == kept.catalog->stamp) {
-            kept.lastUse = ++all.uses;
-            return kept.catalog;
+        if (isCurrent(found->second, look)) {
+            found->second.lastUse = ++all.uses;
+            return found->second.catalog;
         }
         all.kept.erase(found);
     }
@@ -140,6 +164,13 @@ std::shared_ptr<const OpenCatalog> openCatalog(std::string_view catalog) {
     makeRoom(all);
     all.kept[std::string(catalog)] = {std::move(lookup), opened, ++all.uses};
     return opened;
+}
+
+void expectCatalogChange() {
+    Cache& all = cache();
+    const std::scoped_lock lock(all.mutex);
+    for (auto& [name, kept] : all.kept)
+        kept.looks = 0;
 }
 
 } // namespace lornfd

@@ -21,8 +21,17 @@ struct OpenCatalog {
     platform::FileStamp stamp; ///< of the index
 };
 
+/// How an opened catalog is held against the disk.
+enum class Look {
+    Always,  ///< each time
+    InBurst, ///< each time, but in a burst of opens only every few microseconds
+};
+
 /// The catalog of that name, read anew only if its index changed. Null with the last error set.
-std::shared_ptr<const OpenCatalog> openCatalog(std::string_view catalog);
+std::shared_ptr<const OpenCatalog> openCatalog(std::string_view catalog, Look look);
+
+/// The next open of any catalog looks at the disk: this program has just changed something.
+void expectCatalogChange();
 
 /// The data file's name in an index's first line, if that is a plain file name.
 std::optional<std::string_view> catalogDataName(std::string_view indexText);

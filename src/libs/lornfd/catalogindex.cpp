@@ -8,7 +8,6 @@
 #include <bit>
 #include <charconv>
 #include <filesystem>
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -39,13 +38,13 @@ bool isUnusual(std::string_view text) {
     return unusual != 0;
 }
 
-/// Brings CR LF and "/" into the form in which an index is written.
-void normalize(std::string& text) {
+/// Brings CR LF and "/" into the form in which an index is written. Gives the new size.
+std::size_t normalize(char* text, std::size_t size) {
     std::size_t length = 0;
-    for (std::size_t i = 0; i < text.size(); ++i)
-        if (text[i] != '\r' || i + 1 == text.size() || text[i + 1] != '\n')
+    for (std::size_t i = 0; i < size; ++i)
+        if (text[i] != '\r' || i + 1 == size || text[i + 1] != '\n')
             text[length++] = text[i] == '/' ? '\\' : text[i];
-    text.resize(length);
+    return length;
 }
 
 // The readers below stop at a line break at the latest, which an index always ends with.
@@ -84,7 +83,8 @@ const char* takeNumbers(const char*& at, CatalogEntry& entry) {
 } // namespace
 
 struct CatalogIndex::Data {
-    std::string text; ///< ends with a line break and scanSlack more
+    Buffer buffer;
+    std::string_view text; ///< of the buffer; scanSlack line breaks follow
     std::string path;
     std::string dataPath;
     std::vector<Line> lines;
@@ -95,7 +95,8 @@ struct CatalogIndex::Data {
     [[nodiscard]] CatalogEntry entry(std::size_t position) const;
     [[nodiscard]] bool hasName(const Line& line, std::string_view name) const;
     bool parse(std::int64_t dataSize);
-    bool parseLines(std::size_t begin, std::int64_t dataSize);
+    bool parseLines(std::int64_t dataSize);
+    bool makeRoom();
     const char* addLine(const char*& at, bool unusual, std::int64_t dataSize);
     [[nodiscard]] std::size_t slotOf(std::string_view wanted, std::uint32_t hash) const;
     [[nodiscard]] std::optional<std::size_t> enterNames();
@@ -108,12 +109,12 @@ CatalogEntry CatalogIndex::Data::entry(std::size_t position) const {
     const char* at = text.data() + text.rfind('\n', name) + 1;
     CatalogEntry entry{};
     takeNumbers(at, entry);
-    entry.name = std::string_view(text).substr(name, text.find('\n', name) - name);
+    entry.name = text.substr(name, text.find('\n', name) - name);
     return entry;
 }
 
 bool CatalogIndex::Data::hasName(const Line& line, std::string_view name) const {
-    return equalNoCase(std::string_view(text).substr(line.name, name.size()), name) &&
+    return equalNoCase(text.substr(line.name, name.size()), name) &&
            text[line.name + name.size()] == '\n';
 }
 
@@ -195,12 +196,10 @@ bool CatalogIndex::Data::parse(std::int64_t dataSize) {
     if (!dataName)
         return broken(1, "it does not begin with \"KESHCAT 1\" and the name of a data file");
     dataPath = (std::filesystem::path(path).parent_path() / *dataName).string();
-    if (text.size() > std::numeric_limits<std::uint32_t>::max())
-        return broken(1, "the index is larger than 4 GB");
     if (!text.ends_with('\n'))
         return broken(static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1,
                       "the line has no end; the index is cut");
-    if (!parseLines(text.find('\n') + 1, dataSize))
+    if (!parseLines(dataSize))
         return false;
     if (const auto line = enterNames())
         return broken(*line + 2, "an entry of this name stands in a line above");
@@ -209,17 +208,26 @@ bool CatalogIndex::Data::parse(std::int64_t dataSize) {
     return true;
 }
 
-bool CatalogIndex::Data::parseLines(std::size_t begin, std::int64_t dataSize) {
-    const bool unusual = isUnusual(std::string_view(text).substr(begin));
+/// Puts the slack behind the text that scanning the names asks for.
+bool CatalogIndex::Data::makeRoom() {
+    const std::size_t size = buffer.size();
+    if (!buffer.resize(size + scanSlack))
+        return fail(LORNFD_E_TOO_BIG,
+                    {.file = path, .place = {}, .reason = "there is no memory for it"});
+    std::fill_n(buffer.data() + size, scanSlack, '\n');
+    text = buffer.view().substr(0, size);
+    return true;
+}
+
+bool CatalogIndex::Data::parseLines(std::int64_t dataSize) {
+    const bool unusual = isUnusual(text.substr(text.find('\n')));
     if (unusual) {
-        normalize(text);
-        begin = text.find('\n') + 1;
+        text = text.substr(0, normalize(buffer.data(), text.size()));
+        std::fill_n(buffer.data() + text.size(), scanSlack, '\n');
     }
     lines.reserve(text.size() / typicalLine);
-    const std::size_t length = text.size();
-    text.append(scanSlack, '\n');
-    const char* at = text.data() + begin;
-    while (at != text.data() + length)
+    const char* at = text.data() + text.find('\n') + 1;
+    while (at != text.data() + text.size())
         if (const char* reason = addLine(at, unusual, dataSize))
             return broken(lines.size() + 2, reason);
     return true;
@@ -242,16 +250,16 @@ CatalogIndex::CatalogIndex(std::unique_ptr<Data> data) : m(std::move(data)) {}
 CatalogIndex::~CatalogIndex() = default;
 
 std::shared_ptr<const CatalogIndex> CatalogIndex::open(std::string_view catalog) {
-    const auto opened = openCatalog(catalog);
+    const auto opened = openCatalog(catalog, Look::Always);
     return opened ? opened->index : nullptr;
 }
 
-std::shared_ptr<const CatalogIndex> CatalogIndex::parse(std::string text, std::int64_t dataSize,
+std::shared_ptr<const CatalogIndex> CatalogIndex::parse(Buffer text, std::int64_t dataSize,
                                                         std::string_view nameForMessages) {
     auto data = std::make_unique<Data>();
-    data->text = std::move(text);
+    data->buffer = std::move(text);
     data->path = nameForMessages;
-    if (!data->parse(dataSize))
+    if (!data->makeRoom() || !data->parse(dataSize))
         return nullptr;
     return std::shared_ptr<const CatalogIndex>(new CatalogIndex(std::move(data)));
 }
@@ -268,9 +276,11 @@ std::size_t CatalogIndex::find(std::string_view name) const {
     char separated[longestName];
     if (name.size() > sizeof separated)
         return npos;
-    std::ranges::replace_copy(name, separated, '/', '\\');
-    const std::string_view wanted(separated, name.size());
-    const std::uint32_t slot = m->slots[m->slotOf(wanted, foldedHash(wanted))];
+    if (name.find('/') != std::string_view::npos) {
+        std::ranges::replace_copy(name, separated, '/', '\\');
+        name = {separated, name.size()};
+    }
+    const std::uint32_t slot = m->slots[m->slotOf(name, foldedHash(name))];
     return slot == 0 ? npos : slot - 1;
 }
 

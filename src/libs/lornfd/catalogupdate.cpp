@@ -223,7 +223,7 @@ std::unique_ptr<CatalogUpdate> CatalogUpdate::begin(std::string_view catalog, bo
     if (!data->lock)
         return nullptr;
     if (fs::exists(data->path, error)) {
-        data->old = openCatalog(data->path);
+        data->old = openCatalog(data->path, Look::Always);
         if (!data->old)
             return nullptr;
     }

@@ -1,10 +1,10 @@
 #include "lornfd/lornfd.h"
 
+#include "lornfd/catalogcache.h"
 #include "lornfd/errors.h"
 #include "lornfd/handle.h"
 #include "lornfd/handletable.h"
 #include "lornfd/lockfile.h"
-#include "lornfd/newcontent.h"
 #include "lornfd/paths.h"
 #include "lornfd/platform.h"
 #include "lornfd/reader.h"
@@ -80,6 +80,7 @@ bool deletePlain(std::string_view name) {
     if (!lock)
         return false;
     error = platform::remove(path);
+    expectCatalogChange();
     if (!error)
         error = platform::flushDirectoryOf(path);
     return !error || fail(LORNFD_E_WRITE, path, error);

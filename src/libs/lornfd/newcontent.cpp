@@ -1,19 +1,15 @@
 #include "lornfd/newcontent.h"
 
+#include "lornfd/catalogcache.h"
 #include "lornfd/errors.h"
-#include "lornfd/paths.h"
 
-#include <filesystem>
 #include <utility>
 
 namespace lornfd {
 
 namespace {
 
-namespace fs = std::filesystem;
-
-constexpr std::size_t blockSize = std::size_t{1} << 20;
-constexpr int mostLinks = 40;
+constexpr std::size_t blockSize = std::size_t{256} << 10;
 
 /// The permissions of the target go to the file that replaces it.
 bool takeMode(const std::string& target, platform::File& file) {
@@ -96,16 +92,9 @@ bool NewContent::commit() {
     if (const std::error_code error = platform::rename(m_temporary, m_target))
         return fail(LORNFD_E_WRITE, m_target, error);
     m_replaced = true;
+    expectCatalogChange();
     const std::error_code error = platform::flushDirectoryOf(m_target);
     return !error || fail(LORNFD_E_WRITE, m_target, error);
-}
-
-std::string realPath(std::string_view name) {
-    fs::path path = resolvePath(name);
-    std::error_code error;
-    for (int links = 0; links < mostLinks && fs::is_symlink(path, error); ++links)
-        path = path.parent_path() / fs::read_symlink(path, error);
-    return path.string();
 }
 
 } // namespace lornfd

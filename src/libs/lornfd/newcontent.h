@@ -59,8 +59,4 @@ private:
     bool m_replaced = false;
 };
 
-/// The native path of the file that a name stands for: found without regard to case, links
-/// followed. Also for one that does not exist yet.
-std::string realPath(std::string_view name);
-
 } // namespace lornfd

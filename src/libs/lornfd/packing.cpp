@@ -141,11 +141,13 @@ std::nullopt_t broken(std::string_view name, std::size_t offset, const std::stri
 }
 
 std::optional<Buffer> copy(std::string_view content, std::string_view name) {
-    Buffer copied(content.size());
-    if (!copied.data())
-        return tooBig(name, "there is no memory for", content.size());
-    std::ranges::copy(content, copied.data());
-    return copied;
+    Buffer copied = Buffer::copyOf(content);
+    return copied.data() ? std::optional(std::move(copied))
+                         : tooBig(name, "there is no memory for", content.size());
+}
+
+Buffer shortened(Buffer buffer, std::size_t size) {
+    return buffer.resize(size) ? std::move(buffer) : Buffer::copyOf(buffer.view().substr(0, size));
 }
 
 std::optional<Buffer> unpackForm(const PackedForm& form, std::string_view packed,
@@ -167,8 +169,7 @@ std::optional<Buffer> unpackForm(const PackedForm& form, std::string_view packed
         if (decoded.state == Decoded::State::Done) {
             if (decoded.consumed != packed.size())
                 return broken(name, decoded.consumed, "bytes behind the end of the packed data");
-            unpacked.shrink(decoded.produced);
-            return unpacked;
+            return shortened(std::move(unpacked), decoded.produced);
         }
         if (room == limit)
             return tooBig(name, "it unpacks to more than", limit);
@@ -205,8 +206,7 @@ std::optional<Buffer> pack(std::string_view content, std::int32_t form,
     const std::size_t size = packed.data() ? row->encode(content, packed) : 0;
     if (size == 0)
         return tooBig(nameForMessages, "there is no memory to pack", content.size());
-    packed.shrink(size);
-    return packed;
+    return shortened(std::move(packed), size);
 }
 
 } // namespace lornfd

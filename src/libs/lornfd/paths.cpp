@@ -75,8 +75,17 @@ std::string resolvePath(std::string_view path) {
     return resolve(native.substr(0, entry)).string() + native.substr(entry);
 }
 
+std::string realPath(std::string_view path) {
+    constexpr int mostLinks = 40;
+    fs::path real = resolvePath(path);
+    std::error_code error;
+    for (int links = 0; links < mostLinks && fs::is_symlink(real, error); ++links)
+        real = real.parent_path() / fs::read_symlink(real, error);
+    return real.string();
+}
+
 bool equalNoCase(std::string_view a, std::string_view b) noexcept {
-    return a.size() == b.size() && compareNoCase(a, b) == 0;
+    return a.size() == b.size() && (a == b || compareNoCase(a, b) == 0);
 }
 
 int compareNoCase(std::string_view a, std::string_view b) noexcept {

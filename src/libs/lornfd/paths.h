@@ -16,6 +16,9 @@ std::string programPath(std::string_view path);
 /// component; an exact match wins. Where the last components do not exist they stay as given.
 std::string resolvePath(std::string_view path);
 
+/// resolvePath of a plain path with the links at its end followed, also where they lead to no file.
+std::string realPath(std::string_view path);
+
 /// ASCII folded to lower case; other bytes stay. "_" (0x5F) thus sorts before letters.
 constexpr char foldCase(char c) noexcept {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;

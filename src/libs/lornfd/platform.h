@@ -82,6 +82,10 @@ private:
     std::string_view m_view;
 };
 
+/// Tells the system that all of a piece of memory is going to be used, so that it may be given in
+/// large pages.
+void expectUse(void* memory, std::size_t size) noexcept;
+
 std::error_code stamp(const std::string& path, FileStamp& stamp);
 /// Gives a file a new name in one step; takes the place of one that has it.
 std::error_code rename(const std::string& from, const std::string& to);

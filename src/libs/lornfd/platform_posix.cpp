@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
+#include <memory>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -194,6 +195,19 @@ std::error_code Mapping::map(const File& file, std::int64_t offset, std::size_t 
 void Mapping::unmap() noexcept {
     if (m_base)
         ::munmap(std::exchange(m_base, nullptr), m_length);
+}
+
+void expectUse(void* memory, std::size_t size) noexcept {
+#ifdef MADV_HUGEPAGE
+    constexpr std::size_t worthIt = std::size_t{4} << 20;
+    static const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    void* start = memory;
+    if (size >= worthIt && std::align(page, size - page, start, size))
+        ::madvise(start, size / page * page, MADV_HUGEPAGE);
+#else
+    static_cast<void>(memory);
+    static_cast<void>(size);
+#endif
 }
 
 std::error_code stamp(const std::string& path, FileStamp& stamp) {

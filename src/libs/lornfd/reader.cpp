@@ -45,7 +45,7 @@ std::optional<StoredPart> openPlain(const FileName& name) {
 }
 
 std::optional<StoredPart> openEntry(const FileName& name) {
-    const auto catalog = openCatalog(name.path);
+    const auto catalog = openCatalog(name.path, Look::InBurst);
     if (!catalog)
         return std::nullopt;
     const std::size_t position = catalog->index->find(name.entry);
@@ -177,7 +177,8 @@ std::int64_t Reader::readWhole(char* buffer, std::int64_t count) {
 std::int64_t Reader::readContent(char* buffer, std::int64_t count) {
     const std::string_view piece =
         m_content.substr(static_cast<std::size_t>(m_position), static_cast<std::size_t>(count));
-    std::ranges::copy(piece, buffer);
+    if (!piece.empty())
+        std::memcpy(buffer, piece.data(), piece.size());
     m_position += static_cast<std::int64_t>(piece.size());
     return static_cast<std::int64_t>(piece.size());
 }

@@ -2,6 +2,7 @@
 
 #include "lornfd/lockfile.h"
 #include "lornfd/newcontent.h"
+#include "lornfd/paths.h"
 
 #include <utility>
 

@@ -25,7 +25,7 @@ public:
 
     template <class Number>
     void value(Number number) {
-        std::array<char, 32> buffer;
+        std::array<char, 32> buffer{};
         const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
         *end = ';';
         m_text.append(buffer.data(), end + 1);

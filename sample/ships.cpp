@@ -46,7 +46,7 @@ constexpr std::array<ShipClass, 15> classes = {{
 
 struct Hull {
     Phrase name;
-    std::size_t shipClass; ///< in `classes`
+    std::size_t shipClass = 0; ///< in `classes`
 };
 
 constexpr std::array<Hull, 26> hulls = {{

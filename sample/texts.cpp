@@ -17,7 +17,7 @@ constexpr int firstVariant = 10000;
 constexpr int firstObject = 12000;
 
 struct Row {
-    int id;
+    int id = 0;
     Phrase phrase;
 };
 

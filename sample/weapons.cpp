@@ -48,9 +48,9 @@ constexpr std::array<Weapon, 9> missiles = {{
 
 struct Shield {
     Phrase name;
-    int power;
-    int strength;
-    double efficiency;
+    int power = 0;
+    int strength = 0;
+    double efficiency = 0;
 };
 
 constexpr std::array<Shield, 5> shields = {{

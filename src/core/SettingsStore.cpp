@@ -37,7 +37,7 @@ SettingsMap merged(SettingsMap map, const std::vector<SettingsStore::Entry>& ent
 
 } // namespace
 
-SettingsStore::SettingsStore(std::string File) : m_file(lornfd::resolvePath(File)) {}
+SettingsStore::SettingsStore(const std::string& File) : m_file(lornfd::resolvePath(File)) {}
 
 std::optional<std::string> SettingsStore::Read(std::string_view Key, std::string_view Name) const {
     const SettingsValues values = Values(Key);
@@ -58,7 +58,7 @@ std::vector<std::string> SettingsStore::SubKeys(std::string_view Key) const {
         if (key.size() > above.size() && key.starts_with(above))
             names.push_back(key.substr(above.size(), key.find('\\', above.size()) - above.size()));
     std::ranges::sort(names);
-    names.erase(std::ranges::unique(names).begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
 }
 

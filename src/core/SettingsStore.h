@@ -17,7 +17,7 @@ public:
     };
 
     /// `File` is a native path; the file and its directory need not exist.
-    explicit SettingsStore(std::string File);
+    explicit SettingsStore(const std::string& File);
 
     // Each access reads what stands in the file now, other programs' writes included. A file that
     // is missing or cannot be read has no values.

@@ -20,7 +20,7 @@ constexpr double MetresPerMile = 1852;
 
 /// The shortest decimal text that reads back as `value`, without an exponent.
 std::string decimalText(double value) {
-    std::array<char, 512> buffer; // 1e308 has 309 digits, the smallest value some 340
+    std::array<char, 512> buffer{}; // 1e308 has 309 digits, the smallest value some 340
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                    std::chars_format::fixed);
     return {buffer.data(), end.ptr};
@@ -143,7 +143,7 @@ bool IsWholeNumber(std::string_view Text) {
 }
 
 std::string ToHex(std::uint32_t Value, std::int32_t Digits) {
-    std::array<char, 8> buffer;
+    std::array<char, 8> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), Value, 16);
     std::string text(buffer.data(), end.ptr);
     std::transform(text.begin(), text.end(), text.begin(),

@@ -94,20 +94,24 @@ TEST_F(Files, ValuesAreWrittenAsTheySpell) {
 
 TEST_F(Files, XmlFilesInEveryForm) {
     const std::string text = "<?xml version=\"1.0\" encoding=\"windows-1252\"?>\r\n<a b=\"ä€\"/>";
-    for (const std::int32_t type : {LORNFD_PLAIN, LORNFD_GZIP, LORNFD_ZSTD}) {
-        std::string back;
-        ASSERT_EQ(Kesh_EncodeXMLFile(path("u.xml"), text, type), 1) << lastErrorText();
-        ASSERT_EQ(Kesh_DecodeXMLFile(path("u.xml"), back), 1) << lastErrorText();
-        EXPECT_EQ(back, text);
-    }
+    KeshXmlMark mark{};
+    std::string back;
+    for (const std::int32_t type : {LORNFD_PLAIN, LORNFD_GZIP, LORNFD_ZSTD})
+        for (const auto written : {KESH_XML_AS_DECLARED, KESH_XML_UTF8, KESH_XML_UTF16_BIG})
+            for (const std::string& content : {text, std::string()}) {
+                ASSERT_EQ(Kesh_EncodeXMLFile(path("u.xml"), content, written, type), 1);
+                ASSERT_EQ(Kesh_DecodeXMLFile(path("u.xml"), back, mark), 1) << lastErrorText();
+                EXPECT_EQ(back, content);
+                EXPECT_EQ(mark, written);
+            }
     std::filesystem::create_directories(m_directory / "root/maps");
-    ASSERT_EQ(Kesh_EncodeXMLFile(path("root/maps/u.xml"), text, LORNFD_PLAIN), 1);
+    ASSERT_EQ(Kesh_EncodeXMLFile(path("root/maps/u.xml"), text, KESH_XML_AS_DECLARED, LORNFD_PLAIN),
+              1);
     EXPECT_EQ(read(path("root/maps/u.xml")).back(), '>');
     KeshVFS_CreateVFS(path("root"));
-    std::string back;
-    EXPECT_EQ(Kesh_DecodeXMLFile("vfs://maps\\u.xml", back), 1) << lastErrorText();
+    EXPECT_EQ(Kesh_DecodeXMLFile("vfs://maps\\u.xml", back, mark), 1) << lastErrorText();
     EXPECT_EQ(back, text);
-    EXPECT_EQ(Kesh_DecodeXMLFile("vfs://maps\\other.xml", back), 0);
+    EXPECT_EQ(Kesh_DecodeXMLFile("vfs://maps\\other.xml", back, mark), 0);
     EXPECT_EQ(Kesh_GetLastError(), KESH_E_NOT_FOUND);
     EXPECT_EQ(lastErrorText(), "\"vfs://maps\\other.xml\" was not found.");
     KeshVFS_CreateVFS("");
@@ -115,13 +119,14 @@ TEST_F(Files, XmlFilesInEveryForm) {
 
 TEST_F(Files, AFailedXmlSaveLeavesTheOldFile) {
     const std::string name = write("u.xml", "old");
-    EXPECT_EQ(Kesh_EncodeXMLFile(name, "<a>\xFF</a>", LORNFD_PLAIN), 0);
+    EXPECT_EQ(Kesh_EncodeXMLFile(name, "<a>\xFF</a>", KESH_XML_AS_DECLARED, LORNFD_PLAIN), 0);
     EXPECT_EQ(Kesh_GetLastError(), KESH_E_DECODE);
     EXPECT_EQ(read(name), "old");
-    EXPECT_EQ(Kesh_EncodeXMLFile(path("no/such/u.xml"), "<a/>", LORNFD_PLAIN), 0);
+    EXPECT_EQ(Kesh_EncodeXMLFile(path("no/such/u.xml"), "<a/>", KESH_XML_UTF8, LORNFD_PLAIN), 0);
     EXPECT_EQ(Kesh_GetLastError(), KESH_E_WRITE);
     std::string text;
-    EXPECT_EQ(Kesh_DecodeXMLFile(path("none.xml"), text), 0);
+    KeshXmlMark mark{};
+    EXPECT_EQ(Kesh_DecodeXMLFile(path("none.xml"), text, mark), 0);
     EXPECT_EQ(Kesh_GetLastError(), KESH_E_READ);
     EXPECT_NE(lastErrorText().find("none.xml"), std::string::npos);
 }

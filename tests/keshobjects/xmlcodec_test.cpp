@@ -17,11 +17,13 @@ std::string wide(std::string_view ascii, bool bigEndian) {
     return bytes;
 }
 
+KeshXmlMark markOfLast{};
+
 std::string decode(std::string_view bytes) {
     std::string text = "untouched";
     const auto exact = std::make_unique<char[]>(bytes.size());
     bytes.copy(exact.get(), bytes.size());
-    if (Kesh_DecodeXML({exact.get(), bytes.size()}, "u.xml", text) == 0) {
+    if (Kesh_DecodeXML({exact.get(), bytes.size()}, "u.xml", text, markOfLast) == 0) {
         EXPECT_EQ(text, "untouched");
         return "error " + std::to_string(Kesh_GetLastError());
     }
@@ -29,9 +31,9 @@ std::string decode(std::string_view bytes) {
     return text;
 }
 
-std::string encode(std::string_view text) {
+std::string encode(std::string_view text, KeshXmlMark mark = KESH_XML_AS_DECLARED) {
     std::string bytes;
-    return Kesh_EncodeXML(text, "u.xml", bytes) != 0
+    return Kesh_EncodeXML(text, mark, "u.xml", bytes) != 0
                ? bytes
                : "error " + std::to_string(Kesh_GetLastError());
 }
@@ -57,16 +59,35 @@ TEST(XmlCodec, DecodesAndEncodesBack) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
         EXPECT_EQ(decode(row.bytes), row.text);
-        EXPECT_EQ(encode(row.text), row.bytes);
+        EXPECT_EQ(encode(row.text, markOfLast), row.bytes);
+        EXPECT_EQ(encode(row.text), row.bytes) << "each of these can do without the mark";
         for (std::size_t size = 0; size < row.bytes.size(); ++size)
             static_cast<void>(decode(std::string_view(row.bytes).substr(0, size)));
     }
 }
 
-TEST(XmlCodec, AMarkTellsMoreThanTheDeclaration) {
-    EXPECT_EQ(decode("\xEF\xBB\xBF" + declare("windows-1252") + "ä"),
-              declare("windows-1252") + "ä");
-    EXPECT_EQ(decode("\xFF\xFE" + wide(declare("UTF-8"), false)), declare("UTF-8"));
+TEST(XmlCodec, AMarkTellsMoreThanTheDeclarationAndComesBack) {
+    const struct {
+        std::string mark;
+        std::string content;
+        std::string text;
+    } rows[] = {
+        {"\xEF\xBB\xBF", "<a/>", "<a/>"},
+        {"\xEF\xBB\xBF", "\xEF\xBB\xBF<a/>", "\xEF\xBB\xBF<a/>"}, // only the first is a mark
+        {"\xEF\xBB\xBF", declare("windows-1252") + "ä", declare("windows-1252") + "ä"},
+        {"\xEF\xBB\xBF", declare("KOI8-R"), declare("KOI8-R")}, // not known, and not needed
+        {"\xFF\xFE", wide(declare("UTF-8"), false), declare("UTF-8")},
+        {"\xFF\xFE", wide("<a/>", false), "<a/>"},
+        {"\xFE\xFF", wide("<a/>", true), "<a/>"},
+        {"\xFE\xFF", wide(declare("UTF-16"), true), declare("UTF-16")},
+        {"\xFE\xFF", wide(declare("utf-16le"), true), declare("utf-16le")},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(decode(row.mark + row.content), row.text);
+        EXPECT_EQ(encode(row.text, markOfLast), row.mark + row.content);
+    }
+    EXPECT_EQ(encode("<a/>", static_cast<KeshXmlMark>(4)),
+              "error " + std::to_string(KESH_E_ARGUMENT));
 }
 
 TEST(XmlCodec, DeclarationsInAnySpelling) {

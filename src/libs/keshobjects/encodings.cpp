@@ -169,14 +169,14 @@ bool appendWindows(char32_t character, std::string& bytes) {
 
 // --- Tables
 
-constexpr Encoding utf8Encoding{{}, true, takeUtf8, appendUtf8};
-constexpr Encoding utf16Little{"\xFF\xFE"sv, false, takeUtf16<std::endian::little>,
+constexpr Encoding utf8Encoding{KESH_XML_AS_DECLARED, true, takeUtf8, appendUtf8};
+constexpr Encoding utf16Little{KESH_XML_UTF16_LITTLE, false, takeUtf16<std::endian::little>,
                                appendUtf16<std::endian::little>};
-constexpr Encoding utf16Big{"\xFE\xFF"sv, false, takeUtf16<std::endian::big>,
+constexpr Encoding utf16Big{KESH_XML_UTF16_BIG, false, takeUtf16<std::endian::big>,
                             appendUtf16<std::endian::big>};
-constexpr Encoding windows1252{{}, true, takeWindows, appendWindows};
-constexpr Encoding latin1{{}, true, takeByte<0x100>, appendAsByte<0x100>};
-constexpr Encoding ascii{{}, true, takeByte<0x80>, appendAsByte<0x80>};
+constexpr Encoding windows1252{KESH_XML_AS_DECLARED, true, takeWindows, appendWindows};
+constexpr Encoding latin1{KESH_XML_AS_DECLARED, true, takeByte<0x100>, appendAsByte<0x100>};
+constexpr Encoding ascii{KESH_XML_AS_DECLARED, true, takeByte<0x80>, appendAsByte<0x80>};
 
 struct Name {
     std::string_view name;
@@ -190,6 +190,8 @@ constexpr Name names[] = {
 };
 
 constexpr Signature signatures[] = {
+    // by KeshXmlMark
+    {{}, nullptr},
     {"\xEF\xBB\xBF"sv, &utf8Encoding},
     {"\xFF\xFE"sv, &utf16Little},
     {"\xFE\xFF"sv, &utf16Big},
@@ -209,11 +211,17 @@ const Encoding* findEncoding(std::string_view name) noexcept {
     return found == std::end(names) ? nullptr : found->encoding;
 }
 
-Signature findSignature(std::string_view bytes) noexcept {
+const Signature* signatureOf(KeshXmlMark mark) noexcept {
+    const auto row = static_cast<std::size_t>(mark);
+    return row < std::size(signatures) ? &signatures[row] : nullptr;
+}
+
+KeshXmlMark findMark(std::string_view bytes) noexcept {
     const auto* const found =
-        std::find_if(std::begin(signatures), std::end(signatures),
-                     [bytes](const Signature& row) { return bytes.starts_with(row.mark); });
-    return found == std::end(signatures) ? Signature{{}, nullptr} : *found;
+        std::find_if(std::begin(signatures) + 1, std::end(signatures),
+                     [bytes](const Signature& row) { return bytes.starts_with(row.bytes); });
+    return found == std::end(signatures) ? KESH_XML_AS_DECLARED
+                                         : static_cast<KeshXmlMark>(found - signatures);
 }
 
 } // namespace keshobjects

@@ -37,6 +37,15 @@ inline constexpr std::int32_t KESH_TOKEN_END = -1;
 inline constexpr std::int32_t KESH_TOKEN_LIST_SEPARATOR = 2;
 inline constexpr std::int32_t KESH_TOKEN_VALUE = 13;
 
+/// What the first bytes of an XML file tell of its encoding, whatever the declaration says.
+/// Decoding gives it; encoding with it gives the file its form back.
+enum KeshXmlMark : std::int32_t {
+    KESH_XML_AS_DECLARED = 0, ///< no mark; UTF-16 is written with one
+    KESH_XML_UTF8 = 1,
+    KESH_XML_UTF16_LITTLE = 2,
+    KESH_XML_UTF16_BIG = 3,
+};
+
 // Value kinds (Kesh_TXTLoadValue)
 inline constexpr std::int32_t KESH_VALUE_AS_SHOWN = 0;
 inline constexpr std::int32_t KESH_VALUE_WHOLE = 1;
@@ -82,7 +91,9 @@ std::int32_t Kesh_TXTGetTokenPlace(std::int32_t Text, KeshPlace& Place);
 std::int32_t Kesh_TXTGetRawPlace(std::int32_t Text, KeshPlace& Place);
 /// The whole loaded text; valid until its handle is deleted.
 std::string_view Kesh_TXTGetText(std::int32_t Text);
-/// "line N of FILE" for a place, for messages. Neither of these two clears an earlier error.
+/// The file's name, and "line N of FILE" for a place, for messages. None of these three clears an
+/// earlier error.
+std::string Kesh_TXTGetName(std::int32_t Text);
 std::string Kesh_TXTDescribePlace(std::int32_t Text, KeshPlace Place);
 
 /// Writes to a file handle of the file driver: a text as it stands; a value's spelling and its ";".
@@ -90,15 +101,19 @@ std::int32_t Kesh_TXTWriteFile(std::int32_t File, std::string_view Text);
 std::int32_t Kesh_TXTWriteValue(std::int32_t File, const KeshValue& Value);
 
 /// The complete text of an XML file at a plain, catalog or "vfs://" path, as UTF-8. The declaration
-/// stays as it stands.
-std::int32_t Kesh_DecodeXMLFile(std::string_view Name, std::string& Text);
-/// Writes UTF-8 text in the encoding that its declaration names, in the form `FileType` (lornfd).
-/// Characters that the encoding lacks become character references.
-std::int32_t Kesh_EncodeXMLFile(std::string_view Name, std::string_view Text,
+/// stays as it stands; a byte order mark is not part of the text. Encoded again with its mark it
+/// gives the same bytes.
+std::int32_t Kesh_DecodeXMLFile(std::string_view Name, std::string& Text, KeshXmlMark& Mark);
+/// Writes UTF-8 text with the mark and in its encoding, or without one in the encoding that the
+/// declaration names, in the form `FileType` (lornfd). Characters that the encoding lacks become
+/// character references.
+std::int32_t Kesh_EncodeXMLFile(std::string_view Name, std::string_view Text, KeshXmlMark Mark,
                                 std::int32_t FileType);
 /// The two halves without a file: bytes to UTF-8 and back.
-std::int32_t Kesh_DecodeXML(std::string_view Bytes, std::string_view Name, std::string& Text);
-std::int32_t Kesh_EncodeXML(std::string_view Text, std::string_view Name, std::string& Bytes);
+std::int32_t Kesh_DecodeXML(std::string_view Bytes, std::string_view Name, std::string& Text,
+                            KeshXmlMark& Mark);
+std::int32_t Kesh_EncodeXML(std::string_view Text, KeshXmlMark Mark, std::string_view Name,
+                            std::string& Bytes);
 
 /// Splits a command line at blanks outside quotes. "" inside quotes gives a quote. Before a quote
 /// 2n backslashes give n and the quote counts, 2n + 1 give n and a quote character; elsewhere they

@@ -241,6 +241,11 @@ std::string_view Kesh_TXTGetText(std::int32_t Text) {
     return text == nullptr ? std::string_view() : text->text();
 }
 
+std::string Kesh_TXTGetName(std::int32_t Text) {
+    const Tokenizer* const text = findText(Text);
+    return text == nullptr ? std::string() : text->name();
+}
+
 std::string Kesh_TXTDescribePlace(std::int32_t Text, KeshPlace Place) {
     const Tokenizer* const text = findText(Text);
     return text == nullptr ? std::string() : text->describe(Place) + " of " + text->name();

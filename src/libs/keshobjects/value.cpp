@@ -66,7 +66,7 @@ KeshValue readValue(std::string_view text) {
 std::string spellNumber(double number) {
     const double size = std::fabs(number);
     const bool fixed = size == 0 || (size >= smallestFixed && size <= largestFixed);
-    std::array<char, 64> buffer;
+    std::array<char, 64> buffer{};
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                       fixed ? std::chars_format::fixed : std::chars_format::scientific);

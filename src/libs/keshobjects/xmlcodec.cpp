@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <new>
 
 namespace keshobjects {
 namespace {
@@ -39,13 +40,20 @@ std::string_view declaredEncoding(std::string_view text) {
     return rest.substr(0, rest.find(quote));
 }
 
-/// The named encoding, UTF-8 for no name, or null with the last error set.
-const Encoding* encodingNamed(std::string_view encoding, std::string_view file) {
-    if (encoding.empty())
-        return &utf8();
-    const Encoding* const found = findEncoding(encoding);
+/// The encoding of a mark, or else the one that the text declares, or else UTF-8; null with the
+/// last error set if that is not known.
+const Encoding* encodingOf(KeshXmlMark mark, std::string_view text, std::string_view file) {
+    const Signature* const signature = signatureOf(mark);
+    if (signature == nullptr) {
+        lastError().set(KESH_E_ARGUMENT, {{}, {}, "mark " + std::to_string(mark)});
+        return nullptr;
+    }
+    if (signature->encoding != nullptr)
+        return signature->encoding;
+    const std::string_view declared = declaredEncoding(text);
+    const Encoding* const found = declared.empty() ? &utf8() : findEncoding(declared);
     if (found == nullptr)
-        lastError().set(KESH_E_ENCODING, {std::string(file), {}, std::string(encoding)});
+        lastError().set(KESH_E_ENCODING, {std::string(file), {}, std::string(declared)});
     return found;
 }
 
@@ -56,7 +64,7 @@ std::string_view asciiStart(std::string_view bytes) {
 }
 
 void appendReference(char32_t character, std::string& bytes) {
-    std::array<char, 16> digits;
+    std::array<char, 16> digits{};
     const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(),
                                             static_cast<std::uint32_t>(character), 16);
     std::transform(digits.data(), end, digits.data(),
@@ -104,7 +112,7 @@ std::string hexByte(char byte) {
 std::string realName(std::string_view name) {
     if (!lornfd::equalNoCase(name.substr(0, viewPrefix.size()), viewPrefix))
         return std::string(name);
-    VFSFindData data;
+    VFSFindData data{};
     const std::int32_t find = KeshVFS_FindFirstFile(name.substr(viewPrefix.size()), data);
     if (find == 0) {
         lastError().set(KESH_E_NOT_FOUND, {std::string(name), {}, {}});
@@ -119,54 +127,76 @@ std::int32_t failByDriver(KeshObjectsError code) {
     return lastError().set(code, {{}, {}, driverReason()});
 }
 
+std::int32_t decode(std::string_view bytes, std::string_view file, std::string& decoded,
+                    KeshXmlMark& markFound) {
+    const KeshXmlMark mark = findMark(bytes);
+    const std::size_t markSize = signatureOf(mark)->bytes.size();
+    const std::string_view content = bytes.substr(markSize);
+    const Encoding* const encoding = encodingOf(mark, bytes, file);
+    if (encoding == nullptr)
+        return 0;
+    if (mark == KESH_XML_AS_DECLARED && !encoding->holdsAscii)
+        return failDecoding(file, {}, 0, "the byte order mark of UTF-16 is missing");
+    std::string text;
+    text.reserve(content.size());
+    const std::size_t bad = convert(content, *encoding, utf8(), text);
+    if (bad != content.npos) {
+        return failDecoding(file, text, markSize + bad,
+                            "the byte " + hexByte(content[bad]) + " does not fit the encoding");
+    }
+    if (const std::size_t nul = text.find('\0'); nul != text.npos) {
+        return lastError().set(KESH_E_NUL,
+                               {std::string(file), describeLine({text.data(), nul}), {}});
+    }
+    decoded = std::move(text);
+    markFound = mark;
+    return 1;
+}
+
+std::int32_t encode(std::string_view text, KeshXmlMark mark, std::string_view file,
+                    std::string& encoded) {
+    const Encoding* const encoding = encodingOf(mark, text, file);
+    if (encoding == nullptr)
+        return 0;
+    std::string bytes(signatureOf(mark == KESH_XML_AS_DECLARED ? encoding->mark : mark)->bytes);
+    bytes.reserve(bytes.size() + text.size());
+    const std::size_t bad = convert(text, utf8(), *encoding, bytes);
+    if (bad != text.npos) {
+        return failDecoding(file, text.substr(0, bad), bad,
+                            "the byte " + hexByte(text[bad]) + " is not UTF-8");
+    }
+    encoded = std::move(bytes);
+    return 1;
+}
+
+/// Runs what needs as much memory as a file has.
+template <typename Work>
+std::int32_t withMemory(KeshObjectsError code, std::string_view file, Work work) {
+    lastError().clear();
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        return lastError().set(code,
+                               {{}, {}, "Not enough memory for \"" + std::string(file) + "\"."});
+    }
+}
+
 } // namespace
 } // namespace keshobjects
 
 using namespace keshobjects;
 
-std::int32_t Kesh_DecodeXML(std::string_view Bytes, std::string_view Name, std::string& Text) {
-    lastError().clear();
-    const Signature signature = findSignature(Bytes);
-    const std::string_view content = Bytes.substr(signature.mark.size());
-    const Encoding* encoding = signature.encoding;
-    if (encoding == nullptr)
-        encoding = encodingNamed(declaredEncoding(Bytes), Name);
-    if (encoding == nullptr)
-        return 0;
-    if (!encoding->holdsAscii && signature.encoding == nullptr)
-        return failDecoding(Name, {}, 0, "the byte order mark of UTF-16 is missing");
-    std::string text;
-    text.reserve(content.size());
-    const std::size_t bad = convert(content, *encoding, utf8(), text);
-    if (bad != content.npos) {
-        return failDecoding(Name, text, signature.mark.size() + bad,
-                            "the byte " + hexByte(content[bad]) + " does not fit the encoding");
-    }
-    if (const std::size_t nul = text.find('\0'); nul != text.npos) {
-        return lastError().set(KESH_E_NUL,
-                               {std::string(Name), describeLine({text.data(), nul}), {}});
-    }
-    Text = std::move(text);
-    return 1;
+std::int32_t Kesh_DecodeXML(std::string_view Bytes, std::string_view Name, std::string& Text,
+                            KeshXmlMark& Mark) {
+    return withMemory(KESH_E_READ, Name, [&] { return decode(Bytes, Name, Text, Mark); });
 }
 
-std::int32_t Kesh_EncodeXML(std::string_view Text, std::string_view Name, std::string& Bytes) {
-    lastError().clear();
-    const Encoding* const encoding = encodingNamed(declaredEncoding(Text), Name);
-    if (encoding == nullptr)
-        return 0;
-    std::string bytes(encoding->mark);
-    bytes.reserve(bytes.size() + Text.size());
-    const std::size_t bad = convert(Text, utf8(), *encoding, bytes);
-    if (bad != Text.npos) {
-        return failDecoding(Name, Text.substr(0, bad), bad,
-                            "the byte " + hexByte(Text[bad]) + " is not UTF-8");
-    }
-    Bytes = std::move(bytes);
-    return 1;
+std::int32_t Kesh_EncodeXML(std::string_view Text, KeshXmlMark Mark, std::string_view Name,
+                            std::string& Bytes) {
+    return withMemory(KESH_E_WRITE, Name, [&] { return encode(Text, Mark, Name, Bytes); });
 }
 
-std::int32_t Kesh_DecodeXMLFile(std::string_view Name, std::string& Text) {
+std::int32_t Kesh_DecodeXMLFile(std::string_view Name, std::string& Text, KeshXmlMark& Mark) {
     lastError().clear();
     const std::string path = realName(Name);
     if (path.empty() && lastError().code() != KESH_OK)
@@ -178,15 +208,15 @@ std::int32_t Kesh_DecodeXMLFile(std::string_view Name, std::string& Text) {
     const std::string_view bytes = LornFD_ViewFile(file);
     const std::int32_t done = bytes.data() == nullptr
                                   ? failByDriver(KESH_E_READ)
-                                  : Kesh_DecodeXML(bytes, LornFD_FileName(file), Text);
+                                  : Kesh_DecodeXML(bytes, LornFD_FileName(file), Text, Mark);
     LornFD_CloseFile(file);
     return done;
 }
 
-std::int32_t Kesh_EncodeXMLFile(std::string_view Name, std::string_view Text,
+std::int32_t Kesh_EncodeXMLFile(std::string_view Name, std::string_view Text, KeshXmlMark Mark,
                                 std::int32_t FileType) {
     std::string bytes;
-    if (Kesh_EncodeXML(Text, Name, bytes) == 0)
+    if (Kesh_EncodeXML(Text, Mark, Name, bytes) == 0)
         return 0;
     const std::int32_t file = LornFD_OpenFile(Name, LORNFD_WRITE, LORNFD_CREATE, FileType);
     if (file == 0)

@@ -137,7 +137,7 @@ std::string wareListFile(Game& game) {
         std::ranges::copy(wareIds(game.scale, letter), std::back_inserter(ids));
     std::string text = "// What a new ship carries\r\n" + spell(wareListCount(game)) + ";\r\n";
     for (int list = 0; list < wareListCount(game); ++list) {
-        const int count = list % 12 == 5 ? 0 : random.between(3, 9);
+        const int count = list % 12 == 5 ? 1 : random.between(3, 9);
         text += spell(count) + ";";
         for (int i = 0; i < count; ++i)
             text += random.pick(ids) + (i == 3 ? " ;" : ";");

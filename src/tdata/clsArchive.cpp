@@ -28,14 +28,14 @@ bool clsArchive::IsFileLoaded(std::string_view Name) const {
 std::shared_ptr<clsTxtParser> clsArchive::GetFile(std::string_view Name) {
     if (const auto found = m_files.find(KeyOf(Name)); found != m_files.end())
         return found->second;
-    auto parser = LoadParser(JoinPath({"types", std::string(Name)}), true);
+    auto parser = LoadParser(JoinPath({"types", std::string(Name)}));
     if (!parser || !parser->Parsed())
         return {};
     m_files.emplace(KeyOf(parser->FileName), parser);
     return parser;
 }
 
-std::shared_ptr<clsTxtParser> clsArchive::LoadParser(const std::string& Path, bool ReportFailure) {
+std::shared_ptr<clsTxtParser> clsArchive::LoadParser(const std::string& Path) {
     const std::int32_t type = ObjectTypeFromFile(Path);
     Kesh_TXTIgnoreRemarks(type == otype::Jobs ? 1 : 0);
     if (const std::int32_t text = LoadText(Path); text != 0) {
@@ -45,10 +45,8 @@ std::shared_ptr<clsTxtParser> clsArchive::LoadParser(const std::string& Path, bo
         parser->FileName = Path;
         return parser;
     }
-    if (ReportFailure) {
-        m_loadError = true;
-        AppendLine(m_notLoaded, Path + ": " + m_lastError, "\r\n");
-    }
+    m_loadError = true;
+    AppendLine(m_notLoaded, Path + ": " + m_lastError, "\r\n");
     m_lastError = "Error loading " + Path + ":\r\n\r\n" + m_lastError;
     return {};
 }

@@ -27,7 +27,7 @@ public:
     void Clear();
 
 private:
-    std::shared_ptr<clsTxtParser> LoadParser(const std::string& Path, bool ReportFailure);
+    std::shared_ptr<clsTxtParser> LoadParser(const std::string& Path);
     std::int32_t LoadText(const std::string& Path);
 
     std::map<std::string, std::shared_ptr<clsTxtParser>> m_files; ///< by base name in lower case

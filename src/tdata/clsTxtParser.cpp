@@ -8,7 +8,7 @@
 #include "tdata/mdlTxtLoaders.h"
 
 #include <algorithm>
-#include <limits>
+#include <new>
 
 namespace {
 
@@ -58,6 +58,7 @@ void clsTxtParser::Reset() {
     m_byId.clear();
     m_text.reset();
     m_lastError.clear();
+    m_leftOut.clear();
     m_version = 0;
     m_nextID = 0;
     m_dirty = false;
@@ -92,6 +93,7 @@ bool clsTxtParser::LoadFromHandle(std::int32_t Text, std::int32_t Type) {
     m_version = result.version;
     m_nextID = result.lastID;
     m_lastError = std::move(result.error);
+    m_leftOut = std::move(result.leftOut);
     m_parsed = result.ok;
     return m_parsed;
 }
@@ -100,8 +102,7 @@ bool clsTxtParser::LoadFromHandle(std::int32_t Text, std::int32_t Type) {
 
 bool clsTxtParser::Save(std::int32_t FileHandle) {
     m_lastError.clear();
-    bool saved = CheckWritable() &&
-                 (m_otype == otype::Jobs ? SaveJobs(FileHandle) : SaveRecords(FileHandle));
+    bool saved = SaveAs(FileHandle);
     if (LornFD_SetEndOfFile(FileHandle) == 0 && saved)
         saved = SetError(LornFDErrorText());
     if (saved) {
@@ -112,15 +113,28 @@ bool clsTxtParser::Save(std::int32_t FileHandle) {
     return saved;
 }
 
+bool clsTxtParser::SaveAs(std::int32_t FileHandle) {
+    try {
+        return CheckWritable() &&
+               (m_otype == otype::Jobs ? SaveJobs(FileHandle) : SaveRecords(FileHandle));
+    } catch (const std::bad_alloc&) {
+        return SetError("Not enough memory to save \"" + LornFD_FileName(FileHandle) + "\".");
+    }
+}
+
 // What a window or tool set without looking must not make the file unreadable.
 bool clsTxtParser::CheckWritable() {
-    for (const auto& record : m_byIndex)
+    for (const auto& record : m_byIndex) {
+        if (record->size() == 0)
+            return SetError("Record " + std::to_string(record->Index) + " (key " + record->key() +
+                            ") has no values, so it cannot be written.");
         if (const auto index = record->Values().FirstUnwritable(m_otype == otype::Jobs))
             return SetError(
                 "Value " + std::to_string(*index) + " of " + std::string(record->ObjectName()) +
                 " (object " + std::to_string(record->Index) +
                 ") holds signs that cannot be written: " +
                 std::string(record->ValueText(static_cast<std::int32_t>(*index)).substr(0, 40)));
+    }
     return true;
 }
 
@@ -131,11 +145,8 @@ bool clsTxtParser::SaveRecords(std::int32_t FileHandle) {
     for (const auto& record : m_byIndex) {
         if (const auto written = record->Values().Written())
             out << *written << LineEnd;
-        else if (record->size() > 0)
-            (WriteValues(out, *record, record->size()), out << LineEnd);
         else
-            return SetError("Record " + std::to_string(record->Index) +
-                            " has no values, so it cannot be written.");
+            (WriteValues(out, *record, record->size()), out << LineEnd);
     }
     if (!out.Flush())
         return SetError(KeshObjectsErrorText());

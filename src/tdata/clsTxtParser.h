@@ -26,6 +26,9 @@ public:
     [[nodiscard]] bool Load(std::int32_t FileHandle, std::int32_t Type);
     /// As Load, from a text handle, which it takes over.
     [[nodiscard]] bool LoadFromHandle(std::int32_t Text, std::int32_t Type);
+    /// What stands behind the records that the file counts, in a sentence with its place, since
+    /// saving drops it; empty if there is nothing.
+    [[nodiscard]] const std::string& LeftOut() const noexcept { return m_leftOut; }
     /// Writes all records to an open file handle and fixes its length; the caller closes or
     /// abandons. On success everything is clean.
     [[nodiscard]] bool Save(std::int32_t FileHandle);
@@ -67,6 +70,7 @@ private:
     [[nodiscard]] bool Holds(const RecordPtr& Record) const;
     [[nodiscard]] std::size_t PositionBehind(const RecordPtr& Record) const;
     bool CheckWritable();
+    bool SaveAs(std::int32_t FileHandle);
     bool SaveRecords(std::int32_t FileHandle);
     bool SaveJobs(std::int32_t FileHandle);
 
@@ -75,6 +79,7 @@ private:
     mutable std::vector<clsTXTObject*> m_byName;                    ///< empty until asked for
     mutable std::unordered_map<std::int32_t, clsTXTObject*> m_byId; ///< the same
     std::string m_lastError;
+    std::string m_leftOut;
     std::int32_t m_version = 0;
     std::int32_t m_otype = 0;
     std::int32_t m_nextID = 0;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <new>
 
 namespace tdata {
 namespace {
@@ -57,6 +58,8 @@ private:
     void AddRecord(ValueForm form);
     [[nodiscard]] clsValueArray ValuesRead(ValueForm form) const;
     bool Fail(std::string text);
+    [[nodiscard]] std::string Reason(const std::exception& failure) const;
+    void NoteWhatFollows();
 
     std::shared_ptr<clsLoadedText> m_text;
     std::int32_t m_handle;
@@ -84,9 +87,10 @@ LoadResult Loader::Run() {
         m_result.ok =
             std::invoke(found == std::end(own) ? &Loader::LoadRecords : found->second, *this);
     } catch (const std::exception& failure) {
-        Fail((found == std::end(own) ? "Error loading T file:\r\n" : "") +
-             std::string(failure.what()));
+        Fail((found == std::end(own) ? "Error loading T file:\r\n" : "") + Reason(failure));
     }
+    if (m_result.error.empty())
+        NoteWhatFollows();
     m_result.lastID = m_nextID;
     return std::move(m_result);
 }
@@ -95,6 +99,24 @@ bool Loader::Fail(std::string text) {
     m_result.ok = false;
     m_result.error = std::move(text);
     return false;
+}
+
+std::string Loader::Reason(const std::exception& failure) const {
+    if (dynamic_cast<const std::bad_alloc*>(&failure) != nullptr)
+        return "Not enough memory for \"" + Kesh_TXTGetName(m_handle) + "\".";
+    return failure.what();
+}
+
+// Nobody may save the file without a chance to learn that this gets lost.
+void Loader::NoteWhatFollows() {
+    if (IsEOF())
+        return;
+    KeshPlace place = 0;
+    m_result.leftOut = Kesh_TXTGetTokenPlace(m_handle, place) == 0
+                           ? KeshObjectsErrorText()
+                           : "The count of records (" + std::to_string(m_result.records.size()) +
+                                 ") ends before " + Kesh_TXTDescribePlace(m_handle, place) +
+                                 "; the rest is not read, and saving drops it.";
 }
 
 // --- The common layout
@@ -159,7 +181,7 @@ bool Loader::ReadShip() {
         AddRecord(ValueForm::AsShown);
         return true;
     } catch (const std::exception& failure) {
-        return Fail("Error loading ship:\r\n" + std::string(failure.what()));
+        return Fail("Error loading ship:\r\n" + Reason(failure));
     }
 }
 

@@ -12,7 +12,8 @@ struct LoadResult {
     std::int32_t version = 0;
     std::int32_t lastID = 0;
     bool ok = false;
-    std::string error; ///< empty together with !ok for a file of 0 records
+    std::string error;   ///< empty together with !ok for a file of 0 records
+    std::string leftOut; ///< as clsTxtParser::LeftOut
 };
 
 /// Reads all records of `text` as files of an object type have them. Never throws.

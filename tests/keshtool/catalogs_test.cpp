@@ -63,6 +63,14 @@ TEST_F(Keshtool, PackRefusesWhatACatalogCannotHold) {
     const Result backslash = run("pack in my.cat");
     EXPECT_EQ(backslash.code, 3);
     EXPECT_NE(backslash.err.find("b\\c.txt"), std::string::npos) << backslash.err;
+    fs::remove(root + "in/b\\c.txt");
+    for (const char* target : {".", "nowhere"}) {
+        fs::create_symlink(target, root + "in/link");
+        const Result link = run("pack in my.cat");
+        EXPECT_EQ(link.code, 3) << "left out without a word: " << target;
+        EXPECT_NE(link.err.find("in/link"), std::string::npos) << link.err;
+        fs::remove(root + "in/link");
+    }
     EXPECT_FALSE(fs::exists(root + "my.cat"));
 }
 

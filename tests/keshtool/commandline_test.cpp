@@ -4,11 +4,26 @@ namespace {
 
 TEST_F(Keshtool, WrongUsageEndsWithTwo) {
     write("a.txt", "a");
-    for (const char* line :
-         {"", "nonsense", "dump", "dump a.txt b.txt", "convert a.txt", "cat", "cat a.txt --json",
-          "ls a b", "pack a.txt", "unpack a.txt", "put a.txt", "put a.txt b.txt --type brotli",
-          "put a.txt b.txt --type", "rm", "rm a.txt", "verify", "cat --data", "cat a.txt --mod",
-          "--wrong cat a.txt"}) {
+    for (const char* line : {"",
+                             "nonsense",
+                             "dump",
+                             "dump a.txt b.txt",
+                             "convert a.txt",
+                             "cat",
+                             "cat a.txt --json",
+                             "ls a b",
+                             "pack a.txt",
+                             "unpack a.txt",
+                             "put a.txt",
+                             "put a.txt b.txt --type brotli",
+                             "put a.txt b.txt --type",
+                             "put a.txt b.txt --type 2",
+                             "rm",
+                             "rm a.txt",
+                             "verify",
+                             "cat --data",
+                             "cat a.txt --mod",
+                             "--wrong cat a.txt"}) {
         const Result result = run(line);
         EXPECT_EQ(result.code, 2) << line << result.err;
         EXPECT_EQ(result.out, "") << line;

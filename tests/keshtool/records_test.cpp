@@ -8,7 +8,7 @@ TEST_F(Keshtool, DumpsALineForEachRecord) {
     EXPECT_EQ(output("dump TWareT.txt"),
               "0\tSS_WARE_A\t007;0;+5;1e3;0.50;-0;0.5;-12;12;0;text;1.25;\"q\";;"
               "100000000000000000000;9;SS_WARE_A;\n"
-              "1\tSS_WARE_B\t0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;caf\xE9;SS_WARE_B;\n");
+              "1\tSS_WARE_B\t0;0;0;0;0;0;0;0;0;0;0;0;0;0.00005;0.0001;caf\xE9;SS_WARE_B;\n");
 }
 
 TEST_F(Keshtool, JsonNumbersStandOnlyWhereTheyKeepTheSpelling) {
@@ -17,7 +17,7 @@ TEST_F(Keshtool, JsonNumbersStandOnlyWhereTheyKeepTheSpelling) {
               R"({"type":6,"version":31,"records":[{"index":0,"id":"SS_WARE_A","values":)"
               R"(["007",0,"+5","1e3","0.50","-0",0.5,-12,12,0,"text",1.25,"\"q\"","",)"
               R"("100000000000000000000",9,"SS_WARE_A"]},{"index":1,"id":"SS_WARE_B","values":)"
-              "[0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,\"caf\u00e9\",\"SS_WARE_B\"]}]}\n");
+              "[0,0,0,0,0,0,0,0,0,0,0,0,0,\"0.00005\",0.0001,\"caf\u00e9\",\"SS_WARE_B\"]}]}\n");
 }
 
 TEST_F(Keshtool, AFileWithoutRecordsIsDumpedButNotSaved) {
@@ -27,6 +27,9 @@ TEST_F(Keshtool, AFileWithoutRecordsIsDumpedButNotSaved) {
     write("TWareB.txt", "old");
     EXPECT_EQ(run("convert TWareT.txt TWareB.txt").code, 3);
     EXPECT_EQ(read("TWareB.txt"), "old");
+    write("Jobs.txt", "8;"); // these have no count to be 0
+    succeed("convert Jobs.txt out.txt");
+    EXPECT_EQ(read("out.txt"), "8;\r\n");
 }
 
 TEST_F(Keshtool, ConvertKeepsEverySpellingInEveryForm) {

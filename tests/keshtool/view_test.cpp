@@ -31,6 +31,7 @@ TEST_F(KeshtoolView, LsWithoutMaskGivesEveryFile) {
     EXPECT_EQ(output("ls --mod mods/my.cat"), "types\\a.txt\tmods/my.cat::types\\a.txt\n");
     EXPECT_EQ(output("ls"), "") << "no data root: the working directory is not looked at";
     const std::string all = output("ls --data game");
+    EXPECT_EQ(output("ls --data game vfs://"), all);
     for (const char* name : {"types\\a.txt\t", "types\\b.txt\t", "t\\0001-L044.xml\t", "01.cat\t"})
         EXPECT_NE(all.find(name), std::string::npos) << all;
 }

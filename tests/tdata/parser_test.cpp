@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <random>
+#include <tuple>
 
 using support::joined;
 using support::load;
@@ -216,18 +217,6 @@ TEST(WareLists, CountFromZeroAndHoldTexts) {
     EXPECT_EQ(parser.CreateObject({})->key(), "k4");
 }
 
-TEST(WareLists, AnEmptyListCannotBeWritten) {
-    clsTxtParser parser;
-    ASSERT_TRUE(load(parser, "2;1;SS_A;0;", otype::WareLists));
-    const support::ScratchDir dir;
-    const std::int32_t file =
-        LornFD_OpenFileConvert(dir / "x.txt", LORNFD_WRITE, LORNFD_OPEN_EXISTING, LORNFD_PLAIN);
-    EXPECT_FALSE(parser.Save(file));
-    EXPECT_NE(parser.GetLastError(), "");
-    EXPECT_NE(LornFD_AbandonFile(file), 0);
-    EXPECT_FALSE(std::filesystem::exists(dir / "x.txt"));
-}
-
 TEST(IconData, RootCollectsTheSectionHeaders) {
     clsTxtParser parser;
     ASSERT_TRUE(load(parser, "ship.tga;12;256;07;2; A;0;1;2;3;4; 5;0;5;6;7;008; ware.tga;t;1;2;0;",
@@ -291,15 +280,30 @@ TEST(Save, RefusesWhatWouldNotReadBack) {
     }
 }
 
-TEST(Save, AnEmptyContainerFails) {
-    clsTxtParser parser;
-    ASSERT_TRUE(load(parser, wares({"A"}), otype::Ware));
-    ASSERT_TRUE(parser.RemoveObject(parser.FindIndex(0)));
-    const support::ScratchDir dir;
-    const std::int32_t file =
-        LornFD_OpenFileConvert(dir / "x.txt", LORNFD_WRITE, LORNFD_OPEN_EXISTING, LORNFD_PLAIN);
-    EXPECT_FALSE(parser.Save(file));
-    EXPECT_NE(LornFD_AbandonFile(file), 0);
+TEST(Save, RefusesNothingAndRecordsOfNothing) {
+    const std::string job = "8;\r\n" + repeat("1;", 116) + "job\r\n";
+    for (const auto& [type, text, remove, error] :
+         {std::tuple{otype::Ware, wares({"A"}), true, ""},
+          std::tuple{otype::Ware, wares({"A"}), false, "Record 1 (key k2) has no values"},
+          std::tuple{otype::WareLists, std::string("2;1;A;0;"), false, "Record 1 (key k1)"},
+          std::tuple{otype::Jobs, job, false, "Record 1 (key k2)"}}) {
+        clsTxtParser parser;
+        ASSERT_TRUE(load(parser, text, type));
+        if (remove) {
+            ASSERT_TRUE(parser.RemoveObject(parser.FindIndex(0)));
+        } else {
+            static_cast<void>(parser.CreateObject({}));
+        }
+        const support::ScratchDir dir;
+        const std::int32_t file =
+            LornFD_OpenFileConvert(dir / "x.txt", LORNFD_WRITE, LORNFD_OPEN_EXISTING, LORNFD_PLAIN);
+        EXPECT_FALSE(parser.Save(file));
+        EXPECT_EQ(parser.GetLastError().substr(0, std::string_view(error).size()), error);
+        EXPECT_EQ(parser.GetLastError().empty(), std::string_view(error).empty());
+        EXPECT_TRUE(parser.CheckDirty());
+        EXPECT_NE(LornFD_AbandonFile(file), 0);
+        EXPECT_FALSE(std::filesystem::exists(dir / "x.txt"));
+    }
 }
 
 TEST(Load, EveryPrefixOfAFileEndsInAnAnswer) {
@@ -323,8 +327,33 @@ TEST(Load, CountsInTheFileDecideWhatIsRead) {
     clsTxtParser parser;
     ASSERT_TRUE(load(parser, wares({"A"}) + wares({"B"}), otype::Ware));
     EXPECT_EQ(parser.ByIndex().size(), 1U);
+    EXPECT_EQ(parser.GetLastError(), "");
     EXPECT_FALSE(load(parser, "14;3;" + wares({"A", "B"}).substr(5), otype::Ware));
     EXPECT_EQ(parser.ByIndex().size(), 2U) << "what was read before the error stays";
+}
+
+TEST(Load, SaysWhereTheCountLeavesSomethingOut) {
+    const std::string none = "14;0;";
+    const std::string one = wares({"A"});
+    for (const auto& [type, text, place] :
+         {std::tuple{otype::Ware, one, ""}, std::tuple{otype::Ware, one + " // only this\n", ""},
+          std::tuple{otype::Ware, one + "\n 5;", "(1) ends before line 3 of test.txt"},
+          std::tuple{otype::Ware, one + ",", "line 2 of test.txt"},
+          std::tuple{otype::Ware, one + "/* never", "The remark that begins in line 2"},
+          std::tuple{otype::Ware, none + "7;", "(0) ends before line 1"},
+          std::tuple{otype::Ware, std::string("14;2;0;"), ""}, // an error of its own
+          std::tuple{otype::Ships, "49;1;" + ship(1, {1}, "S") + "\n\n0;", "line 3 of test.txt"},
+          std::tuple{otype::WareLists, std::string("1;1;A;\n1;B;"), "line 2 of test.txt"},
+          std::tuple{otype::JobWings, std::string("1;2;"), ""},
+          std::tuple{otype::Jobs, std::string("8;\r\n"), ""}}) {
+        clsTxtParser parser;
+        static_cast<void>(load(parser, text, type));
+        const bool found = parser.LeftOut().find(place) != std::string::npos;
+        EXPECT_TRUE(found && parser.LeftOut().empty() == std::string_view(place).empty())
+            << text << ": " << parser.LeftOut();
+        ASSERT_TRUE(load(parser, one, otype::Ware));
+        EXPECT_EQ(parser.LeftOut(), "") << "of the file before";
+    }
 }
 
 TEST(Container, ByNameIsSortedOnceAndKeepsArrivalOrder) {

@@ -42,7 +42,12 @@ std::map<std::string, fs::path> filesBelow(const fs::path& directory,
     std::map<std::string, fs::path> files;
     std::map<std::string, std::string> byFolded;
     for (const auto& file : fs::recursive_directory_iterator(directory)) {
-        if (!file.is_regular_file() || leftOut.contains(fs::weakly_canonical(file.path())))
+        if (file.is_directory() && !file.is_symlink())
+            continue;
+        if (!file.is_regular_file())
+            throw Failure("\"" + file.path().string() +
+                          "\" is a link to a directory or no file, so it cannot be packed.");
+        if (leftOut.contains(fs::weakly_canonical(file.path())))
             continue;
         const std::string relative = file.path().lexically_relative(directory).generic_string();
         if (relative.find('\\') != std::string::npos)
@@ -101,6 +106,8 @@ void copyFile(const std::string& from, const std::string& to, std::int32_t fileT
 ExitCode pack(GameView& view, const Arguments& arguments) {
     const fs::path directory = lornfd::resolvePath(view.realPath(arguments.paths[0]));
     const std::string catalog = view.realPath(arguments.paths[1]);
+    if (!fs::is_directory(directory))
+        throw Failure("\"" + directory.string() + "\" is no directory.");
     const auto files = filesBelow(directory, filesOf(catalog));
     const auto update = lornfd::CatalogUpdate::begin(catalog, true);
     if (!update)

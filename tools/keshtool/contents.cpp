@@ -65,12 +65,12 @@ ExitCode cat(GameView& view, const Arguments& arguments) {
 
 ExitCode ls(GameView& view, const Arguments& arguments) {
     const ExitCode code = view.build() ? Findings : Done;
-    if (arguments.paths.empty()) {
+    const std::string path = arguments.paths.empty() ? "" : FromPlatform(arguments.paths[0]);
+    const std::string mask = IsVFSPath(path) ? StripVFS(path) : path;
+    if (mask.empty()) {
         listAll();
         return code;
     }
-    const std::string path = FromPlatform(arguments.paths[0]);
-    const std::string mask = IsVFSPath(path) ? StripVFS(path) : path;
     bool any = false;
     for (const auto& directory : directoriesOf(mask))
         for (const auto& found : search(directory, mask.substr(mask.rfind('\\') + 1))) {

@@ -31,6 +31,12 @@ bool isUtf8(std::string_view bytes) {
     return true;
 }
 
+/// Readers make 0 of "-0", and write small reals with an exponent.
+bool isKeptByReaders(const std::string& number) {
+    return number != "-0" && (number.find('.') == std::string::npos ||
+                              nlohmann::json::parse(number).dump() == number);
+}
+
 } // namespace
 
 std::string jsonText(std::string_view bytes) {
@@ -41,8 +47,7 @@ std::string jsonValue(const clsTXTObject& record, std::int32_t index) {
     std::string spelling(record.ValueText(index));
     const KeshValue value = record.Value(index);
     const bool isNumber = !std::holds_alternative<std::string>(value);
-    // "-0" is a JSON number, but readers make 0 of it.
-    if (isNumber && spelling != "-0" && keshobjects::spellValue(value) == spelling)
+    if (isNumber && keshobjects::spellValue(value) == spelling && isKeptByReaders(spelling))
         return spelling;
     return jsonText(spelling);
 }

@@ -10,6 +10,7 @@
 
 #include <cstdio>
 #include <map>
+#include <new>
 
 namespace {
 
@@ -78,15 +79,29 @@ void addCommand(CLI::App& app, const Row& row, Arguments& arguments) {
     addPaths(*command, row, arguments);
     if (row.options & Json)
         command->add_flag("--json", arguments.json, "As JSON");
-    if (row.options & Type)
+    if (row.options & Type) {
+        static const std::map<std::string, std::int32_t> forms{
+            {"plain", LORNFD_PLAIN}, {"gzip", LORNFD_GZIP}, {"zstd", LORNFD_ZSTD}};
+        const auto take = [&](const std::string& form) { arguments.fileType = forms.at(form); };
         command
-            ->add_option("--type", arguments.fileType,
-                         "The form that is stored: plain, gzip or zstd")
-            ->transform(CLI::CheckedTransformer(std::map<std::string, std::int32_t>{
-                {"plain", LORNFD_PLAIN}, {"gzip", LORNFD_GZIP}, {"zstd", LORNFD_ZSTD}}))
+            ->add_option_function<std::string>("--type", take,
+                                               "The form that is stored: plain, gzip or zstd")
+            ->check(CLI::IsMember(&forms))
             ->option_text("plain|gzip|zstd");
+    }
     if (row.options & Create)
         command->add_flag("--create", arguments.create, "Make the catalog if there is none");
+}
+
+ExitCode execute(const Row& row, GameView& view, const Arguments& arguments) {
+    try {
+        return row.command(view, arguments);
+    } catch (const std::bad_alloc&) {
+        std::string text = "Not enough memory for";
+        for (const std::string& path : arguments.paths)
+            text += ' ' + path;
+        throw Failure(text + '.');
+    }
 }
 
 ExitCode run(int argc, char** argv) {
@@ -113,7 +128,7 @@ ExitCode run(int argc, char** argv) {
     InitArrays();
     for (const Row& row : Commands)
         if (app.got_subcommand(row.name))
-            return row.command(view, arguments);
+            return execute(row, view, arguments);
     return WrongUsage;
 }
 

@@ -53,11 +53,15 @@ ExitCode convert(GameView& view, const Arguments& arguments) {
     const std::string to = view.realPath(arguments.paths[1]);
     clsTxtParser parser;
     loadTFile(parser, from);
-    if (parser.ByIndex().empty())
-        throw tFileFailure(from, "There is no record in it, so nothing was saved.");
     OutputFile out(to, arguments.fileType.value_or(fileTypeOf(to)));
-    if (!parser.Save(out.handle()))
+    if (!parser.Save(out.handle())) {
+        if (parser.GetLastError().empty())
+            throw tFileFailure(from, "There is no record in it, so nothing was saved.");
         throw tFileFailure(to, parser.GetLastError());
+    }
     out.commit();
-    return Done;
+    if (parser.LeftOut().empty())
+        return Done;
+    complain(parser.LeftOut());
+    return Findings;
 }

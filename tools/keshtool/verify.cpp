@@ -13,14 +13,23 @@ bool isCatalog(const std::string& path) {
     return !IsCatalogPath(path) && lornfd::foldCase(path).ends_with(".cat");
 }
 
-/// Reads a file whole; a T file is loaded as well. Throws Failure for what is wrong with it.
-void readWhole(const std::string& path) {
+/// Reads a file whole; a T file is loaded as well. Gives a finding, or nothing; throws Failure for
+/// what cannot be read.
+std::string readWhole(const std::string& path) {
     if (isTFile(path)) {
         clsTxtParser parser;
         loadTFile(parser, path);
-    } else {
-        InputFile(path).read([](std::string_view) {});
+        return parser.LeftOut();
     }
+    InputFile(path).read([](std::string_view) {});
+    return {};
+}
+
+ExitCode report(const std::string& path, std::string_view finding) {
+    if (finding.empty())
+        return Done;
+    print(ShownPath(path) + '\t' + oneLine(finding) + '\n');
+    return Findings;
 }
 
 ExitCode verifyCatalog(const std::string& catalog) {
@@ -30,21 +39,19 @@ ExitCode verifyCatalog(const std::string& catalog) {
     ExitCode code = Done;
     for (std::size_t i = 0; i < index->size(); ++i) {
         const std::string path = catalog + "::" + std::string(index->entry(i).name);
+        std::string finding;
         try {
-            readWhole(path);
+            finding = readWhole(path);
         } catch (const Failure& failure) {
-            print(ShownPath(path) + '\t' + oneLine(failure.what()) + '\n');
-            code = Findings;
+            finding = failure.what();
         }
+        code = std::max(code, report(path, finding));
     }
     return code;
 }
 
 ExitCode verifyPath(const std::string& path) {
-    if (isCatalog(path))
-        return verifyCatalog(path);
-    readWhole(path);
-    return Done;
+    return isCatalog(path) ? verifyCatalog(path) : report(path, readWhole(path));
 }
 
 } // namespace

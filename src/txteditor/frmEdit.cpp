@@ -3,7 +3,7 @@
 #include "core/mdlComFunctions.h"
 #include "keshobjects/value.h"
 #include "lornfd/paths.h"
-#include "ui/UserInterface.h"
+#include "ui/CommonBoxes.h"
 
 #include <algorithm>
 
@@ -28,6 +28,7 @@ frmEdit::frmEdit(QWidget* Owner) : QDialog(Owner) {
     setWindowTitle(tr("Value Edit"));
     setWindowModality(Qt::WindowModal);
     BuildControls();
+    HelpOnF1(this, "valueedit.html");
 }
 
 void frmEdit::BuildControls() {

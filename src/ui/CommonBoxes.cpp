@@ -54,8 +54,17 @@ void ShowHelp(QWidget* Owner, std::string_view Topic) {
         QFileInfo(nativePath(Settings->HelpPath())).dir().filePath(QStringLiteral("help")));
     const std::string name = Topic.empty() ? "index.html" : std::string(Topic);
     const QString page = pages.filePath(QString::fromStdString(name));
-    if (QFileInfo::exists(page) && Ui().OpenUrl(QUrl::fromLocalFile(page)))
+    const bool installed = QFileInfo::exists(page);
+    if (installed && Ui().OpenUrl(QUrl::fromLocalFile(page)))
         return;
-    ShowBox(Owner, QString::fromStdString(ProgramTitle()),
-            tr("Help is not installed: ") + QDir::toNativeSeparators(page), BoxIcon::Exclamation);
+    const QString what =
+        installed ? tr("No browser was found to show the help:\n") : tr("Help is not installed:\n");
+    ShowBox(Owner, QString::fromStdString(ProgramTitle()), what + QDir::toNativeSeparators(page),
+            BoxIcon::Exclamation);
+}
+
+void HelpOnF1(QWidget* Window, const char* Topic) {
+    auto* key = new QShortcut(QKeySequence::HelpContents, Window);
+    QObject::connect(key, &QShortcut::activated, Window,
+                     [Window, Topic] { ShowHelp(Window, Topic); });
 }

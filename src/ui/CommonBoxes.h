@@ -15,5 +15,7 @@ void ValueError(QWidget* Owner, const QString& Title, std::string_view Name, int
 /// Starts the game; says what is missing where no path is set.
 bool RunGame(QWidget* Owner);
 /// Opens the help pages beside the program, at a topic ("ships.html") if one is given, in the
-/// browser.
+/// browser; says why where that fails.
 void ShowHelp(QWidget* Owner, std::string_view Topic);
+/// The key for help shows this topic while the window is active.
+void HelpOnF1(QWidget* Window, const char* Topic);

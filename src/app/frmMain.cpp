@@ -43,6 +43,7 @@ frmMain::frmMain() {
     setObjectName(QStringLiteral("frmMain"));
     BuildView();
     BuildMenus();
+    HelpOnF1(this, "launcher.html");
     LoadWindowPos(*this, settingsKey, defaultWidth, defaultHeight);
     m_items.LoadIcons();
 }
@@ -74,7 +75,7 @@ void frmMain::BuildMenus() {
         {"mnuSettings", "", "mnuSep", "", "", nullptr},
         {"mnuSettings", "", "mnuShowVFS", QT_TR_NOOP("Show &loaded files"), "", nullptr},
         {"mnuSettings", "", "mnuReload", QT_TR_NOOP("&Reload files"), "F5", &frmMain::Reload},
-        {"mnuHelp", QT_TR_NOOP("&Help"), "mnuHelpContent", QT_TR_NOOP("&Content"), "F1",
+        {"mnuHelp", QT_TR_NOOP("&Help"), "mnuHelpContent", QT_TR_NOOP("&Content"), "",
          &frmMain::Help},
         {"mnuHelp", "", "mnuAbout", QT_TR_NOOP("&About"), "", &frmMain::About},
     };
@@ -112,8 +113,10 @@ void frmMain::MyShow(const std::string& CommandLine) {
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_view && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            ActivateIcon(m_view->currentIndex());
+        const QModelIndex item = m_view->currentIndex();
+        const bool renaming = m_view->isPersistentEditorOpen(item); // passes its Enter on
+        if (!renaming && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+            ActivateIcon(item);
             return true;
         }
     }
@@ -192,6 +195,7 @@ void frmMain::OpenTFile(const std::string& File) {
     m_editors.removeAll(nullptr);
     m_editors.append(editor);
     editor->MyShow();
+    editor->setWindowState(Qt::WindowNoState);
     if (!File.empty())
         editor->OpenFile(FromPlatform(File));
 }
@@ -225,11 +229,18 @@ void frmMain::About() {
 }
 
 bool frmMain::CloseEditors() {
-    const auto open = m_editors;
-    for (const QPointer<frmTXTEditor>& editor : open)
-        if (editor && !editor->close())
+    const auto isOpen = [](const QPointer<frmTXTEditor>& editor) {
+        return editor && editor->isVisible();
+    };
+    // Found anew each time: a request may open one more while another asks.
+    while (true) {
+        const auto at = std::find_if(m_editors.cbegin(), m_editors.cend(), isOpen);
+        if (at == m_editors.cend())
+            return true;
+        frmTXTEditor* const editor = *at;
+        if (!editor->close())
             return false;
-    return true;
+    }
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
@@ -237,7 +248,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    if (windowState() == Qt::WindowNoState)
+    if (IsNormal(*this))
         SaveWindowPos(*this, settingsKey);
     m_items.SaveIcons();
     event->accept();

@@ -41,7 +41,7 @@ frmTXTEditor::frmTXTEditor(const Panels& Editors, QWidget* Owner)
       m_data(new RecordDataModel(this)),
       m_watch(new WatchModel(this)) {
     setObjectName(QStringLiteral("frmTXTEditor"));
-    m_recent = Settings->LoadRecentTFiles();
+    LoadRecent();
     BuildControls();
     BuildActions();
     BuildMenus();
@@ -236,7 +236,8 @@ void frmTXTEditor::LoadSettings() {
 }
 
 void frmTXTEditor::SaveSettings() {
-    SaveWindowPos(*this, settingsKey);
+    if (IsNormal(*this)) // the next one opens in normal state
+        SaveWindowPos(*this, settingsKey);
     Settings->SaveRegValue(settingsKey, "Sort", m_sort->isChecked() ? 1 : 0);
     Settings->SaveRegValue(settingsKey, "NameIdx", static_cast<std::int32_t>(PickedMode()));
 }
@@ -265,7 +266,8 @@ bool frmTXTEditor::eventFilter(QObject* watched, QEvent* event) {
     const QList<QUrl> urls = drop->mimeData()->urls();
     if (urls.isEmpty() || !urls.constFirst().isLocalFile())
         return false;
-    drop->acceptProposedAction();
+    drop->setDropAction(Qt::CopyAction); // after a move its giver might delete the file
+    drop->accept();
     if (event->type() == QEvent::Drop)
         OpenDropped(urls.constFirst().toLocalFile());
     return true;

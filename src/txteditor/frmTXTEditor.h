@@ -94,6 +94,7 @@ private:
     [[nodiscard]] std::string SaveStart() const;
     [[nodiscard]] bool MayReplace(const std::string& Name);
     [[nodiscard]] bool MakeCatalog(const std::string& Name);
+    void LoadRecent();
     void AddRecent(const std::string& Name);
     void RemoveRecent(const std::string& Name);
     void UpdateRecentActions();
@@ -110,6 +111,7 @@ private:
     [[nodiscard]] NameMode Mode() const;       ///< without a panel there are only IDs
     [[nodiscard]] QString RowText(const RecordPtr& Record) const;
     void UpdateNameColumn();
+    [[nodiscard]] std::vector<RecordPtr> ListedRecords();
     void FillList();
     void SelectRecord(const RecordPtr& Record);
     void ShowObject(const RecordPtr& Record);

@@ -190,6 +190,16 @@ bool frmTXTEditor::MakeCatalog(const std::string& Name) {
     return false;
 }
 
+void frmTXTEditor::LoadRecent() {
+    const auto same = [](const std::string& name) {
+        return [&name](const std::string& other) { return lornfd::equalNoCase(name, other); };
+    };
+    m_recent.clear();
+    for (const std::string& name : Settings->LoadRecentTFiles()) // the tail of a longer list stays
+        if (std::none_of(m_recent.begin(), m_recent.end(), same(name)))
+            m_recent.push_back(name);
+}
+
 void frmTXTEditor::AddRecent(const std::string& Name) {
     RemoveRecent(Name);
     m_recent.insert(m_recent.begin(), Name);
@@ -198,7 +208,7 @@ void frmTXTEditor::AddRecent(const std::string& Name) {
 }
 
 void frmTXTEditor::RemoveRecent(const std::string& Name) {
-    m_recent = Settings->LoadRecentTFiles(); // other windows add to the same list
+    LoadRecent(); // other windows add to the same list
     std::erase_if(m_recent,
                   [&](const std::string& other) { return lornfd::equalNoCase(other, Name); });
     Settings->SaveRecentTFiles(m_recent);

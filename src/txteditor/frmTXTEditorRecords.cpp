@@ -7,10 +7,12 @@
 #include "txteditor/frmEdit.h"
 #include "txteditor/frmTXTEditor.h"
 #include "ui/frmText.h"
+#include "ui/frmWait.h"
 
 namespace {
 
-constexpr int classWidth = 133; ///< pixels
+constexpr int classWidth = 133;           ///< pixels
+constexpr std::size_t longSort = 100'000; ///< records from which the wait window shows
 constexpr int rawTab = 0;
 constexpr int panelTab = 1;
 
@@ -141,22 +143,25 @@ QString frmTXTEditor::RowText(const RecordPtr& Record) const {
 void frmTXTEditor::UpdateNameColumn() {
     const std::array headers = {tr("Name"), tr("Race"), tr("ID")};
     m_list->SetNameColumn([this](const RecordPtr& record) { return RowText(record); },
-                          headers[static_cast<std::size_t>(Mode())]);
+                          HasFile() ? headers[static_cast<std::size_t>(Mode())] : tr("Name/ID"));
     UpdateObjectViews();
 }
 
-void frmTXTEditor::FillList() {
+std::vector<RecordPtr> frmTXTEditor::ListedRecords() {
     const clsTxtParser& parser = m_file.Parser;
+    if (!m_sort->isChecked())
+        return parser.ByIndex();
+    const Busy busy(tr("Sorting the records"), this, parser.ByIndex().size() > longSort);
     std::vector<RecordPtr> records;
-    if (m_sort->isChecked()) {
-        records.reserve(parser.ByName().size());
-        for (const clsTXTObject* record : parser.ByName())
-            records.push_back(parser.Find(record->ID));
-    } else {
-        records = parser.ByIndex();
-    }
+    records.reserve(parser.ByName().size());
+    for (const clsTXTObject* record : parser.ByName())
+        records.push_back(parser.Find(record->ID));
+    return records;
+}
+
+void frmTXTEditor::FillList() {
     const RecordPtr selected = m_selected;
-    m_list->SetRecords(std::move(records));
+    m_list->SetRecords(ListedRecords());
     m_barCount->setText(tr("%1 objects").arg(m_list->rowCount()));
     SelectRecord(selected);
 }

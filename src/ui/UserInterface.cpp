@@ -1,6 +1,7 @@
 #include "ui/UserInterface.h"
 
 #include "ui/FileFilter.h"
+#include "ui/frmWait.h"
 
 namespace {
 
@@ -57,6 +58,8 @@ Answer AnswerOf(int button, BoxButtons buttons) {
 class QtInterface final : public UserInterface {
 public:
     Answer ShowMessage(QWidget* Owner, const MessageRequest& Request) override {
+        if (Owner && Owner->isVisible())
+            AwaitExposed(*Owner->window()); // only then is its place known, and the box over it
         QMessageBox box(QtIcon(Request.Icon), Request.Title, Request.Text,
                         QtButtons(Request.Buttons), Owner);
         box.setObjectName(QStringLiteral("MessageBox"));
@@ -92,6 +95,9 @@ public:
         dialog.setLabelText(QCoreApplication::translate("UserInterface", "File name"));
         dialog.setOption(QInputDialog::UseListViewForComboBoxItems);
         dialog.setComboBoxItems(Items);
+        dialog.setTextValue(Items.value(0));
+        if (const auto* list = dialog.findChild<QListView*>())
+            QObject::connect(list, &QListView::doubleClicked, &dialog, &QDialog::accept);
         if (dialog.exec() != QDialog::Accepted)
             return {};
         return dialog.textValue();

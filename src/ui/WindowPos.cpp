@@ -9,6 +9,7 @@ namespace {
 
 constexpr int stateNormal = 0;
 constexpr int stateMaximised = 2;
+constexpr int widestFrame = 200; ///< of a window's border, in pixels
 constexpr int unknown = std::numeric_limits<int>::min();
 
 /// Keeps a window that was left on a screen which is gone within reach.
@@ -25,6 +26,10 @@ QRect onScreen(QRect wanted) {
 
 } // namespace
 
+bool IsNormal(const QWidget& Window) {
+    return !Window.isMinimized() && !Window.isMaximized() && !Window.isFullScreen();
+}
+
 void SaveWindowPos(const QWidget& Window, std::string_view Key) {
     const QRect outer = Window.frameGeometry();
     const std::pair<const char*, int> values[] = {
@@ -33,6 +38,8 @@ void SaveWindowPos(const QWidget& Window, std::string_view Key) {
         {"top", outer.top()},
         {"width", outer.width()},
         {"height", outer.height()},
+        {"frameWidth", outer.width() - Window.width()},
+        {"frameHeight", outer.height() - Window.height()},
     };
     std::vector<SettingsStore::Entry> entries;
     for (const auto& [name, value] : values)
@@ -58,7 +65,8 @@ void LoadWindowPos(QWidget& Window, std::string_view Key, int DefaultWidth, int 
     }
     const QPoint corner(std::max(0, left), std::max(0, read("top", 0)));
     const QRect outer = onScreen(QRect(corner, size));
-    const QSize frame = Window.frameGeometry().size() - Window.geometry().size();
+    const QSize frame(std::clamp(read("frameWidth", 0), 0, widestFrame),
+                      std::clamp(read("frameHeight", 0), 0, widestFrame));
     Window.resize(outer.size() - frame);
     Window.move(outer.topLeft());
 }

@@ -5,7 +5,10 @@
 
 #include <string_view>
 
-/// Stores state (0 normal, 2 maximised; minimised counts as normal) and outer rectangle.
+/// Neither minimised nor maximised.
+[[nodiscard]] bool IsNormal(const QWidget& Window);
+/// Stores state (0 normal, 2 maximised; minimised counts as normal), outer rectangle, and what
+/// of it is frame: a window that is not shown yet does not know its own.
 void SaveWindowPos(const QWidget& Window, std::string_view Key);
 /// Brings the stored state back, and in normal state the rectangle. The defaults are inner sizes in
 /// pixels.

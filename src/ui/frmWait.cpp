@@ -4,6 +4,8 @@ namespace {
 
 std::unique_ptr<frmWait> waitWindow;
 
+constexpr int exposeTime = 500; ///< milliseconds at most
+
 /// Paints; keys, clicks and requests from outside wait until the work is done.
 void pumpEvents() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
@@ -50,7 +52,17 @@ void frmWait::SetWaitHint(const QString& Text) {
     resize(isVisible() ? sizeHint().expandedTo(size()) : sizeHint());
 }
 
+void AwaitExposed(const QWidget& Window) {
+    const QDeadlineTimer deadline(exposeTime);
+    while (Window.windowHandle() && !Window.windowHandle()->isExposed() && !deadline.hasExpired()) {
+        pumpEvents();
+        QThread::msleep(1);
+    }
+}
+
 void ShowWait(const QString& Text, QWidget* Owner) {
+    if (Owner && Owner->isVisible())
+        AwaitExposed(*Owner);
     waitWindow = std::make_unique<frmWait>(Owner);
     waitWindow->SetWaitHint(Text);
     if (!Owner)
@@ -58,6 +70,7 @@ void ShowWait(const QString& Text, QWidget* Owner) {
     waitWindow->show();
     if (Owner)
         Owner->setCursor(Qt::WaitCursor);
+    AwaitExposed(*waitWindow);
     pumpEvents();
 }
 

@@ -17,6 +17,10 @@ private:
     QLabel* m_status;
 };
 
+/// Returns when a window that was shown stands on the screen, or after a moment. Keys, clicks and
+/// requests from outside wait.
+void AwaitExposed(const QWidget& Window);
+
 /// Shows the wait window, gives the owner the busy pointer, and lets the window paint.
 void ShowWait(const QString& Text, QWidget* Owner = nullptr);
 /// Another text in the window; nothing without one.

@@ -1,5 +1,7 @@
 // The launcher: what its icons, menus and requests do.
 #include "app/apptest.h"
+#include "txteditor/frmEdit.h"
+#include "ui/CommonBoxes.h"
 
 namespace {
 
@@ -31,8 +33,6 @@ TEST_F(Launcher, ShowsItsIconsAndVersion) {
     EXPECT_EQ(editors()[0]->windowTitle(), QStringLiteral("TXT Editor"));
     activate(launcher, "te");
     EXPECT_EQ(editors().size(), 2);
-    script.Box(QStringLiteral("Help is not installed"));
-    activate(launcher, "help");
     QTimer::singleShot(0, qApp, [] {
         auto* about = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         ASSERT_TRUE(about);
@@ -118,7 +118,9 @@ TEST_F(Launcher, StaysWithWhatIsLeftIfAnEditorDoes) {
     EXPECT_FALSE(launcher.close());
     EXPECT_TRUE(launcher.isVisible());
     ASSERT_GE(editors().size(), 1);
-    script.Box(QStringLiteral("You have changed data in file"), Answer::No);
+    script.Box(QStringLiteral("You have changed data in file"), Answer::No, [&] {
+        launcher.ProcessRequest("keshe://" + program("TWareT.txt")); // one more, meanwhile
+    });
     EXPECT_TRUE(launcher.close());
     EXPECT_TRUE(editors().isEmpty());
 }
@@ -135,6 +137,77 @@ TEST_F(Launcher, KeepsCaptionsButNoEmptyOne) {
     frmMain launcher;
     EXPECT_EQ(view(launcher)->model()->index(0, 0).data(), QVariant(QStringLiteral("Objects")));
     EXPECT_EQ(view(launcher)->model()->index(1, 0).data(), QVariant(QStringLiteral("Settings")));
+}
+
+TEST_F(Launcher, EnterEndsARenameAndStartsNothing) {
+    frmMain launcher;
+    launcher.MyShow({});
+    QAbstractItemView* icons = view(launcher);
+    icons->setFocus();
+    QTest::keyClick(icons, Qt::Key_F2);
+    auto* caption = icons->findChild<QLineEdit*>();
+    ASSERT_TRUE(caption);
+    caption->setText(QStringLiteral("Objects"));
+    QTest::keyClick(caption, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return icons->currentIndex().data().toString() == QStringLiteral("Objects"); }));
+    EXPECT_TRUE(editors().isEmpty());
+}
+
+TEST_F(Launcher, OpensEditorsInNormalState) {
+    Settings->SaveRegValue("TE", "state", 2);
+    frmMain launcher;
+    launcher.MyShow({});
+    activate(launcher, "te");
+    ASSERT_EQ(editors().size(), 1);
+    EXPECT_EQ(editors()[0]->windowState(), Qt::WindowNoState);
+    editors()[0]->setGeometry(30, 40, 700, 500);
+    editors()[0]->close();
+    activate(launcher, "te");
+    EXPECT_EQ(editors()[0]->geometry(), QRect(30, 40, 700, 500));
+    editors()[0]->showMaximized();
+    editors()[0]->close(); // leaves the place of the normal state
+    activate(launcher, "te");
+    EXPECT_EQ(editors()[0]->geometry(), QRect(30, 40, 700, 500));
+}
+
+TEST_F(Launcher, HelpShowsThePageOfTheWindow) {
+    const auto page = [&] { return script.Started.value(script.Started.size() - 1); };
+    const auto pressF1 = [](QWidget* window) {
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        QTest::keyClick(window, Qt::Key_F1);
+    };
+    frmMain launcher;
+    launcher.MyShow({});
+    activate(launcher, "help");
+    EXPECT_TRUE(page().endsWith(QStringLiteral("/help/index.html"))) << page().toStdString();
+    pressF1(&launcher);
+    EXPECT_TRUE(page().endsWith(QStringLiteral("/help/launcher.html"))) << page().toStdString();
+    activate(launcher, "te");
+    pressF1(editors()[0]);
+    EXPECT_TRUE(page().endsWith(QStringLiteral("/help/txteditor.html"))) << page().toStdString();
+    frmEdit value;
+    value.show();
+    pressF1(&value);
+    EXPECT_TRUE(page().endsWith(QStringLiteral("/help/valueedit.html"))) << page().toStdString();
+    script.Box(QStringLiteral("Help is not installed"));
+    ShowHelp(&launcher, "nothing.html");
+}
+
+TEST(Help, EveryLinkLeadsToAPage) {
+    const QDir pages(QCoreApplication::applicationDirPath() + QStringLiteral("/help"));
+    const QRegularExpression link(QStringLiteral("href=\"([^\"]+)\""));
+    QSet<QString> linked{QStringLiteral("index.html")};
+    const QStringList names = pages.entryList({QStringLiteral("*.html")});
+    for (const QString& name : names) {
+        QFile page(pages.filePath(name));
+        ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(page.readAll());
+        for (auto it = link.globalMatch(text); it.hasNext();)
+            linked.insert(it.next().captured(1));
+    }
+    EXPECT_EQ(linked, QSet<QString>(names.begin(), names.end()));
 }
 
 TEST_F(Launcher, ReloadsTheFilesOnDemand) {

@@ -148,6 +148,17 @@ TEST_F(Opening, ListsRecentFilesNewestFirst) {
     EXPECT_EQ(actions[3]->objectName().toStdString(), program("TWareE.txt"));
     actions[3]->trigger();
     EXPECT_TRUE(QTest::qWaitFor([&] { return caption() == caption("TWareE.txt"); }));
+
+    script.Box(QStringLiteral("Error opening file: "));
+    window->OpenFile(program("gone.txt"));
+    Settings->SaveRecentTFiles({program("A.txt"), program("B.txt"), program("b.TXT")});
+    window->OpenFile(program("TWareT.txt"));
+    QStringList names;
+    for (const QAction* action : child<QMenu>("mnuOpen")->actions().mid(2))
+        names.append(action->objectName().section(u'\\', -1));
+    EXPECT_EQ(names, QStringList({QStringLiteral("TWareT.txt"), QStringLiteral("A.txt"),
+                                  QStringLiteral("B.txt")}))
+        << "what a shorter list left behind comes once";
 }
 
 TEST_F(Opening, TakesADroppedFile) {
@@ -159,8 +170,11 @@ TEST_F(Opening, TakesADroppedFile) {
     QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(target, &enter);
     EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QDropEvent drop({5, 5}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                    Qt::ShiftModifier);
+    drop.setDropAction(Qt::MoveAction); // whose giver would delete the file
     QApplication::sendEvent(target, &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
     EXPECT_EQ(caption(), caption("TWareT.txt"));
 }
 

@@ -28,6 +28,9 @@ TEST(Value, SpellingTellsIntegerRealOrText) {
         {"5.", 5.0},
         {"-.5", -0.5},
         {"+.5", 0.5},
+        {"10203040", 10203040},
+        {"99999999", 99999999},
+        {"123456789", 123456789},
         {"1e3", 1000.0},
         {"1E-3", 0.001},
         {"1.5e+2", 150.0},
@@ -63,7 +66,8 @@ TEST(Value, SpellingTellsIntegerRealOrText) {
         EXPECT_EQ(readValue(row.spelling), row.meaning) << '"' << row.spelling << '"';
         // At its place in a text a value reads as it does alone, whatever follows it.
         const bool blankAtEdge = row.spelling != trimEnd(row.spelling) || row.spelling == " 1";
-        for (const std::string_view behind : {";", "", " \r\n;", ";7;", "\t"}) {
+        for (const std::string_view behind :
+             {";", "", " \r\n;", ";7;", "\t", ";12345678;", "\r\n;12345678;"}) {
             if (blankAtEdge)
                 continue;
             const std::string text = "x;" + std::string(row.spelling) + std::string(behind);

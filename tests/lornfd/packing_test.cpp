@@ -18,6 +18,13 @@ const std::string sampleText = [] {
     return text;
 }();
 
+/// What comes out in memory of the size that the bytes claim, as a reader does it that wants all.
+std::optional<std::string> unpackedAsClaimed(std::string_view stored) {
+    const auto size = claimedSize(stored);
+    std::string room(static_cast<std::size_t>(size.value_or(0)), '\0');
+    return size && unpackTo(room.data(), room.size(), stored) ? std::optional(room) : std::nullopt;
+}
+
 class Packing : public testing::TestWithParam<std::int32_t> {
 protected:
     static std::string packed(std::string_view content) {
@@ -35,6 +42,7 @@ TEST_P(Packing, ComesBackAsItWas) {
         const auto unpacked = unpack(stored, "sample");
         ASSERT_TRUE(unpacked) << scratch::errorText();
         EXPECT_TRUE(unpacked->view() == content) << content.size();
+        EXPECT_TRUE(unpackedAsClaimed(stored) == content) << content.size();
     }
 }
 
@@ -44,6 +52,7 @@ TEST_P(Packing, EveryCutIsRefused) {
         ASSERT_FALSE(unpack(std::string_view(stored).substr(0, length), "cut.pck")) << length;
         ASSERT_NE(scratch::errorText().find("cut.pck"), std::string::npos);
         ASSERT_EQ(LornFD_GetLastError(), LORNFD_E_PACKED);
+        ASSERT_FALSE(unpackedAsClaimed(std::string_view(stored).substr(0, length))) << length;
     }
 }
 
@@ -57,6 +66,7 @@ TEST_P(Packing, EveryDamagedByteIsRefusedOrHarmless) {
         const auto unpacked = unpack(damaged, "sample");
         // Some bits of a header say nothing about the content.
         ASSERT_TRUE(!unpacked || unpacked->view() == sampleText) << i;
+        ASSERT_EQ(unpackedAsClaimed(damaged).has_value(), unpacked.has_value()) << i;
     }
 }
 
@@ -64,6 +74,7 @@ TEST_P(Packing, NothingMayFollow) {
     const std::string stored = packed(sampleText);
     for (const std::string& tail : {std::string(1, '\0'), std::string("garbage"), stored}) {
         EXPECT_FALSE(unpack(stored + tail, "sample"));
+        EXPECT_FALSE(unpackedAsClaimed(stored + tail));
         EXPECT_EQ(LornFD_GetLastError(), LORNFD_E_PACKED);
         EXPECT_NE(scratch::errorText().find("offset " + std::to_string(stored.size())),
                   std::string::npos)
@@ -84,6 +95,7 @@ TEST(PackingBombs, SizeIsBelievedOnlyAsFarAsBytesAllow) {
     std::string gzip(pack("short", LORNFD_GZIP, "")->view());
     gzip.replace(gzip.size() - 4, 4, "\xff\xff\xff\xff"); // claims 4 GB
     EXPECT_FALSE(unpack(gzip, "bomb.pck"));
+    EXPECT_FALSE(claimedSize(gzip));
     EXPECT_EQ(LornFD_GetLastError(), LORNFD_E_PACKED);
 
     // Signature, a single segment with 8 bytes of content size (10 GB), then blocks of one repeated
@@ -93,6 +105,7 @@ TEST(PackingBombs, SizeIsBelievedOnlyAsFarAsBytesAllow) {
         zstd += std::string("\x02\x00\x10\x61", 4);
     ASSERT_LT(zstd.size(), 1100U);
     EXPECT_FALSE(unpack(zstd, "bomb.pck"));
+    EXPECT_FALSE(claimedSize(zstd));
     EXPECT_EQ(LornFD_GetLastError(), LORNFD_E_TOO_BIG);
     EXPECT_NE(scratch::errorText().find("bomb.pck"), std::string::npos);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "keshobjects/keshobjects.h"
+#include "keshobjects/numbers.h"
 
 #include <optional>
 #include <string_view>
@@ -22,15 +23,12 @@ std::string_view rawAt(std::string_view text, KeshPlace place) noexcept;
 std::optional<double> anyNumberAt(std::string_view text, KeshPlace place) noexcept;
 /// The same, quick for the short whole numbers that most values are.
 inline std::optional<double> numberAt(std::string_view text, KeshPlace place) noexcept {
-    constexpr std::ptrdiff_t mostDigits = 15; // exact in a double
-    const char* const first = text.data() + place;
-    const char* const last = text.data() + text.size();
-    const char* at = first;
-    std::int64_t number = 0;
-    while (at != last && *at >= '0' && *at <= '9' && at - first < mostDigits)
-        number = number * 10 + (*at++ - '0');
-    if (at != first && at != last && *at == ';')
-        return static_cast<double>(number);
+    constexpr std::size_t window = 9; // bytes, with the one behind the digits
+    if (text.size() - place >= window) {
+        const auto [number, count] = parseShortDigits(text.data() + place);
+        if (count > 0 && text[place + static_cast<std::size_t>(count)] == ';')
+            return number;
+    }
     return anyNumberAt(text, place);
 }
 std::optional<std::int32_t> integerAt(std::string_view text, KeshPlace place) noexcept;

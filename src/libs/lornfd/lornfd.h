@@ -63,7 +63,8 @@ std::int32_t LornFD_AbandonFile(std::int32_t File);
 std::int64_t LornFD_ReadFile(std::int32_t File, void* Buffer, std::int64_t Count);
 /// Appends at the write position. Gives 1 if all was taken.
 std::int32_t LornFD_WriteFile(std::int32_t File, const void* Buffer, std::int64_t Count);
-/// Size of the unpacked data in bytes, -1 on failure.
+/// Size of the unpacked data in bytes, -1 on failure. Packed data is believed until it is read, if
+/// its length makes the size possible.
 std::int64_t LornFD_FileSize(std::int32_t File);
 /// The whole unpacked content without a copy of a plain file (mapped); valid until the handle
 /// closes. A null data pointer on failure; an empty file gives a non-null one of size 0.

@@ -29,7 +29,7 @@ struct PackedForm {
     std::size_t extra;
     /// The size that the data claims, or nothing.
     std::optional<unsigned long long> (*claimedSize)(std::string_view packed);
-    Decoded (*decode)(std::string_view packed, Buffer& room);
+    Decoded (*decode)(std::string_view packed, char* room, std::size_t roomSize);
     std::size_t (*encodedBound)(std::size_t size);
     /// The packed size, 0 if there is no memory.
     std::size_t (*encode)(std::string_view content, Buffer& room);
@@ -50,14 +50,13 @@ std::optional<unsigned long long> gzipClaim(std::string_view packed) {
     return size;
 }
 
-Decoded decodeGzip(std::string_view packed, Buffer& room) {
+Decoded decodeGzip(std::string_view packed, char* room, std::size_t roomSize) {
     thread_local const std::unique_ptr<libdeflate_decompressor,
                                        decltype(&libdeflate_free_decompressor)>
         decompressor(libdeflate_alloc_decompressor(), &libdeflate_free_decompressor);
     Decoded decoded = {Decoded::State::Done};
-    switch (libdeflate_gzip_decompress_ex(decompressor.get(), packed.data(), packed.size(),
-                                          room.data(), room.size(), &decoded.consumed,
-                                          &decoded.produced)) {
+    switch (libdeflate_gzip_decompress_ex(decompressor.get(), packed.data(), packed.size(), room,
+                                          roomSize, &decoded.consumed, &decoded.produced)) {
     case LIBDEFLATE_SUCCESS:
         return decoded;
     case LIBDEFLATE_INSUFFICIENT_SPACE:
@@ -90,14 +89,14 @@ std::optional<unsigned long long> zstdClaim(std::string_view packed) {
     return size;
 }
 
-Decoded decodeZstd(std::string_view packed, Buffer& room) {
+Decoded decodeZstd(std::string_view packed, char* room, std::size_t roomSize) {
     thread_local const std::unique_ptr<ZSTD_DCtx, decltype(&ZSTD_freeDCtx)> context(
         ZSTD_createDCtx(), &ZSTD_freeDCtx);
     const std::size_t frame = ZSTD_findFrameCompressedSize(packed.data(), packed.size());
     const std::size_t produced =
         ZSTD_isError(frame)
             ? frame
-            : ZSTD_decompressDCtx(context.get(), room.data(), room.size(), packed.data(), frame);
+            : ZSTD_decompressDCtx(context.get(), room, roomSize, packed.data(), frame);
     if (!ZSTD_isError(produced))
         return {.state = Decoded::State::Done, .consumed = frame, .produced = produced};
     if (ZSTD_getErrorCode(produced) == ZSTD_error_dstSize_tooSmall)
@@ -126,6 +125,13 @@ constexpr PackedForm forms[] = {
      decodeZstd, ZSTD_compressBound, encodeZstd},
 };
 
+/// Null for a plain file.
+const PackedForm* formOf(std::string_view stored) noexcept {
+    const auto fits = [&](const PackedForm& form) { return stored.starts_with(form.signature); };
+    const PackedForm* const form = std::ranges::find_if(forms, fits);
+    return form != std::end(forms) ? form : nullptr;
+}
+
 std::nullopt_t tooBig(std::string_view name, const std::string& reason, std::size_t bytes) {
     fail(LORNFD_E_TOO_BIG, {.file = std::string(name),
                             .place = {},
@@ -150,10 +156,14 @@ Buffer shortened(Buffer buffer, std::size_t size) {
     return buffer.resize(size) ? std::move(buffer) : Buffer::copyOf(buffer.view().substr(0, size));
 }
 
+/// What data claims is believed only as far as its length makes it possible.
+std::size_t mostOf(const PackedForm& form, std::string_view packed, std::size_t limit) {
+    return std::min(limit, packed.size() * form.ratio + form.extra);
+}
+
 std::optional<Buffer> unpackForm(const PackedForm& form, std::string_view packed,
                                  std::string_view name, std::size_t limit) {
-    // What the data claims is believed only as far as its length makes it possible.
-    const std::size_t most = std::min(limit, packed.size() * form.ratio + form.extra);
+    const std::size_t most = mostOf(form, packed, limit);
     const auto claim = form.claimedSize(packed);
     if (claim && *claim > limit)
         return tooBig(name, "it unpacks to more than", limit);
@@ -163,7 +173,7 @@ std::optional<Buffer> unpackForm(const PackedForm& form, std::string_view packed
         Buffer unpacked(room);
         if (!unpacked.data())
             return tooBig(name, "there is no memory for", room);
-        const Decoded decoded = form.decode(packed, unpacked);
+        const Decoded decoded = form.decode(packed, unpacked.data(), room);
         if (decoded.state == Decoded::State::Broken)
             return broken(name, 0, decoded.reason);
         if (decoded.state == Decoded::State::Done) {
@@ -182,15 +192,28 @@ std::optional<Buffer> unpackForm(const PackedForm& form, std::string_view packed
 } // namespace
 
 std::int32_t packedForm(std::string_view stored) noexcept {
-    const auto fits = [&](const PackedForm& form) { return stored.starts_with(form.signature); };
-    const auto form = std::ranges::find_if(forms, fits);
-    return form != std::end(forms) ? form->form : LORNFD_PLAIN;
+    const PackedForm* const form = formOf(stored);
+    return form ? form->form : LORNFD_PLAIN;
+}
+
+std::optional<std::int64_t> claimedSize(std::string_view stored) noexcept {
+    const PackedForm* const form = formOf(stored);
+    const auto claim = form ? form->claimedSize(stored) : std::nullopt;
+    return claim && *claim <= mostOf(*form, stored, static_cast<std::size_t>(LORNFD_MAX_UNPACKED))
+               ? std::optional(static_cast<std::int64_t>(*claim))
+               : std::nullopt;
+}
+
+bool unpackTo(char* room, std::size_t size, std::string_view stored) noexcept {
+    const Decoded decoded = formOf(stored)->decode(stored, room, size);
+    return decoded.state == Decoded::State::Done && decoded.produced == size &&
+           decoded.consumed == stored.size();
 }
 
 std::optional<Buffer> unpack(std::string_view stored, std::string_view nameForMessages,
                              std::int64_t limit) {
-    const auto form = std::ranges::find(forms, packedForm(stored), &PackedForm::form);
-    if (form == std::end(forms))
+    const PackedForm* const form = formOf(stored);
+    if (!form)
         return copy(stored, nameForMessages);
     return unpackForm(*form, stored, nameForMessages, static_cast<std::size_t>(limit));
 }

@@ -19,6 +19,13 @@ std::int32_t packedForm(std::string_view stored) noexcept;
 std::optional<Buffer> unpack(std::string_view stored, std::string_view nameForMessages,
                              std::int64_t limit = LORNFD_MAX_UNPACKED);
 
+/// The unpacked size that packed bytes claim; nothing if they claim none, or more than their number
+/// can hold or LORNFD_MAX_UNPACKED allows.
+std::optional<std::int64_t> claimedSize(std::string_view stored) noexcept;
+/// Unpacks into `room`, which has the claimed size. False if that is not exactly what comes out;
+/// `unpack` tells why.
+bool unpackTo(char* room, std::size_t size, std::string_view stored) noexcept;
+
 /// The bytes to store for a form; plain gives a copy. Empty optional with the last error set if
 /// there is too much to be read back.
 std::optional<Buffer> pack(std::string_view content, std::int32_t form,

@@ -156,6 +156,10 @@ std::int64_t Reader::size() {
         return -1;
     if (m_form == LORNFD_PLAIN)
         return m_part.size;
+    if (!loadStored())
+        return -1;
+    if (const auto claimed = claim())
+        return *claimed;
     return loadContent() ? static_cast<std::int64_t>(m_content.size()) : -1;
 }
 
@@ -174,6 +178,11 @@ std::int64_t Reader::readWhole(char* buffer, std::int64_t count) {
     return unpackFrom(stored) ? readContent(buffer, count) : -1;
 }
 
+/// The size of the content before it is unpacked, where it tells that.
+std::optional<std::int64_t> Reader::claim() const {
+    return m_stored.data() && !m_content.data() ? claimedSize(m_stored) : std::nullopt;
+}
+
 std::int64_t Reader::readContent(char* buffer, std::int64_t count) {
     const std::string_view piece =
         m_content.substr(static_cast<std::size_t>(m_position), static_cast<std::size_t>(count));
@@ -188,6 +197,11 @@ std::int64_t Reader::read(char* buffer, std::int64_t count) {
         return readWhole(buffer, count);
     if (!learnForm())
         return -1;
+    // Unpacked to where the caller wants it, without holding it.
+    const auto claimed = m_position == 0 ? claim() : std::nullopt;
+    if (claimed && count >= *claimed &&
+        unpackTo(buffer, static_cast<std::size_t>(*claimed), m_stored))
+        return m_position = *claimed;
     // Only a whole entry can be checked, so that one is not read in pieces.
     if (m_form == LORNFD_PLAIN && !m_stored.data() && !m_part.crc) {
         count = std::min(count, m_part.size - m_position);

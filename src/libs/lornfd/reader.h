@@ -26,7 +26,7 @@ public:
     /// Null with the last error set.
     static std::unique_ptr<Reader> open(std::string_view name);
 
-    /// Unpacked size in bytes, -1 with the last error set.
+    /// Unpacked size in bytes, of packed content as it claims it; -1 with the last error set.
     std::int64_t size();
     /// Copies up to `count` unpacked bytes from the read position; -1 with the last error set.
     std::int64_t read(char* buffer, std::int64_t count);
@@ -44,6 +44,7 @@ private:
     bool checkSum(std::string_view stored);
     bool unpackFrom(std::string_view stored);
     std::int64_t readWhole(char* buffer, std::int64_t count);
+    [[nodiscard]] std::optional<std::int64_t> claim() const;
     std::int64_t readContent(char* buffer, std::int64_t count);
 
     StoredPart m_part;

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -21,26 +22,61 @@ bool NameBefore(const clsTXTObject* a, const clsTXTObject* b) {
 /// Collects records for the file handle in large pieces.
 class RecordWriter {
 public:
-    explicit RecordWriter(std::int32_t file) : m_file(file) {
-        m_text.reserve(BlockSize + BlockSize / 4);
-    }
+    explicit RecordWriter(std::int32_t file) : m_file(file) { m_text.reserve(BlockSize); }
 
     RecordWriter& operator<<(std::string_view text) {
-        m_text += text;
-        if (m_text.size() >= BlockSize)
-            static_cast<void>(Flush()); // what failed is remembered for the last one
+        EndLines();
+        Append(text);
         return *this;
     }
+    /// A whole record as a loaded text has it, and a line end. Those that follow each other there
+    /// are written in one piece.
+    void CopyLine(std::string_view record) {
+        if (Follows(record)) {
+            m_lines = {m_lines.data(), m_lines.size() + LineEnd.size() + record.size()};
+            return;
+        }
+        EndLines();
+        m_lines = record;
+    }
     [[nodiscard]] bool Flush() {
-        m_good = m_good && Kesh_TXTWriteFile(m_file, m_text) != 0;
-        m_text.clear();
+        EndLines();
+        WriteNow();
         return m_good;
     }
 
 private:
     static constexpr std::size_t BlockSize = std::size_t{1} << 18;
 
+    /// A loaded text has bytes behind its end, so that looking there is allowed.
+    [[nodiscard]] bool Follows(std::string_view record) const {
+        const char* const end = m_lines.data() + m_lines.size();
+        return !m_lines.empty() && record.data() == end + LineEnd.size() &&
+               std::string_view(end, LineEnd.size()) == LineEnd;
+    }
+    void EndLines() {
+        if (m_lines.empty())
+            return;
+        Append(std::exchange(m_lines, {}));
+        Append(LineEnd);
+    }
+    void Append(std::string_view text) {
+        if (m_text.size() + text.size() >= BlockSize)
+            WriteNow();
+        if (text.size() >= BlockSize)
+            Write(text);
+        else
+            m_text += text;
+    }
+    void WriteNow() {
+        Write(m_text);
+        m_text.clear();
+    }
+    /// What failed is remembered for the end.
+    void Write(std::string_view text) { m_good = m_good && Kesh_TXTWriteFile(m_file, text) != 0; }
+
     std::int32_t m_file;
+    std::string_view m_lines; ///< whole records of a loaded text, without the last line end
     std::string m_text;
     bool m_good = true;
 };
@@ -48,6 +84,21 @@ private:
 void WriteValues(RecordWriter& out, const clsTXTObject& record, std::int32_t count) {
     for (std::int32_t i = 0; i < count; ++i)
         out << record.ValueText(i) << ";";
+}
+
+void WriteRecord(RecordWriter& out, const clsTXTObject& record) {
+    if (const auto written = record.Values().Written()) {
+        out.CopyLine(*written);
+        return;
+    }
+    WriteValues(out, record, record.size());
+    out << LineEnd;
+}
+
+/// A job's name is the raw rest of its line.
+void WriteJob(RecordWriter& out, const clsTXTObject& record) {
+    WriteValues(out, record, record.size() - 1);
+    out << record.ObjectName() << LineEnd;
 }
 
 } // namespace
@@ -102,65 +153,58 @@ bool clsTxtParser::LoadFromHandle(std::int32_t Text, std::int32_t Type) {
 
 bool clsTxtParser::Save(std::int32_t FileHandle) {
     m_lastError.clear();
-    bool saved = SaveAs(FileHandle);
+    std::vector<clsTXTObject*> dirty;
+    bool saved = SaveAs(FileHandle, dirty);
     if (LornFD_SetEndOfFile(FileHandle) == 0 && saved)
         saved = SetError(LornFDErrorText());
     if (saved) {
+        m_leftOut.clear();
         m_dirty = false;
-        for (const auto& record : m_byIndex)
+        for (clsTXTObject* const record : dirty)
             record->Dirty = false;
     }
     return saved;
 }
 
-bool clsTxtParser::SaveAs(std::int32_t FileHandle) {
+bool clsTxtParser::SaveAs(std::int32_t FileHandle, std::vector<clsTXTObject*>& Dirty) {
     try {
-        return CheckWritable() &&
-               (m_otype == otype::Jobs ? SaveJobs(FileHandle) : SaveRecords(FileHandle));
+        return WriteRecords(FileHandle, Dirty);
     } catch (const std::bad_alloc&) {
         return SetError("Not enough memory to save \"" + LornFD_FileName(FileHandle) + "\".");
     }
 }
 
+// One pass over the records: there may be a million, and passing over them costs more than what is
+// done with each.
+bool clsTxtParser::WriteRecords(std::int32_t FileHandle, std::vector<clsTXTObject*>& Dirty) {
+    const bool jobs = m_otype == otype::Jobs;
+    RecordWriter out(FileHandle);
+    if (jobs)
+        out << std::to_string(m_version) << ";" << LineEnd;
+    else
+        out << "// Created with " << ProgramID() << LineEnd << std::to_string(m_version) << ";"
+            << std::to_string(m_byIndex.size()) << ";" << LineEnd;
+    for (const auto& record : m_byIndex) {
+        if (!CheckWritable(*record))
+            return false;
+        jobs ? WriteJob(out, *record) : WriteRecord(out, *record);
+        if (record->Dirty)
+            Dirty.push_back(record.get());
+    }
+    return out.Flush() ? jobs || !m_byIndex.empty() : SetError(KeshObjectsErrorText());
+}
+
 // What a window or tool set without looking must not make the file unreadable.
-bool clsTxtParser::CheckWritable() {
-    for (const auto& record : m_byIndex) {
-        if (record->size() == 0)
-            return SetError("Record " + std::to_string(record->Index) + " (key " + record->key() +
-                            ") has no values, so it cannot be written.");
-        if (const auto index = record->Values().FirstUnwritable(m_otype == otype::Jobs))
-            return SetError(
-                "Value " + std::to_string(*index) + " of " + std::string(record->ObjectName()) +
-                " (object " + std::to_string(record->Index) +
-                ") holds signs that cannot be written: " +
-                std::string(record->ValueText(static_cast<std::int32_t>(*index)).substr(0, 40)));
-    }
+bool clsTxtParser::CheckWritable(const clsTXTObject& Record) {
+    if (Record.size() == 0)
+        return SetError("Record " + std::to_string(Record.Index) + " (key " + Record.key() +
+                        ") has no values, so it cannot be written.");
+    if (const auto index = Record.Values().FirstUnwritable(m_otype == otype::Jobs))
+        return SetError(
+            "Value " + std::to_string(*index) + " of " + std::string(Record.ObjectName()) +
+            " (object " + std::to_string(Record.Index) + ") holds signs that cannot be written: " +
+            std::string(Record.ValueText(static_cast<std::int32_t>(*index)).substr(0, 40)));
     return true;
-}
-
-bool clsTxtParser::SaveRecords(std::int32_t FileHandle) {
-    RecordWriter out(FileHandle);
-    out << "// Created with " << ProgramID() << LineEnd;
-    out << std::to_string(m_version) << ";" << std::to_string(m_byIndex.size()) << ";" << LineEnd;
-    for (const auto& record : m_byIndex) {
-        if (const auto written = record->Values().Written())
-            out << *written << LineEnd;
-        else
-            (WriteValues(out, *record, record->size()), out << LineEnd);
-    }
-    if (!out.Flush())
-        return SetError(KeshObjectsErrorText());
-    return !m_byIndex.empty();
-}
-
-bool clsTxtParser::SaveJobs(std::int32_t FileHandle) {
-    RecordWriter out(FileHandle);
-    out << std::to_string(m_version) << ";" << LineEnd;
-    for (const auto& record : m_byIndex) {
-        WriteValues(out, *record, record->size() - 1);
-        out << record->ObjectName() << LineEnd;
-    }
-    return out.Flush() || SetError(KeshObjectsErrorText());
 }
 
 // --- Finding

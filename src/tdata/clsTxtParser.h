@@ -69,10 +69,9 @@ private:
     void Renumber(std::size_t From);
     [[nodiscard]] bool Holds(const RecordPtr& Record) const;
     [[nodiscard]] std::size_t PositionBehind(const RecordPtr& Record) const;
-    bool CheckWritable();
-    bool SaveAs(std::int32_t FileHandle);
-    bool SaveRecords(std::int32_t FileHandle);
-    bool SaveJobs(std::int32_t FileHandle);
+    bool CheckWritable(const clsTXTObject& Record);
+    bool SaveAs(std::int32_t FileHandle, std::vector<clsTXTObject*>& Dirty);
+    bool WriteRecords(std::int32_t FileHandle, std::vector<clsTXTObject*>& Dirty);
 
     std::shared_ptr<clsLoadedText> m_text;
     std::vector<RecordPtr> m_byIndex;

@@ -133,7 +133,7 @@ bool frmTXTEditor::SaveFile() {
         Say(tr("File ") + shown(choice->Name) + tr(" not found."), BoxIcon::Exclamation);
         return false;
     }
-    if (!MayReplace(*name) || !MakeCatalog(*name))
+    if (!MayReplace(*name) || !MayLeaveOut() || !MakeCatalog(*name))
         return false;
     clsTFile::Result result;
     {
@@ -168,6 +168,15 @@ bool frmTXTEditor::MayReplace(const std::string& Name) {
     const QString text = tr("\"%1\" was changed by another program since it was opened here.\n\n"
                             "Do you want to replace it, so that those changes are lost?")
                              .arg(shown(Name));
+    return Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Exclamation,
+                                   BoxButtons::YesNo}) == Answer::Yes;
+}
+
+bool frmTXTEditor::MayLeaveOut() {
+    if (m_file.Parser.LeftOut().empty())
+        return true;
+    const QString text = lines({ToScreen(m_file.Parser.LeftOut()), QString(),
+                                tr("Do you want to save the file without it?")});
     return Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Exclamation,
                                    BoxButtons::YesNo}) == Answer::Yes;
 }

@@ -26,14 +26,6 @@ QString askPanel(const Ask& ask, const char* failure) {
     }
 }
 
-/// What to call a type that no panel serves.
-std::string titleOfType(std::int32_t type) {
-    for (const ObjectTypeKey& key : ObjectTypeKeys())
-        if (key.Code == type)
-            return std::string(key.PanelTitle.empty() ? key.Key : key.PanelTitle);
-    return {};
-}
-
 } // namespace
 
 void frmTXTEditor::SelectFileType(std::int32_t OType) {
@@ -107,8 +99,7 @@ void frmTXTEditor::UpdateCaption() {
 QString frmTXTEditor::TypeText() const {
     const QString text = askPanel(
         [&] {
-            return m_activeEditor ? m_activeEditor->ObjectTypeName(m_objectType)
-                                  : titleOfType(m_objectType);
+            return m_activeEditor ? m_activeEditor->ObjectTypeName(m_objectType) : std::string();
         },
         QT_TR_NOOP("[error getting object type]"));
     return text.isEmpty() ? tr("unknown") : text;

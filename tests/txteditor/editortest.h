@@ -82,7 +82,7 @@ protected:
     [[nodiscard]] QString caption() const { return window->windowTitle(); }
     [[nodiscard]] QString label(const char* name) const { return child<QLabel>(name)->text(); }
     [[nodiscard]] QString caption(const char* name,
-                                  const QString& type = QStringLiteral("Wares")) const {
+                                  const QString& type = QStringLiteral("unknown")) const {
         return QStringLiteral("TXT Editor - [%1 (%2)]").arg(native(name), type);
     }
 

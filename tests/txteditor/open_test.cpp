@@ -77,7 +77,7 @@ TEST_F(Opening, AsksForAFileAndTakesOneFromACatalogOrTheView) {
     KeshVFS_CreateVFS(program("data"));
     script.Text("item", QStringLiteral("types\\TWareT.pck"));
     trigger("vfs://");
-    EXPECT_EQ(caption(), QStringLiteral("TXT Editor - [vfs://types\\TWareT.pck (Wares)]"));
+    EXPECT_EQ(caption(), QStringLiteral("TXT Editor - [vfs://types\\TWareT.pck (unknown)]"));
 }
 
 struct FailureCase {

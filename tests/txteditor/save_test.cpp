@@ -113,6 +113,28 @@ TEST_F(Saving, LeavesAllAsItWasIfTheFileMayNotBeReplaced) {
     EXPECT_EQ(caption(), caption("TWareT.txt"));
 }
 
+TEST_F(Saving, AsksBeforeItDropsWhatTheFileDoesNotCount) {
+    const QByteArray counted = wares({"WARE_A", "WARE_B"});
+    write("TWareT.txt", counted + "left;over;");
+    start("TWareT.txt");
+    const auto saveAs = [&](const char* name, Answer answer) {
+        script.Save(FileChoice{native(name), 1});
+        script.Box(
+            QStringLiteral("The count of records (2) ends before line 4 of %1; the rest is not "
+                           "read, and saving drops it.\n\nDo you want to save the file "
+                           "without it?")
+                .arg(native("TWareT.txt")),
+            answer);
+        trigger("save");
+    };
+    saveAs("new.txt", Answer::No);
+    EXPECT_FALSE(QFile::exists(native("new.txt")));
+    saveAs("new.txt", Answer::Yes);
+    EXPECT_EQ(read("new.txt"), written(counted));
+    saveTo("next.txt", 1, {}); // it is gone now
+    EXPECT_EQ(read("next.txt"), written(counted));
+}
+
 struct FaultCase {
     lornfd::DiskOperation Operation;
     const char* Target;

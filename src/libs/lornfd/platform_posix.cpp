@@ -27,8 +27,10 @@ namespace {
 
 // A call that is interrupted without end must not hang a save.
 constexpr int mostInterruptions = 100;
-// No system writes or reads more in one call.
-constexpr std::size_t mostBytes = std::size_t{1} << 30;
+// No system reads more in one call.
+constexpr std::size_t mostRead = std::size_t{1} << 30;
+// Written in one call; from half of that on the disk is told to begin at once.
+constexpr std::size_t mostWritten = std::size_t{8} << 20;
 #ifdef MAP_POPULATE // all of it is going to be read, and one call is cheaper than a fault a page
 constexpr int mapFlags = MAP_PRIVATE | MAP_POPULATE;
 #else
@@ -71,6 +73,19 @@ FileStamp stampOf(const struct stat& status) {
             .device = status.st_dev,
             .mode = status.st_mode & 07777U,
             .regular = S_ISREG(status.st_mode)};
+}
+
+/// Lets the disk work on a large piece while the next is written. Only a hint: File::flush waits
+/// for all of it and tells of failures.
+void beginFlush(int descriptor, std::int64_t offset, ssize_t size) {
+#ifdef SYNC_FILE_RANGE_WRITE
+    if (size >= static_cast<ssize_t>(mostWritten / 2))
+        ::sync_file_range(descriptor, offset, size, SYNC_FILE_RANGE_WRITE);
+#else
+    static_cast<void>(descriptor);
+    static_cast<void>(offset);
+    static_cast<void>(size);
+#endif
 }
 
 std::error_code openAs(int& descriptor, const std::string& path, int flags) {
@@ -124,7 +139,7 @@ std::error_code File::read(std::int64_t offset, void* buffer, std::size_t count,
         const std::error_code error = repeat([&] {
             return read =
                        ::pread(m_descriptor, static_cast<char*>(buffer) + got,
-                               std::min(count - got, mostBytes), offset + static_cast<off_t>(got));
+                               std::min(count - got, mostRead), offset + static_cast<off_t>(got));
         });
         if (error || read == 0)
             return error;
@@ -137,7 +152,7 @@ std::error_code File::write(std::int64_t offset, std::string_view bytes) {
     while (!bytes.empty()) {
         ssize_t written = 0;
         const std::error_code error = repeat([&]() -> ssize_t {
-            std::size_t count = std::min(bytes.size(), mostBytes);
+            std::size_t count = std::min(bytes.size(), mostWritten);
             if (hook) {
                 if (const int fault = hook(DiskOperation::Write, &count)) {
                     errno = fault;
@@ -150,6 +165,7 @@ std::error_code File::write(std::int64_t offset, std::string_view bytes) {
             return error;
         if (written == 0)
             return systemError(EIO);
+        beginFlush(m_descriptor, offset, written);
         bytes.remove_prefix(static_cast<std::size_t>(written));
         offset += written;
     }

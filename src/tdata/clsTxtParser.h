@@ -27,7 +27,7 @@ public:
     /// As Load, from a text handle, which it takes over.
     [[nodiscard]] bool LoadFromHandle(std::int32_t Text, std::int32_t Type);
     /// What stands behind the records that the file counts, in a sentence with its place, since
-    /// saving drops it; empty if there is nothing.
+    /// saving drops it; empty if there is nothing, as after a save.
     [[nodiscard]] const std::string& LeftOut() const noexcept { return m_leftOut; }
     /// Writes all records to an open file handle and fixes its length; the caller closes or
     /// abandons. On success everything is clean.

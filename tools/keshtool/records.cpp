@@ -53,6 +53,7 @@ ExitCode convert(GameView& view, const Arguments& arguments) {
     const std::string to = view.realPath(arguments.paths[1]);
     clsTxtParser parser;
     loadTFile(parser, from);
+    const std::string leftOut = parser.LeftOut();
     OutputFile out(to, arguments.fileType.value_or(fileTypeOf(to)));
     if (!parser.Save(out.handle())) {
         if (parser.GetLastError().empty())
@@ -60,8 +61,8 @@ ExitCode convert(GameView& view, const Arguments& arguments) {
         throw tFileFailure(to, parser.GetLastError());
     }
     out.commit();
-    if (parser.LeftOut().empty())
+    if (leftOut.empty())
         return Done;
-    complain(parser.LeftOut());
+    complain(leftOut);
     return Findings;
 }

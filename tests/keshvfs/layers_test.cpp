@@ -103,6 +103,15 @@ TEST_F(GameDirectory, RootThatReadsAsACatalogIsRefused) {
     EXPECT_EQ(found("*"), Names{});
 }
 
+TEST_F(GameDirectory, CatalogWhoseNameReadsAsAnEntryIsRefused) {
+    catalog("mods::old/mod.cat", {"types\\a.txt"});
+    KeshVFS_CreateVFS(root);
+    EXPECT_FALSE(KeshVFS_AppendCatalog(root + "/mods::old/mod.cat"));
+    EXPECT_EQ(KeshVFS_GetLastError(), KESHVFS_E_CATALOG);
+    EXPECT_NE(errorText().find(root + "/mods::old/mod.cat: "), std::string::npos) << errorText();
+    EXPECT_EQ(found("types\\*"), Names{});
+}
+
 TEST_F(GameDirectory, DeepEntriesAreLeftOut) {
     const auto deep = [](int parts) {
         std::string name;

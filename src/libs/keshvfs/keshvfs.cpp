@@ -92,6 +92,15 @@ std::int32_t handleError(State& s, std::int32_t handle) {
     return s.error.set(KESHVFS_E_HANDLE, {{}, std::to_string(handle), {}});
 }
 
+// What lies below such a name has real names that would be split in the wrong place.
+bool readsAsEntry(std::string_view name) {
+    return name.find("::") != name.npos;
+}
+
+std::string entryReason(std::string_view name) {
+    return lornfd::nativePath(name) + ": a name with \"::\" in it reads as a catalog's entry";
+}
+
 std::int32_t rootError(State& s, std::string_view root, const std::string& reason) {
     warn(s, reason);
     return s.error.set(KESHVFS_E_DIRECTORY, {std::string(root), {}, reason});
@@ -174,10 +183,8 @@ std::int32_t KeshVFS_CreateVFS(std::string_view DataRoot) {
         s.view = std::make_shared<View>();
         if (DataRoot.empty())
             return 1;
-        if (DataRoot.find("::") != DataRoot.npos)
-            return rootError(s, DataRoot,
-                             lornfd::nativePath(DataRoot) + ": the name of a directory with \"::\" "
-                                                            "in it reads as a catalog's entry");
+        if (readsAsEntry(DataRoot))
+            return rootError(s, DataRoot, entryReason(DataRoot));
         auto view = std::make_shared<View>();
         LooseFiles loose = addLooseFiles(*view, DataRoot, LooseLayer, s.filters);
         s.warnings = std::move(loose.warnings);
@@ -191,6 +198,8 @@ std::int32_t KeshVFS_CreateVFS(std::string_view DataRoot) {
 
 std::int32_t KeshVFS_AppendCatalog(std::string_view Catalog) {
     return run([&](State& s) {
+        if (readsAsEntry(Catalog))
+            return s.error.set(KESHVFS_E_CATALOG, {std::string(Catalog), {}, entryReason(Catalog)});
         const auto catalog = lornfd::CatalogIndex::open(Catalog);
         if (!catalog)
             return s.error.set(KESHVFS_E_CATALOG, {std::string(Catalog), {}, driverErrorText()});

@@ -23,7 +23,7 @@ inline constexpr std::uint32_t VFS_ATTRIBUTE_DIRECTORY = 2;
 enum KeshVFSError : std::int32_t {
     KESHVFS_OK = 0,
     KESHVFS_E_NOT_FOUND = 1, ///< nothing matches
-    KESHVFS_E_CATALOG,       ///< a catalog did not open; the reason is the file driver's
+    KESHVFS_E_CATALOG,       ///< a catalog did not open, or has "::" in its name
     KESHVFS_E_DIRECTORY,     ///< the data root cannot be read, or has "::" in its name
     KESHVFS_E_HANDLE,        ///< not an open handle of the right kind
     KESHVFS_E_MEMORY,

@@ -3,6 +3,8 @@
 #include "lornfd/packing.h"
 
 #include <cstdlib>
+#include <optional>
+#include <string>
 
 namespace {
 
@@ -13,12 +15,23 @@ void require(bool holds) {
         std::abort();
 }
 
+/// What comes out in memory of the claimed size, if anything does.
+std::optional<std::string> asClaimed(std::string_view stored) {
+    const auto claimed = lornfd::claimedSize(stored);
+    if (!claimed || *claimed > limit)
+        return std::nullopt;
+    std::string room(static_cast<std::size_t>(*claimed), '\0');
+    return lornfd::unpackTo(room.data(), room.size(), stored) ? std::optional(room) : std::nullopt;
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view stored(reinterpret_cast<const char*>(data), size);
     const std::int32_t form = lornfd::packedForm(stored);
     const auto content = lornfd::unpack(stored, "fuzz.pck", limit);
+    const auto claimed = asClaimed(stored);
+    require(!claimed || (content && content->view() == *claimed));
     if (!content) {
         const std::int32_t code = LornFD_GetLastError();
         require(code == LORNFD_E_PACKED || code == LORNFD_E_TOO_BIG);

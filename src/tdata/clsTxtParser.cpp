@@ -207,6 +207,20 @@ bool clsTxtParser::CheckWritable(const clsTXTObject& Record) {
     return true;
 }
 
+std::string clsTxtParser::Misfit() const {
+    const auto misfit =
+        m_otype != otype::Ships
+            ? m_byIndex.end()
+            : std::find_if_not(m_byIndex.begin(), m_byIndex.end(),
+                               [](const auto& record) { return tdata::ShipFits(*record); });
+    return misfit == m_byIndex.end()
+               ? std::string()
+               : "The counts of turrets and guns in " + std::string((*misfit)->ObjectName()) +
+                     " (object " + std::to_string((*misfit)->Index) +
+                     ") do not fit the number of its values. A file that is saved like this cannot "
+                     "be loaded again.";
+}
+
 // --- Finding
 
 RecordPtr clsTxtParser::FindKey(std::string_view Key) const {

@@ -29,6 +29,9 @@ public:
     /// What stands behind the records that the file counts, in a sentence with its place, since
     /// saving drops it; empty if there is nothing, as after a save.
     [[nodiscard]] const std::string& LeftOut() const noexcept { return m_leftOut; }
+    /// A sentence on the first ship whose counts do not fit its number of values: saved like that,
+    /// the file could not be loaded again. Empty if there is none.
+    [[nodiscard]] std::string Misfit() const;
     /// Writes all records to an open file handle and fixes its length; the caller closes or
     /// abandons. On success everything is clean.
     [[nodiscard]] bool Save(std::int32_t FileHandle);

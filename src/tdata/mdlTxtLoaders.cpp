@@ -16,6 +16,31 @@ namespace {
 // parsing.
 using RecordBlock = std::vector<clsTXTObject, keshobjects::BigAllocator<clsTXTObject>>;
 
+/// A ship's record grows while it is read: each count in it tells how much comes next. `take` is
+/// told how many values come, and may end the walk by false; `countAt` gives the count at an index
+/// of what was taken. True if the walk came to the record's end.
+template <class Take, class CountAt>
+bool WalkShip(const Take& take, const CountAt& countAt) {
+    constexpr std::int64_t head = 55;
+    constexpr std::int64_t tail = 10;
+    if (!take(head))
+        return false;
+    const std::int64_t turrets = std::max(0, countAt(head - 2));
+    if (!take(4 * turrets))
+        return false;
+    const std::int32_t groups = countAt(head - 1 + 4 * turrets);
+    std::int64_t at = head + 4 * turrets;
+    for (std::int32_t i = 0; i < groups; ++i) {
+        if (!take(4))
+            return false;
+        const std::int64_t guns = std::max(0, countAt(at + 3));
+        if (!take(6 * guns))
+            return false;
+        at += 4 + 6 * guns;
+    }
+    return take(tail);
+}
+
 class Loader {
 public:
     Loader(std::shared_ptr<clsLoadedText> text, std::int32_t type)
@@ -160,24 +185,11 @@ bool Loader::ReadFixed() {
     return true;
 }
 
-// A ship's record grows while it is read: each count in it tells how much comes next.
 bool Loader::ReadShip() {
-    constexpr std::int64_t head = 55;
-    constexpr std::int64_t tail = 10;
     try {
         BeginRecord();
-        ReadPlaces(head);
-        const std::int64_t turrets = std::max(0, CountAt(head - 2));
-        ReadPlaces(4 * turrets);
-        const std::int32_t groups = CountAt(head - 1 + 4 * turrets);
-        std::int64_t at = head + 4 * turrets;
-        for (std::int32_t i = 0; i < groups; ++i) {
-            ReadPlaces(4);
-            const std::int64_t guns = std::max(0, CountAt(at + 3));
-            ReadPlaces(6 * guns);
-            at += 4 + 6 * guns;
-        }
-        ReadPlaces(tail);
+        WalkShip([this](std::int64_t count) { return ReadPlaces(count), true; },
+                 [this](std::int64_t index) { return CountAt(index); });
         AddRecord(ValueForm::AsShown);
         return true;
     } catch (const std::exception& failure) {
@@ -409,6 +421,23 @@ void Loader::AddRecord(ValueForm form) {
 
 LoadResult LoadTxtRecords(const std::shared_ptr<clsLoadedText>& text, std::int32_t type) {
     return Loader(text, type).Run();
+}
+
+bool ShipFits(const clsTXTObject& record) {
+    std::int64_t taken = 0;
+    bool counts = true;
+    const auto countAt = [&](std::int64_t index) {
+        const auto text = record.ValueText(static_cast<std::int32_t>(index));
+        const auto number = keshobjects::readNumber(text);
+        const auto count = number ? keshobjects::roundToInteger(*number) : std::nullopt;
+        counts = counts && count;
+        return count.value_or(0);
+    };
+    const auto take = [&](std::int64_t count) {
+        taken += count;
+        return counts && taken <= record.size();
+    };
+    return WalkShip(take, countAt) && taken == record.size();
 }
 
 } // namespace tdata

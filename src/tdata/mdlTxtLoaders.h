@@ -19,4 +19,7 @@ struct LoadResult {
 /// Reads all records of `text` as files of an object type have them. Never throws.
 LoadResult LoadTxtRecords(const std::shared_ptr<clsLoadedText>& text, std::int32_t type);
 
+/// True if a ship has as many values as its counts of turrets, gun groups and guns ask for.
+[[nodiscard]] bool ShipFits(const clsTXTObject& record);
+
 } // namespace tdata

@@ -93,7 +93,7 @@ private:
     void ShowFile();
     [[nodiscard]] std::string SaveStart() const;
     [[nodiscard]] bool MayReplace(const std::string& Name);
-    [[nodiscard]] bool MayLeaveOut(); ///< false if what the file does not count is to be kept
+    [[nodiscard]] bool MayLoseData(); ///< asks where a save drops something or cannot be read back
     [[nodiscard]] bool MakeCatalog(const std::string& Name);
     void LoadRecent();
     void AddRecent(const std::string& Name);

@@ -133,7 +133,7 @@ bool frmTXTEditor::SaveFile() {
         Say(tr("File ") + shown(choice->Name) + tr(" not found."), BoxIcon::Exclamation);
         return false;
     }
-    if (!MayReplace(*name) || !MayLeaveOut() || !MakeCatalog(*name))
+    if (!MayReplace(*name) || !MayLoseData() || !MakeCatalog(*name))
         return false;
     clsTFile::Result result;
     {
@@ -172,13 +172,15 @@ bool frmTXTEditor::MayReplace(const std::string& Name) {
                                    BoxButtons::YesNo}) == Answer::Yes;
 }
 
-bool frmTXTEditor::MayLeaveOut() {
-    if (m_file.Parser.LeftOut().empty())
-        return true;
-    const QString text = lines({ToScreen(m_file.Parser.LeftOut()), QString(),
-                                tr("Do you want to save the file without it?")});
-    return Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Exclamation,
-                                   BoxButtons::YesNo}) == Answer::Yes;
+bool frmTXTEditor::MayLoseData() {
+    const auto may = [this](const std::string& finding, const QString& question) {
+        return finding.empty() ||
+               Ui().ShowMessage(this,
+                                {tr("TXT Editor"), lines({ToScreen(finding), QString(), question}),
+                                 BoxIcon::Exclamation, BoxButtons::YesNo}) == Answer::Yes;
+    };
+    return may(m_file.Parser.LeftOut(), tr("Do you want to save the file without it?")) &&
+           may(m_file.Parser.Misfit(), tr("Do you want to save the file anyway?"));
 }
 
 bool frmTXTEditor::MakeCatalog(const std::string& Name) {

@@ -156,6 +156,37 @@ TEST(Ships, AreSavedWithoutTheGapsBetweenTheirSections) {
     }
 }
 
+TEST(Ships, CountsThatDoNotFitTheValuesAreTold) {
+    clsTxtParser parser;
+    ASSERT_TRUE(
+        load(parser, "49;2;" + ship(0, {}, "SS_0") + ship(2, {1, 3}, "SS_1"), otype::Ships));
+    EXPECT_EQ(parser.Misfit(), "");
+    const struct {
+        int index;
+        KeshValue value;
+        bool fits;
+    } cases[] = {{53, 1, false},
+                 {53, -1, false},
+                 {53, "many", false},
+                 {53, "2", true},
+                 {53, 2147483647, false},
+                 {54 + 8, 3, false},
+                 {54 + 8, -5, false},
+                 {55 + 8 + 3, 2, false},
+                 {55 + 8 + 3, 2147483647, false},
+                 {0, "hull", true},
+                 {54 + 8, 2147483647, false}};
+    const RecordPtr record = parser.FindIndex(1);
+    for (const auto& c : cases) {
+        const KeshValue former = record->Value(c.index);
+        record->SetValue(c.index, c.value);
+        const std::string told = parser.Misfit();
+        EXPECT_EQ(told.empty(), c.fits) << c.index << ' ' << record->ValueText(c.index);
+        EXPECT_TRUE(c.fits || told.find("SS_1 (object 1)") != told.npos) << told;
+        record->SetValue(c.index, former);
+    }
+}
+
 TEST(Ships, NegativeCountsReadNothing) {
     const std::string record = repeat("0;", 53) + "-5;-1;" + repeat("0;", 10);
     clsTxtParser parser;

@@ -135,6 +135,22 @@ TEST_F(Saving, AsksBeforeItDropsWhatTheFileDoesNotCount) {
     EXPECT_EQ(read("next.txt"), written(counted));
 }
 
+TEST_F(Saving, AsksBeforeAShipIsSavedThatCannotBeLoaded) {
+    write("TShips.txt", "49;1;\r\n" + QByteArray("0;").repeated(64) + "SS_A;\r\n");
+    start("TShips.txt");
+    editField(0, 53, QStringLiteral("1"));
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        script.Save(FileChoice{native("new.txt"), 1});
+        script.Box(
+            QStringLiteral("The counts of turrets and guns in SS_A (object 0) do not fit the "
+                           "number of its values. A file that is saved like this cannot be "
+                           "loaded again.\n\nDo you want to save the file anyway?"),
+            answer);
+        trigger("save");
+        EXPECT_EQ(QFile::exists(native("new.txt")), answer == Answer::Yes);
+    }
+}
+
 struct FaultCase {
     lornfd::DiskOperation Operation;
     const char* Target;

@@ -15,7 +15,7 @@ namespace {
 
 using Text = std::unique_ptr<Tokenizer>;
 
-/// Read in pieces that stay in the cache while they are searched for NUL characters.
+// Pieces of this size stay in the cache while they are searched for NUL characters.
 constexpr std::size_t loadPiece = std::size_t{256} << 10;
 constexpr std::size_t shownLength = 40; ///< of a value in a message
 
@@ -62,6 +62,15 @@ std::int32_t fail(const Tokenizer& text) {
     return fail(text.failure().code, text, text.failure().place);
 }
 
+/// What stands at the place of a text, which is not passed; nothing with the last error set.
+std::optional<std::string_view> tokenOf(std::int32_t handle) {
+    Tokenizer* const text = textOf(handle);
+    const auto token = text != nullptr ? text->token() : std::nullopt;
+    if (text != nullptr && !token)
+        fail(*text);
+    return token;
+}
+
 std::string shorten(std::string_view text) {
     return text.size() <= shownLength ? std::string(text)
                                       : std::string(text.substr(0, shownLength)) + "...";
@@ -80,15 +89,16 @@ Text makeText(std::uint64_t size, const std::string& name) {
     return text;
 }
 
-/// Fills a text piece by piece with `read(to, size)` and gives its handle.
+/// Fills a text with `read(to, size)`, at most `mostAtOnce` bytes at a time, and gives its handle.
 template <typename Read>
-std::int32_t load(std::uint64_t size, const std::string& name, Read read) {
+std::int32_t load(std::uint64_t size, std::uint64_t mostAtOnce, const std::string& name,
+                  Read read) {
     Text text = makeText(size, name);
     if (text == nullptr)
         return 0;
     for (std::size_t done = 0; done < size;) {
         char* const to = text->data() + done;
-        const std::size_t piece = std::min<std::size_t>(size - done, loadPiece);
+        const std::size_t piece = std::min<std::size_t>(size - done, mostAtOnce);
         if (!read(to, piece))
             return lastError().set(KESH_E_READ, {{}, {}, driverReason()});
         if (const void* nul = std::memchr(to, 0, piece)) {
@@ -118,7 +128,10 @@ std::int32_t Kesh_LoadFromFile(std::int32_t File, std::int32_t Kind) {
     const std::int64_t size = LornFD_FileSize(File);
     if (size < 0)
         return lastError().set(KESH_E_READ, {{}, {}, driverReason()});
-    return load(static_cast<std::uint64_t>(size), name, [File](char* to, std::size_t piece) {
+    // Packed bytes asked for all at once need not be held unpacked in between.
+    const auto whole = static_cast<std::uint64_t>(size);
+    const bool plain = LornFD_FileType(File) == LORNFD_PLAIN;
+    return load(whole, plain ? loadPiece : whole, name, [File](char* to, std::size_t piece) {
         const auto count = static_cast<std::int64_t>(piece);
         return LornFD_ReadFile(File, to, count) == count;
     });
@@ -126,7 +139,7 @@ std::int32_t Kesh_LoadFromFile(std::int32_t File, std::int32_t Kind) {
 
 std::int32_t Kesh_LoadFromMemory(std::string_view Text, std::string_view Name) {
     const char* from = Text.data();
-    return load(Text.size(), std::string(Name), [&from](char* to, std::size_t piece) {
+    return load(Text.size(), loadPiece, std::string(Name), [&from](char* to, std::size_t piece) {
         std::memcpy(to, from, piece);
         from += piece;
         return true;
@@ -181,12 +194,9 @@ std::int32_t Kesh_TXTGetTokenType(std::int32_t Text) {
 }
 
 std::int32_t Kesh_TXTGetTokenValue(std::int32_t Text, KeshValue& Value) {
-    Tokenizer* const text = textOf(Text);
-    if (text == nullptr)
-        return 0;
-    const auto token = text->token();
+    const auto token = tokenOf(Text);
     if (!token)
-        return fail(*text);
+        return 0;
     Value = std::string(*token);
     return 1;
 }
@@ -215,13 +225,10 @@ std::int64_t Kesh_TXTLoadPlaces(std::int32_t Text, std::int64_t Count, KeshPlace
 }
 
 std::int32_t Kesh_TXTGetTokenPlace(std::int32_t Text, KeshPlace& Place) {
-    Tokenizer* const text = textOf(Text);
-    if (text == nullptr)
-        return 0;
-    const auto token = text->token();
+    const auto token = tokenOf(Text);
     if (!token)
-        return fail(*text);
-    Place = static_cast<KeshPlace>(token->data() - text->text().data());
+        return 0;
+    Place = static_cast<KeshPlace>(token->data() - Kesh_TXTGetText(Text).data());
     return 1;
 }
 

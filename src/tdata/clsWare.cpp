@@ -10,5 +10,6 @@ constexpr std::int32_t RaceField = 13;
 std::string clsWare::Race() const {
     if (m_object->otype != otype::Factories && m_object->otype != otype::Docks)
         return {};
-    return TableText(RaceNames(), m_object->ValueInteger(RaceField).value_or(-1));
+    return TableText(RaceNames.Rows,
+                     m_object->ValueInteger(RaceField).value_or(0) - RaceNames.First);
 }

@@ -41,20 +41,24 @@ constexpr std::array<std::string_view, 6> WareFiles{"TWareB", "TWareE", "TWareF"
 constexpr std::array<std::int32_t, 19> Sizes{0,  65, 21, 23, 47, 37, 17, 29, 18, 19,
                                              28, 20, 18, 37, 19, 21, 21, 38, 36};
 
-constexpr std::array<std::string_view, CommonHeadCount> HeadNames{
-    "Body file",  "Picture ID",     "Rotation X", "Rotation Y",
-    "Rotation Z", "Galaxy subtype", "Description"};
-constexpr std::array<std::int32_t, CommonHeadCount> HeadTypes{2, 0, 1, 1, 1, 0, 0};
+constexpr std::string_view HeadNames[] = {"Body file",  "Picture ID", "Rotation X",
+                                          "Rotation Y", "Rotation Z", "Galaxy subtype",
+                                          "Description"};
 
-constexpr std::array<std::string_view, 9> TailNames{
+constexpr std::string_view TailNames[] = {
     "Skin index", "Video ID",           "Min. Notoriety",     "Production RelVal (player)",
     "Ware class", "Price modifier (2)", "Price modifier (1)", "Production RelVal (NPC)",
     "Volume"};
 
-constexpr std::array<std::string_view, 20> Races{
-    "",        "Argon",  "Boron",  "Split",  "Paranid", "Teladi",  "Xenon",
-    "Khaak",   "Pirate", "Goner",  "Player", "Enemy",   "Neutral", "Friendly",
-    "Unknown", "Race 1", "Race 2", "Race 3", "Terran",  "Yaki"};
+constexpr std::string_view Races[] = {"Argon",  "Boron",   "Split",    "Paranid", "Teladi",
+                                      "Xenon",  "Khaak",   "Pirate",   "Goner",   "Player",
+                                      "Enemy",  "Neutral", "Friendly", "Unknown", "Race 1",
+                                      "Race 2", "Race 3",  "Terran",   "Yaki"};
+
+constexpr std::int32_t Languages[] = {44, 49, 33, 42};
+constexpr std::string_view LanguageRows[] = {"English", "German", "French", "Czech"};
+
+constexpr std::string_view Prefixes[] = {"", "K", "M", "G", "T"};
 
 // By type code; filled once from the keys, which stand in another order.
 std::array<std::string_view, 23> NamesByCode;
@@ -91,18 +95,13 @@ std::int32_t ObjectSize(std::int32_t Type) {
     return Type >= 0 && Type < std::ssize(Sizes) ? Sizes[static_cast<std::size_t>(Type)] : 0;
 }
 
-std::span<const std::string_view> CommonHeadNames() {
-    return HeadNames;
+std::span<const std::int32_t> LanguageIDs() {
+    return Languages;
 }
 
-std::span<const std::int32_t> CommonHeadTypes() {
-    return HeadTypes;
-}
-
-std::span<const std::string_view> CommonTailNames() {
-    return TailNames;
-}
-
-std::span<const std::string_view> RaceNames() {
-    return Races;
-}
+const TextTable CommonHeadNames{0, HeadNames};
+const std::array<std::int32_t, CommonHeadCount> CommonHeadTypes{2, 0, 1, 1, 1, 0, 0};
+const TextTable CommonTailNames{0, TailNames};
+const TextTable RaceNames{1, Races};
+const TextTable LanguageNames{0, LanguageRows};
+const TextTable SIPrefixes{0, Prefixes};

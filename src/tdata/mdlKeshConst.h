@@ -2,6 +2,9 @@
 // frame.
 #pragma once
 
+#include "tdata/TextTable.h"
+
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -53,9 +56,15 @@ std::int32_t ObjectSize(std::int32_t Type);
 
 inline constexpr std::int32_t CommonHeadCount = 7;
 inline constexpr std::int32_t CommonTailCount = 10;
-std::span<const std::string_view> CommonHeadNames();
-std::span<const std::int32_t> CommonHeadTypes();
-/// Addressed with N - index - 2 for a record of N fields.
-std::span<const std::string_view> CommonTailNames();
-/// Positions 1 to 19; 0 is empty.
-std::span<const std::string_view> RaceNames();
+extern const TextTable CommonHeadNames;
+extern const std::array<std::int32_t, CommonHeadCount> CommonHeadTypes; ///< valuetype by index
+extern const TextTable CommonTailNames; ///< addressed with N - index - 2 for a record of N fields
+
+extern const TextTable RaceNames; ///< positions 1 to 19
+
+// Languages that have a name; the same rows.
+std::span<const std::int32_t> LanguageIDs();
+extern const TextTable LanguageNames;
+
+/// Prefixes of units by powers of 1000.
+extern const TextTable SIPrefixes;

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "keshobjects/value.h"
+#include "tdata/FieldTable.h"
 #include "tdata/clsTxtParser.h"
 
 #include <QtWidgets>
@@ -21,20 +22,6 @@ inline constexpr std::int32_t HasNames = 1;
 inline constexpr std::int32_t HasRaces = 2;
 inline constexpr std::int32_t HasClasses = 4;
 } // namespace panelinfo
-
-/// Results of LornSupportValueTranslate.
-namespace translation {
-inline constexpr std::int32_t None = 0;
-inline constexpr std::int32_t Number = 1; ///< shown converted, with a unit
-inline constexpr std::int32_t List = 2;   ///< one of LornGetPropertyValues
-} // namespace translation
-
-/// Results of LornGetValueType.
-namespace valuetype {
-inline constexpr std::int32_t Integer = 0;
-inline constexpr std::int32_t Float = 1;
-inline constexpr std::int32_t String = 2;
-} // namespace valuetype
 
 class ObjectEditor : public QWidget {
     Q_OBJECT
@@ -84,12 +71,14 @@ public:
     // Fields
     [[nodiscard]] virtual std::string LornGetPropertyName(const RecordPtr& Object,
                                                           std::int32_t Index) const = 0;
-    [[nodiscard]] virtual std::int32_t LornGetValueType(const RecordPtr& Object,
-                                                        std::int32_t Index) const = 0;
+    [[nodiscard]] virtual std::int32_t
+    LornGetValueType(const RecordPtr& Object,
+                     std::int32_t Index) const = 0; ///< valuetype
     [[nodiscard]] virtual std::string LornGetValueUnit(const RecordPtr& Object,
                                                        std::int32_t Index) const = 0;
-    [[nodiscard]] virtual std::int32_t LornSupportValueTranslate(const RecordPtr& Object,
-                                                                 std::int32_t Index) const = 0;
+    [[nodiscard]] virtual std::int32_t
+    LornSupportValueTranslate(const RecordPtr& Object,
+                              std::int32_t Index) const = 0; ///< translation
     [[nodiscard]] virtual std::vector<std::string>
     LornGetPropertyValues(const RecordPtr& Object, std::int32_t Index) const = 0;
     /// The text of a stored value, without its unit if Raw; false if it has no translation.

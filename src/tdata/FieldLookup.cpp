@@ -1,0 +1,122 @@
+#include "tdata/FieldLookup.h"
+
+#include "tdata/mdlKeshConst.h"
+#include "tdata/mdlKeshShips.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::int32_t SubtypeField = 5;
+constexpr std::int32_t WareClassFromEnd = 6;
+
+const FieldTable NoFields{};
+const TextTable NoSubtypes{};
+
+// By type code.
+constexpr std::array<const FieldTable*, 23> Tables{
+    &NoFields,           &ShipFieldNames,    &ShieldFieldNames,
+    &LaserFieldNames,    &BulletFieldNames,  &MissileFieldNames,
+    &WareFieldNames,     &FactoryFieldNames, &DefaultFieldNames,
+    &CockpitFieldNames,  &DockFieldNames,    &DefaultFieldNames,
+    &DefaultFieldNames,  &PlanetFieldNames,  &SunFieldNames,
+    &AsteroidFieldNames, &DebrisFieldNames,  &BackgroundFieldNames,
+    &NebulaFieldNames,   &JobFieldNames,     &NoFields,
+    &NoFields,           &NoFields};
+
+struct Symbolic {
+    std::int32_t Type;
+    std::int32_t Since; ///< version of the file from which field 5 is a word
+    const TextTable* Words;
+};
+constexpr Symbolic SymbolicTypes[] = {
+    {otype::Laser, 50, &LaserSubtypes},       {otype::Missiles, 50, &MissileSubtypes},
+    {otype::Factories, 48, &FactorySubtypes}, {otype::Docks, 48, &DockSubtypes},
+    {otype::Wrecks, 48, &WreckSubtypes},
+};
+
+const Symbolic* SymbolicOf(std::int32_t type) {
+    const auto* found = std::find_if(std::begin(SymbolicTypes), std::end(SymbolicTypes),
+                                     [type](const Symbolic& row) { return row.Type == type; });
+    return found == std::end(SymbolicTypes) ? nullptr : found;
+}
+
+/// The name of the value that counts gun groups moves with the number of turrets.
+bool CountsGunGroups(const clsTXTObject& record, std::int32_t index) {
+    constexpr std::int32_t turretCount = 53;
+    constexpr std::int64_t sections = 54;
+    if (record.otype != otype::Ships || record.size() <= turretCount)
+        return false;
+    const auto turrets = record.ValueInteger(turretCount);
+    return turrets && sections + 4 * std::int64_t{*turrets} == index;
+}
+
+} // namespace
+
+const Field* FieldTable::Find(std::int32_t index, std::int32_t size) const noexcept {
+    const auto found = std::find_if(Fields.begin(), Fields.end(), [=](const Field& field) {
+        return (field.Index < 0 ? std::int64_t{size} + field.Index : field.Index) == index;
+    });
+    return found == Fields.end() ? nullptr : &*found;
+}
+
+const FieldTable& FieldsOf(std::int32_t Type) {
+    const bool known = Type >= 0 && Type < std::ssize(Tables);
+    return known ? *Tables[static_cast<std::size_t>(Type)] : NoFields;
+}
+
+std::string CommonFieldName(std::int32_t Size, std::int32_t Index) {
+    if (Index < CommonHeadCount)
+        return ListItem(CommonHeadNames, Index, true);
+    if (Index < Size - 11)
+        return {};
+    return ListItem(CommonTailNames, Size - Index - 2, true);
+}
+
+std::string FieldName(const clsTXTObject& Record, std::int32_t Index) {
+    const FieldTable& table = FieldsOf(Record.otype);
+    const Field* const row = table.Find(Index, Record.size());
+    if (row != nullptr && !row->Name.empty())
+        return std::string(row->Name);
+    if (CountsGunGroups(Record, Index))
+        return "Gun groups count";
+    const std::string common =
+        table.Common == Frame::None ? std::string() : CommonFieldName(Record.size(), Index);
+    return common.empty() ? "Unknown value" : common;
+}
+
+std::int32_t FieldValueType(std::int32_t Type, std::int32_t Size, std::int32_t Index) {
+    const FieldTable& table = FieldsOf(Type);
+    if (table.Common == Frame::Full && Index >= 0 && Index < CommonHeadCount)
+        return CommonHeadTypes[static_cast<std::size_t>(Index)];
+    const Field* const row = table.Find(Index, Size);
+    return row != nullptr ? row->Type : valuetype::Integer;
+}
+
+std::int32_t FieldTranslation(std::int32_t Type, std::int32_t Version, std::int32_t Size,
+                              std::int32_t Index) {
+    const FieldTable& table = FieldsOf(Type);
+    if (Index == SubtypeField && HasSymbolicSubtype(Type, Version))
+        return translation::List;
+    const Field* const row = table.Find(Index, Size);
+    if (row != nullptr && row->Translation != translation::None)
+        return Version >= row->Since ? row->Translation : translation::None;
+    return table.Common == Frame::Full && Index == Size - WareClassFromEnd ? translation::List
+                                                                           : translation::None;
+}
+
+std::string_view FieldUnit(std::int32_t Type, std::int32_t Size, std::int32_t Index) {
+    const Field* const row = FieldsOf(Type).Find(Index, Size);
+    return row != nullptr ? row->Unit : std::string_view();
+}
+
+bool HasSymbolicSubtype(std::int32_t Type, std::int32_t Version) {
+    const Symbolic* const row = SymbolicOf(Type);
+    return row != nullptr && Version >= row->Since;
+}
+
+const TextTable& SubtypesOf(std::int32_t Type) {
+    const Symbolic* const row = SymbolicOf(Type);
+    return row != nullptr ? *row->Words : NoSubtypes;
+}

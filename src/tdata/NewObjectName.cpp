@@ -1,0 +1,31 @@
+#include "tdata/NewObjectName.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+namespace {
+
+constexpr std::string_view BaseWord = "NEW_OBJECT";
+constexpr double Most = 1e15; ///< larger ones could not be told apart from their successor
+
+/// The number at the end of an ID that holds the base word; 0 if there is none.
+double NumberOf(std::string_view id) {
+    if (id.find(BaseWord) == id.npos)
+        return 0;
+    // The word may stand anywhere: what counts is as long as the rest of the ID, from its end.
+    std::string_view number = id.substr(BaseWord.size());
+    if (number.size() > 1)
+        number.remove_prefix(1);
+    const double value = std::nearbyint(keshobjects::readNumber(number).value_or(0));
+    return value < Most ? value : 0;
+}
+
+} // namespace
+
+std::string NewObjectName(const clsTxtParser& Parser) {
+    double highest = 0;
+    for (const RecordPtr& record : Parser.ByIndex())
+        highest = std::max(highest, NumberOf(record->ObjectName()));
+    return std::string(BaseWord) + "_" + keshobjects::spellNumber(highest + 1);
+}

@@ -1,0 +1,12 @@
+// Jobs are spoken of by the logical fields of a record of 120; older versions store fewer.
+#pragma once
+
+#include <cstdint>
+
+inline constexpr std::int32_t JobFieldCount = 120;
+
+/// Where a logical field stands in a record of `Size` values. A field that the version does not
+/// have gives its neighbour's place.
+[[nodiscard]] std::int32_t JobPhysicalIndex(std::int32_t Size, std::int32_t Logical);
+/// The logical field that stands at a place.
+[[nodiscard]] std::int32_t JobLogicalIndex(std::int32_t Size, std::int32_t Physical);

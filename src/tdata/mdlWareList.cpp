@@ -1,0 +1,51 @@
+#include "tdata/mdlWareList.h"
+
+#include "tdata/clsArchive.h"
+#include "tdata/mdlKeshConst.h"
+#include "textres/ResourceText.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace {
+
+constexpr std::string_view MergedFiles[] = {"TWareB", "TWareE",   "TWareF",    "TWareM", "TWareN",
+                                            "TWareT", "TShields", "TMissiles", "TLaser"};
+
+constexpr std::int32_t NamePage = 17;
+constexpr std::int32_t NameField = 6;
+/// Types whose name is that of the common frame; every other ware has it in front.
+constexpr std::int32_t FramedTypes[] = {otype::Shields, otype::Laser, otype::Missiles, otype::Ware};
+
+std::string TextOf(const clsTXTObject& record) {
+    const bool framed = std::find(std::begin(FramedTypes), std::end(FramedTypes), record.otype) !=
+                        std::end(FramedTypes);
+    const std::int32_t field = framed ? NameField : 0;
+    const auto id = field < record.size() ? record.ValueInteger(field) : std::nullopt;
+    const auto text = id ? ResourceText(NamePage, *id) : std::nullopt;
+    return text ? *text : std::string(record.ObjectName());
+}
+
+} // namespace
+
+std::unique_ptr<clsTxtParser> BuildWareList() {
+    auto merged = std::make_unique<clsTxtParser>();
+    std::int32_t index = 1;
+    for (const std::string_view name : MergedFiles) {
+        const auto file = Archive ? Archive->GetFile(name) : nullptr;
+        if (!file)
+            continue;
+        for (const RecordPtr& record : file->ByIndex()) {
+            const RecordPtr copy = record->Clone();
+            copy->ID = index++;
+            merged->AddObjectP(copy, {});
+        }
+    }
+    return merged;
+}
+
+std::string GetWareName(const clsTxtParser& Parser, const std::string& ID) {
+    const RecordPtr record = Parser.FindID(ID);
+    const std::string name = record && record->otype != otype::None ? TextOf(*record) : "";
+    return name.empty() ? ID : name;
+}

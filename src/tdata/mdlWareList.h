@@ -1,0 +1,14 @@
+// All wares that the game can trade, in one list.
+#pragma once
+
+#include "tdata/clsTxtParser.h"
+
+#include <memory>
+#include <string>
+
+/// A new container of copies of all records of the ware files, shields, missiles and lasers, keyed
+/// from 1 in the order in which ware lists and jobs count them. A file that cannot be had is
+/// skipped.
+[[nodiscard]] std::unique_ptr<clsTxtParser> BuildWareList();
+/// The name of the ware with that ID in the user's language; the ID itself if there is none.
+[[nodiscard]] std::string GetWareName(const clsTxtParser& Parser, const std::string& ID);

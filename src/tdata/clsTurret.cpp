@@ -1,0 +1,77 @@
+#include "tdata/clsTurret.h"
+
+#include "core/KeshError.h"
+#include "core/mdlComFunctions.h"
+#include "tdata/clsShip.h"
+#include "tdata/mdlKeshShips.h"
+#include "tdata/mdlRecordNumbers.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array<std::string_view, 4> Labels{"Index", "Turr. Idx", "Body ID", "Path Idx"};
+constexpr std::array<std::string_view, 2> PairLabels{"Type", "Position"};
+
+} // namespace
+
+std::span<const std::string_view> clsTurret::ColumnLabels() {
+    return Labels;
+}
+
+std::span<const std::string_view> clsTurret::DescriptorLabels() {
+    return PairLabels;
+}
+
+std::int32_t clsTurret::Integer(std::int32_t i) const {
+    return m_ship->Integer(m_offset + i);
+}
+
+KeshValue clsTurret::DescriptorValue(std::int32_t i) const {
+    CheckListIndex(i, 1, "clsTurret");
+    return IsTurret() ? m_ship->Value(DescriptorOffset() + i) : KeshValue(0);
+}
+
+void clsTurret::SetDescriptorValue(std::int32_t i, const KeshValue& value) {
+    CheckListIndex(i, 1, "clsTurret");
+    if (!IsTurret())
+        throw KeshError(errnum::Forbidden, "clsTurret", "Guns don't have turret descriptors.");
+    m_ship->SetValue(DescriptorOffset() + i, value);
+}
+
+KeshValue clsTurret::Value(std::int32_t i) const {
+    CheckListIndex(i, size(), "clsTurret");
+    return m_ship->Value(m_offset + i);
+}
+
+void clsTurret::SetValue(std::int32_t i, const KeshValue& value) {
+    CheckListIndex(i, size(), "clsTurret");
+    m_ship->SetValue(m_offset + i, value);
+}
+
+std::string clsTurret::BodyID() const {
+    return std::string(m_ship->Object->ValueText(m_offset + 2));
+}
+
+bool clsTurret::TranslateDescValue(std::int32_t i, std::string& text) const {
+    const std::int32_t position = i == 1 ? Position() : 0;
+    if (position != 0)
+        text =
+            TableText(TurretPositionNames.Rows, std::int64_t{position} - TurretPositionNames.First);
+    return position != 0;
+}
+
+std::int32_t clsTurret::DescriptorOffset() const {
+    return CheckedInteger((std::int64_t{index()} - 2) * 2 + clsShip::SectionDescriptors);
+}
+
+std::int32_t clsTurret::Position() const {
+    return IsTurret() ? m_ship->Integer(CheckedInteger(std::int64_t{DescriptorOffset()} + 1)) : 0;
+}
+
+std::string clsTurret::PositionName() const {
+    if (!IsTurret())
+        return "front cockpit";
+    std::string text;
+    return TranslateDescValue(1, text) ? text : std::to_string(Position());
+}

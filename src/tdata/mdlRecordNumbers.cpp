@@ -1,0 +1,52 @@
+#include "tdata/mdlRecordNumbers.h"
+
+#include "core/KeshError.h"
+
+#include <utility>
+
+namespace {
+
+[[noreturn]] void Throw(std::uint32_t number, const std::string& text) {
+    throw KeshError(number, "clsTXTObject", text);
+}
+
+std::string Described(const clsTXTObject& record, std::int32_t index) {
+    return "value " + std::to_string(index) + " is \"" +
+           std::string(record.ValueText(index).substr(0, 40)) + "\".";
+}
+
+} // namespace
+
+double RecordNumber(const clsTXTObject& record, std::int32_t index) {
+    if (const auto number = record.ValueNumber(index))
+        return *number;
+    if (std::holds_alternative<std::monostate>(record.Value(index)))
+        return 0;
+    // What was set as text may spell a number, and a file that is loaded again gives it as one.
+    if (const auto number = keshobjects::readNumber(record.ValueText(index)))
+        return *number;
+    Throw(errnum::TypeMismatch, "Type mismatch: " + Described(record, index));
+}
+
+std::int32_t RecordInteger(const clsTXTObject& record, std::int32_t index) {
+    if (const auto whole = keshobjects::roundToInteger(RecordNumber(record, index)))
+        return *whole;
+    Throw(errnum::Overflow, "Overflow: " + Described(record, index));
+}
+
+std::int32_t RoundedInteger(double number) {
+    if (const auto whole = keshobjects::roundToInteger(number))
+        return *whole;
+    Throw(errnum::Overflow, "Overflow");
+}
+
+std::int32_t CheckedInteger(std::int64_t number) {
+    if (!std::in_range<std::int32_t>(number))
+        Throw(errnum::Overflow, "Overflow");
+    return static_cast<std::int32_t>(number);
+}
+
+void CheckListIndex(std::int32_t index, std::int32_t last, const char* source, const char* text) {
+    if (index < 0 || index > last)
+        throw KeshError(errnum::General, source, text);
+}

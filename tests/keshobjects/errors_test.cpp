@@ -5,7 +5,7 @@ namespace {
 
 TEST(Errors, EveryCodeHasATextOfItsOwn) {
     std::vector<std::string> texts;
-    for (std::int32_t code = KESH_E_READ; code <= KESH_E_ARGUMENT; ++code) {
+    for (std::int32_t code = KESH_E_READ; code <= KESH_E_CHARACTER; ++code) {
         keshobjects::lastError().set(code, {"FILE", "PLACE", "REASON"});
         const std::string text = support::lastErrorText();
         EXPECT_TRUE(text.find("FILE") != text.npos || text.find("REASON") != text.npos) << text;

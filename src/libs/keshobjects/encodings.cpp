@@ -1,5 +1,6 @@
 #include "keshobjects/encodings.h"
 
+#include "keshobjects/places.h"
 #include "lornfd/paths.h"
 
 #include <algorithm>
@@ -197,6 +198,10 @@ constexpr Signature signatures[] = {
     {"\xFE\xFF"sv, &utf16Big},
 };
 
+std::string_view trimStart(std::string_view text) {
+    return {std::find_if_not(text.begin(), text.end(), isBlank), text.end()};
+}
+
 } // namespace
 
 const Encoding& utf8() noexcept {
@@ -214,6 +219,30 @@ const Encoding* findEncoding(std::string_view name) noexcept {
 const Signature* signatureOf(KeshXmlMark mark) noexcept {
     const auto row = static_cast<std::size_t>(mark);
     return row < std::size(signatures) ? &signatures[row] : nullptr;
+}
+
+std::string hexByte(char byte) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    const auto value = static_cast<unsigned char>(byte);
+    return {'0', 'x', digits[value >> 4U], digits[value & 0xFU]};
+}
+
+std::string_view declaredEncoding(std::string_view text) noexcept {
+    constexpr std::string_view opening = "<?xml";
+    constexpr std::string_view attribute = "encoding";
+    const std::string_view declaration = text.substr(0, text.find("?>"));
+    const std::size_t found = declaration.find(attribute);
+    if (!declaration.starts_with(opening) || found == declaration.npos)
+        return {};
+    std::string_view rest = trimStart(declaration.substr(found + attribute.size()));
+    if (!rest.starts_with('='))
+        return {};
+    rest = trimStart(rest.substr(1));
+    if (!rest.starts_with('"') && !rest.starts_with('\''))
+        return {};
+    const char quote = rest.front();
+    rest.remove_prefix(1);
+    return rest.substr(0, rest.find(quote));
 }
 
 KeshXmlMark findMark(std::string_view bytes) noexcept {

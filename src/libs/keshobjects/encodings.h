@@ -27,8 +27,12 @@ struct Signature {
 [[nodiscard]] const Encoding& utf8() noexcept;
 /// By its name in a declaration, without regard to case; null if it is not known.
 [[nodiscard]] const Encoding* findEncoding(std::string_view name) noexcept;
+/// The encoding's name in the XML declaration at the start of a text; empty if there is none.
+[[nodiscard]] std::string_view declaredEncoding(std::string_view text) noexcept;
 /// Null for a number that is no mark.
 [[nodiscard]] const Signature* signatureOf(KeshXmlMark mark) noexcept;
+/// "0xE4", for messages.
+[[nodiscard]] std::string hexByte(char byte);
 /// What a file begins with.
 [[nodiscard]] KeshXmlMark findMark(std::string_view bytes) noexcept;
 

@@ -17,8 +17,11 @@ constexpr lornfd::ErrorText texts[] = {
     {KESH_E_ENCODING, "\"{file}\" is in the encoding \"{reason}\", which is not known."},
     {KESH_E_DECODE, "\"{file}\" could not be converted: {reason} in {place}."},
     {KESH_E_NOT_FOUND, "\"{file}\" was not found."},
-    {KESH_E_HANDLE, "{reason} is not the handle of a loaded text."},
+    {KESH_E_HANDLE, "{reason} is not a handle of the right kind."},
     {KESH_E_ARGUMENT, "Not allowed here: {reason}."},
+    {KESH_E_LANGUAGE_FILE, "\"{file}\" is no language file: {reason} in {place}."},
+    {KESH_E_ID_TAKEN, "There is a {place} with the number {reason} already."},
+    {KESH_E_CHARACTER, "A language file cannot hold the byte {reason} at {place}."},
 };
 
 } // namespace

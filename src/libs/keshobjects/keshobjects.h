@@ -26,6 +26,9 @@ enum KeshObjectsError : std::int32_t {
     KESH_E_NOT_FOUND, ///< a "vfs://" name that is nowhere
     KESH_E_HANDLE,
     KESH_E_ARGUMENT,
+    KESH_E_LANGUAGE_FILE, ///< not a language file, or a broken one
+    KESH_E_ID_TAKEN,      ///< another page or string there has the id
+    KESH_E_CHARACTER,     ///< a character that XML cannot hold, or bytes that are not UTF-8
 };
 
 // Container types (Kesh_GetObjectType)
@@ -55,11 +58,13 @@ inline constexpr std::int32_t KESH_VALUE_STRING = 3;
 /// special.
 void Kesh_TXTIgnoreRemarks(std::int32_t Flag);
 /// Copies an open file's unpacked text into memory; nothing depends on the file afterwards. Kinds 0
-/// and 1 are T texts. Gives a text handle.
+/// and 1 are T texts, kind 3 is a language file (keshtexts.h). Gives a handle.
 std::int32_t Kesh_LoadFromFile(std::int32_t File, std::int32_t Kind);
 /// The same from memory; `Name` stands in messages.
 std::int32_t Kesh_LoadFromMemory(std::string_view Text, std::string_view Name);
-std::int32_t Kesh_GetObjectType(std::int32_t Text);
+/// KESH_TYPE_XML_TEXT, KESH_TYPE_T_TEXT, or the kind of an object of keshtexts.h.
+std::int32_t Kesh_GetObjectType(std::int32_t Object);
+/// Frees a text or language file (`Parent` 0), or takes a page or string out of its parent.
 std::int32_t Kesh_DeleteHandle(std::int32_t Parent, std::int32_t Object);
 
 /// Reads the next value and steps over it and its ";".

@@ -1,6 +1,7 @@
 #include "keshobjects/errors.h"
 #include "keshobjects/keshobjects.h"
 #include "keshobjects/places.h"
+#include "keshobjects/textobjects.h"
 #include "keshobjects/tokenizer.h"
 #include "lornfd/lornfd.h"
 
@@ -21,7 +22,9 @@ constexpr std::size_t shownLength = 40; ///< of a value in a message
 
 bool ignoreRemarks = false;
 
-/// Texts by handle less 1; freed ones are null and their handles given again.
+constexpr std::uint32_t firstHandle = 2; ///< 1 is the store of language texts
+
+/// Texts by handle less the first; freed ones are null and their handles given again.
 std::vector<Text>& texts() {
     static std::vector<Text> table;
     return table;
@@ -33,14 +36,14 @@ std::int32_t addText(Text text) {
     if (free == table.end())
         free = table.emplace(free);
     *free = std::move(text);
-    return static_cast<std::int32_t>(free - table.begin()) + 1;
+    return static_cast<std::int32_t>(free - table.begin() + firstHandle);
 }
 
 /// Null with the last error set for a bad handle.
 Tokenizer* findText(std::int32_t handle) {
     auto& table = texts();
-    // 0 and negative handles become large positions.
-    const auto position = static_cast<std::uint32_t>(handle) - 1U;
+    // Smaller and negative handles become large positions.
+    const auto position = static_cast<std::uint32_t>(handle) - firstHandle;
     Tokenizer* const text = position < table.size() ? table[position].get() : nullptr;
     if (text == nullptr)
         lastError().set(KESH_E_HANDLE, {{}, {}, std::to_string(handle)});
@@ -122,6 +125,8 @@ void Kesh_TXTIgnoreRemarks(std::int32_t Flag) {
 
 std::int32_t Kesh_LoadFromFile(std::int32_t File, std::int32_t Kind) {
     lastError().clear();
+    if (Kind == textFileKind)
+        return loadTextFile(File);
     if (Kind != 0 && Kind != 1)
         return lastError().set(KESH_E_ARGUMENT, {{}, {}, "kind " + std::to_string(Kind)});
     const std::string name = LornFD_FileName(File);
@@ -146,17 +151,21 @@ std::int32_t Kesh_LoadFromMemory(std::string_view Text, std::string_view Name) {
     });
 }
 
-std::int32_t Kesh_GetObjectType(std::int32_t Text) {
-    const Tokenizer* const text = textOf(Text);
+std::int32_t Kesh_GetObjectType(std::int32_t Object) {
+    if (const std::int32_t kind = textObjectKind(Object))
+        return kind;
+    const Tokenizer* const text = textOf(Object);
     if (text == nullptr)
         return 0;
     return text->looksLikeXml() ? KESH_TYPE_XML_TEXT : KESH_TYPE_T_TEXT;
 }
 
-std::int32_t Kesh_DeleteHandle(std::int32_t /*Parent*/, std::int32_t Object) {
+std::int32_t Kesh_DeleteHandle(std::int32_t Parent, std::int32_t Object) {
+    if (textObjectKind(Object) != 0)
+        return deleteTextObject(Parent, Object);
     if (textOf(Object) == nullptr)
         return 0;
-    texts()[static_cast<std::uint32_t>(Object) - 1U].reset();
+    texts()[static_cast<std::uint32_t>(Object) - firstHandle].reset();
     return 1;
 }
 

@@ -2,7 +2,6 @@
 #include "keshobjects/errors.h"
 #include "keshobjects/keshobjects.h"
 #include "keshobjects/lines.h"
-#include "keshobjects/places.h"
 #include "keshvfs/keshvfs.h"
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
@@ -10,35 +9,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <new>
 
 namespace keshobjects {
 namespace {
 
 constexpr std::string_view viewPrefix = "vfs://";
-
-std::string_view trimStart(std::string_view text) {
-    return {std::find_if_not(text.begin(), text.end(), isBlank), text.end()};
-}
-
-/// The encoding's name in the XML declaration at the start of a text; empty if there is none.
-std::string_view declaredEncoding(std::string_view text) {
-    constexpr std::string_view opening = "<?xml";
-    constexpr std::string_view attribute = "encoding";
-    const std::string_view declaration = text.substr(0, text.find("?>"));
-    const std::size_t found = declaration.find(attribute);
-    if (!declaration.starts_with(opening) || found == declaration.npos)
-        return {};
-    std::string_view rest = trimStart(declaration.substr(found + attribute.size()));
-    if (!rest.starts_with('='))
-        return {};
-    rest = trimStart(rest.substr(1));
-    if (!rest.starts_with('"') && !rest.starts_with('\''))
-        return {};
-    const char quote = rest.front();
-    rest.remove_prefix(1);
-    return rest.substr(0, rest.find(quote));
-}
 
 /// The encoding of a mark, or else the one that the text declares, or else UTF-8; null with the
 /// last error set if that is not known.
@@ -102,12 +77,6 @@ std::int32_t failDecoding(std::string_view file, std::string_view before, std::s
                             std::move(reason)});
 }
 
-std::string hexByte(char byte) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    const auto value = static_cast<unsigned char>(byte);
-    return {'0', 'x', digits[value >> 4U], digits[value & 0xFU]};
-}
-
 /// The path behind a "vfs://" name, other names as they are; empty with the last error set.
 std::string realName(std::string_view name) {
     if (!lornfd::equalNoCase(name.substr(0, viewPrefix.size()), viewPrefix))
@@ -167,18 +136,6 @@ std::int32_t encode(std::string_view text, KeshXmlMark mark, std::string_view fi
     }
     encoded = std::move(bytes);
     return 1;
-}
-
-/// Runs what needs as much memory as a file has.
-template <typename Work>
-std::int32_t withMemory(KeshObjectsError code, std::string_view file, Work work) {
-    lastError().clear();
-    try {
-        return work();
-    } catch (const std::bad_alloc&) {
-        return lastError().set(code,
-                               {{}, {}, "Not enough memory for \"" + std::string(file) + "\"."});
-    }
 }
 
 } // namespace

@@ -1,0 +1,188 @@
+#include "keshobjects/textstore.h"
+
+#include "keshobjects/errors.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+
+namespace keshobjects {
+
+// --- Arena
+
+char* TextArena::add(std::size_t size) {
+    // Uninitialized: a block is filled before it is read.
+    m_blocks.emplace_back(new char[size]);
+    return m_blocks.back().get();
+}
+
+const char* TextArena::keep(std::string_view text) {
+    char* to = nullptr;
+    if (text.size() > blockSize / 8) {
+        to = add(text.size());
+    } else {
+        if (text.size() > m_left) {
+            m_free = add(blockSize);
+            m_left = blockSize;
+        }
+        to = m_free;
+        m_free += text.size();
+        m_left -= text.size();
+    }
+    std::copy(text.begin(), text.end(), to);
+    return to;
+}
+
+void TextArena::goBack(const Mark& mark) noexcept {
+    m_blocks.resize(mark.blocks);
+    m_free = mark.free;
+    m_left = mark.left;
+}
+
+// --- Store
+
+bool TextStore::load(std::string_view bytes, std::string_view file) {
+    if (bytes.size() > std::numeric_limits<std::uint32_t>::max())
+        return lastError().set(KESH_E_TOO_BIG, {std::string(file), {}, {}}) != 0;
+    DecodedText decoded;
+    if (!decodeLanguageFile(bytes, file, decoded))
+        return false;
+    LanguageReader reader(decoded.text, file);
+    const TextArena::Mark mark = m_texts.mark();
+    const std::uint32_t from = m_size;
+    try {
+        std::vector<NewPage> pages;
+        if (read(reader, pages)) {
+            reserve(m_size);
+            merge(from, pages);
+            return true;
+        }
+    } catch (...) {
+        m_size = from;
+        m_texts.goBack(mark);
+        throw;
+    }
+    m_size = from;
+    m_texts.goBack(mark);
+    return false;
+}
+
+void TextStore::clear() {
+    const std::int32_t kept = language;
+    *this = TextStore();
+    language = kept;
+}
+
+bool TextStore::read(LanguageReader& reader, std::vector<NewPage>& pages) {
+    using Part = LanguageReader::Part;
+    std::optional<std::int32_t> page;
+    for (;;) {
+        switch (reader.next()) {
+        case Part::Page:
+            page = reader.number("id");
+            if (m_pages.size() + pages.size() >= maxPages)
+                throw std::bad_alloc();
+            if (page)
+                pages.push_back({*page, reader.number("voice"), reader.attribute("title"),
+                                 reader.attribute("description")});
+            break;
+        case Part::String:
+            if (const auto id = reader.number("id"); id && page)
+                append(*page, *id, reader.text());
+            break;
+        case Part::FileEnd:
+            return true;
+        case Part::Failed:
+            return false;
+        default:
+            break;
+        }
+    }
+}
+
+void TextStore::append(std::int32_t page, std::int32_t id, std::string_view text) {
+    if (m_size == maxStrings)
+        throw std::bad_alloc();
+    if (m_size / chunkSize == m_strings.size())
+        m_strings.emplace_back(new StoredString[chunkSize]);
+    at(m_size) = {m_texts.keep(text), static_cast<std::uint32_t>(text.size()), id, page, 0};
+    ++m_size;
+}
+
+void TextStore::reserve(std::size_t strings) {
+    constexpr std::size_t smallest = 16;
+    const std::size_t wanted = std::bit_ceil(std::max(strings + strings / 2, smallest));
+    if (wanted <= m_slots.size())
+        return;
+    std::vector<std::uint32_t>(wanted).swap(m_slots);
+    for (const StoredPage& page : m_pages)
+        for (std::uint32_t position = page.first, i = 0; i < page.count; ++i) {
+            const StoredString& string = at(position);
+            m_slots[slotOf(string.page, string.id)] = position + 1;
+            position = string.next;
+        }
+}
+
+/// The slot where a string stands, or else would.
+std::size_t TextStore::slotOf(std::int32_t page, std::int32_t id) const noexcept {
+    const std::uint64_t key =
+        (std::uint64_t{static_cast<std::uint32_t>(page)} << 32U) | static_cast<std::uint32_t>(id);
+    // Multiplied by the golden ratio, the high bits spread well.
+    const auto bits = static_cast<unsigned>(std::countr_zero(m_slots.size()));
+    std::size_t slot = (key ^ key >> 32U) * 0x9E3779B97F4A7C15U >> (64U - bits);
+    for (;; slot = (slot + 1) & (m_slots.size() - 1)) {
+        if (m_slots[slot] == 0)
+            return slot;
+        const StoredString& string = this->string(m_slots[slot] - 1);
+        if (string.id == id && string.page == page)
+            return slot;
+    }
+}
+
+std::optional<std::uint32_t> TextStore::find(std::int32_t page, std::int32_t id) const noexcept {
+    const std::uint32_t found = m_slots.empty() ? 0 : m_slots[slotOf(page, id)];
+    return found == 0 ? std::nullopt : std::optional(found - 1);
+}
+
+/// Puts the strings read since `from` into table and pages. One that was there takes the new text.
+void TextStore::merge(std::uint32_t from, const std::vector<NewPage>& pages) {
+    for (const NewPage& page : pages)
+        mergePage(page);
+    const std::uint32_t end = m_size;
+    m_size = from;
+    for (std::uint32_t i = from; i < end; ++i) {
+        const StoredString read = at(i);
+        std::uint32_t& slot = m_slots[slotOf(read.page, read.id)];
+        if (slot != 0) {
+            StoredString& known = at(slot - 1);
+            known.bytes = read.bytes;
+            known.size = read.size;
+            continue;
+        }
+        at(m_size) = read;
+        link(m_size);
+        slot = ++m_size;
+    }
+}
+
+void TextStore::mergePage(const NewPage& page) {
+    const auto [known, isNew] =
+        m_pageById.try_emplace(page.id, static_cast<std::uint32_t>(m_pages.size()));
+    if (isNew)
+        m_pages.emplace_back().id = page.id;
+    StoredPage& merged = m_pages[known->second];
+    merged.voice = page.voice.value_or(merged.voice);
+    merged.title = page.title.value_or(merged.title);
+    merged.description = page.description.value_or(merged.description);
+}
+
+void TextStore::link(std::uint32_t position) {
+    StoredPage& page = m_pages[m_pageById.find(at(position).page)->second];
+    if (page.count++ == 0)
+        page.first = position;
+    else
+        at(page.last).next = position;
+    page.last = position;
+}
+
+} // namespace keshobjects

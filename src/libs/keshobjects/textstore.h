@@ -1,0 +1,89 @@
+// All texts of a language: what its files hold, merged, small and found by a hash.
+#pragma once
+
+#include "keshobjects/languagereader.h"
+#include "keshobjects/textarena.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace keshobjects {
+
+struct StoredString {
+    const char* bytes;
+    std::uint32_t size;
+    std::int32_t id;
+    std::int32_t page;  ///< its id
+    std::uint32_t next; ///< the next string of the page
+
+    [[nodiscard]] std::string_view text() const noexcept { return {bytes, size}; }
+};
+
+struct StoredPage {
+    std::int32_t id = 0;
+    std::int32_t voice = 0;
+    std::string title;
+    std::string description;
+    std::uint32_t count = 0; ///< of strings
+    std::uint32_t first = 0;
+    std::uint32_t last = 0;
+};
+
+class TextStore {
+public:
+    /// Positions of strings and pages stay below these.
+    static constexpr std::uint32_t maxStrings = 1U << 30U;
+    static constexpr std::uint32_t maxPages = 1U << 28U;
+
+    /// Adds a file. False with the last error set, and nothing added, if it is broken.
+    bool load(std::string_view bytes, std::string_view file);
+    /// The language is kept.
+    void clear();
+
+    [[nodiscard]] std::optional<std::uint32_t> find(std::int32_t page,
+                                                    std::int32_t id) const noexcept;
+    [[nodiscard]] std::uint32_t size() const noexcept { return m_size; }
+    [[nodiscard]] const StoredString& string(std::uint32_t position) const noexcept {
+        return m_strings[position / chunkSize][position % chunkSize];
+    }
+    /// In the order in which they first came.
+    [[nodiscard]] const std::vector<StoredPage>& pages() const noexcept { return m_pages; }
+
+    std::int32_t language = 0;
+    bool resolving = false; ///< strings are read with their references resolved
+
+private:
+    /// A page of the file being loaded; what is missing does not change the page of the store.
+    struct NewPage {
+        std::int32_t id;
+        std::optional<std::int32_t> voice;
+        std::optional<std::string> title;
+        std::optional<std::string> description;
+    };
+    static constexpr std::uint32_t chunkSize = 4096;
+
+    bool read(LanguageReader& reader, std::vector<NewPage>& pages);
+    void append(std::int32_t page, std::int32_t id, std::string_view text);
+    void merge(std::uint32_t from, const std::vector<NewPage>& pages);
+    void mergePage(const NewPage& page);
+    void link(std::uint32_t position);
+    void reserve(std::size_t strings);
+    [[nodiscard]] std::size_t slotOf(std::int32_t page, std::int32_t id) const noexcept;
+    StoredString& at(std::uint32_t position) noexcept {
+        return m_strings[position / chunkSize][position % chunkSize];
+    }
+
+    TextArena m_texts;
+    std::vector<std::unique_ptr<StoredString[]>> m_strings;
+    std::uint32_t m_size = 0;
+    std::vector<std::uint32_t> m_slots; ///< positions + 1, 0 is free; a power of 2 in number
+    std::vector<StoredPage> m_pages;
+    std::unordered_map<std::int32_t, std::uint32_t> m_pageById;
+};
+
+} // namespace keshobjects

@@ -1,0 +1,231 @@
+#include "keshobjects/xmlreader.h"
+
+#include "keshobjects/xmltext.h"
+
+#include <algorithm>
+#include <array>
+
+namespace keshobjects {
+namespace {
+
+using namespace std::string_view_literals;
+
+enum CharacterClass : unsigned char { Blank = 1, NameStart = 2, Name = 4 };
+
+constexpr std::array<unsigned char, 256> makeClasses() {
+    std::array<unsigned char, 256> classes{};
+    for (std::size_t c = 0; c < classes.size(); ++c) {
+        const bool letter =
+            (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' || c >= 0x80;
+        const bool other = (c >= '0' && c <= '9') || c == '-' || c == '.';
+        const bool blank = c == ' ' || c == '\t' || c == '\r' || c == '\n';
+        classes[c] = static_cast<unsigned char>((letter ? NameStart | Name : 0) |
+                                                (other ? Name : 0) | (blank ? Blank : 0));
+    }
+    return classes;
+}
+constexpr auto classes = makeClasses();
+
+bool is(char c, CharacterClass wanted) noexcept {
+    return (classes[static_cast<unsigned char>(c)] & wanted) != 0;
+}
+
+bool isBlankText(std::string_view text) noexcept {
+    return std::all_of(text.begin(), text.end(), [](char c) { return is(c, Blank); });
+}
+
+std::string quoted(std::string_view text) {
+    constexpr std::size_t shown = 40;
+    return '"' + std::string(text.substr(0, shown)) + (text.size() > shown ? "...\"" : "\"");
+}
+
+} // namespace
+
+XmlReader::Token XmlReader::next() {
+    if (m_failed)
+        return Token::Error;
+    m_begin = m_at;
+    if (m_pendingEnd) {
+        m_pendingEnd = false;
+        return close();
+    }
+    while (m_at < m_text.size()) {
+        m_begin = m_at;
+        if (m_text[m_at] != '<') {
+            const std::size_t end = std::min(m_text.find('<', m_at), m_text.size());
+            if (!m_open.empty())
+                return text(end);
+            if (!isBlankText(m_text.substr(m_at, end - m_at)))
+                return fail(m_at, "text outside the root element");
+            m_at = end;
+            continue;
+        }
+        const char sign = m_at + 1 < m_text.size() ? m_text[m_at + 1] : '\0';
+        if (sign != '!' && sign != '?')
+            return markup();
+        if (rest().starts_with("<![CDATA["))
+            return cdata();
+        if (!(rest().starts_with("<!--") ? passBehind("<!--", "-->", "remark")
+              : sign == '?'              ? passBehind("<?", "?>", "instruction")
+                                         : passDoctype()))
+            return Token::Error;
+    }
+    return finish();
+}
+
+XmlReader::Token XmlReader::fail(std::size_t place, std::string reason) {
+    m_failed = true;
+    m_place = place;
+    m_reason = std::move(reason);
+    return Token::Error;
+}
+
+XmlReader::Token XmlReader::finish() {
+    if (!m_open.empty())
+        return fail(m_text.size(), "the end where " + quoted(m_open.back()) + " is open");
+    return m_rootSeen ? Token::Finish : fail(m_text.size(), "no element");
+}
+
+XmlReader::Token XmlReader::text(std::size_t end) {
+    m_raw = m_text.substr(m_at, end - m_at);
+    if (const std::size_t bad = findBadReference(m_raw); bad != m_raw.npos)
+        return fail(m_at + bad, "an \"&\" that begins no known reference");
+    m_at = end;
+    return Token::Text;
+}
+
+XmlReader::Token XmlReader::cdata() {
+    if (m_open.empty())
+        return fail(m_at, "text outside the root element");
+    const std::size_t start = m_at + "<![CDATA["sv.size();
+    if (!passBehind("<![CDATA[", "]]>", "CDATA section"))
+        return Token::Error;
+    m_raw = m_text.substr(start, m_at - "]]>"sv.size() - start);
+    return Token::CData;
+}
+
+bool XmlReader::passBehind(std::string_view opening, std::string_view closing, const char* what) {
+    const std::size_t found = m_text.find(closing, m_at + opening.size());
+    if (found == m_text.npos) {
+        fail(m_at, std::string("a ") + what + " that never ends");
+        return false;
+    }
+    m_at = found + closing.size();
+    return true;
+}
+
+bool XmlReader::passDoctype() {
+    const std::size_t stop = m_text.find_first_of("[>", m_at);
+    if (!rest().starts_with("<!DOCTYPE") || m_rootSeen || stop == m_text.npos ||
+        m_text[stop] == '[') {
+        fail(m_at, rest().starts_with("<!DOCTYPE") && stop != m_text.npos && !m_rootSeen
+                       ? "a document type with declarations of its own"
+                       : "a \"<!\" that begins nothing known here");
+        return false;
+    }
+    m_at = stop + 1;
+    return true;
+}
+
+XmlReader::Token XmlReader::markup() {
+    return m_at + 1 < m_text.size() && m_text[m_at + 1] == '/' ? endTag() : startTag();
+}
+
+bool XmlReader::passBlanks() noexcept {
+    const std::size_t before = m_at;
+    while (m_at < m_text.size() && is(m_text[m_at], Blank))
+        ++m_at;
+    return m_at != before;
+}
+
+std::string_view XmlReader::takeName() noexcept {
+    const std::size_t start = m_at;
+    if (m_at < m_text.size() && is(m_text[m_at], NameStart))
+        while (m_at < m_text.size() && is(m_text[m_at], Name))
+            ++m_at;
+    return m_text.substr(start, m_at - start);
+}
+
+XmlReader::Token XmlReader::startTag() {
+    ++m_at;
+    m_name = takeName();
+    m_attributes.clear();
+    if (m_name.empty())
+        return fail(m_begin, "a \"<\" that begins no tag");
+    if (m_open.empty() && m_rootSeen)
+        return fail(m_begin, "a second root element");
+    if (m_open.size() == maxDepth)
+        return fail(m_begin, "more than " + std::to_string(maxDepth) + " elements open");
+    for (;;) {
+        const bool apart = passBlanks();
+        if (m_at == m_text.size())
+            return fail(m_begin, "a tag that never ends");
+        m_closed = rest().starts_with("/>");
+        if (m_closed || m_text[m_at] == '>')
+            break;
+        if (!apart)
+            return fail(m_at, "a character that does not belong into a tag");
+        if (!attribute())
+            return Token::Error;
+    }
+    m_at += m_closed ? 2 : 1;
+    m_pendingEnd = m_closed;
+    m_rootSeen = true;
+    m_open.push_back(m_name);
+    return Token::Start;
+}
+
+bool XmlReader::attribute() {
+    const std::size_t start = m_at;
+    const auto bad = [this, start](const char* reason) {
+        fail(start, reason);
+        return false;
+    };
+    const std::string_view name = takeName();
+    if (name.empty())
+        return bad("a character that does not belong into a tag");
+    passBlanks();
+    if (!rest().starts_with('='))
+        return bad("an attribute without a value");
+    ++m_at;
+    passBlanks();
+    const char quote = m_at < m_text.size() ? m_text[m_at] : '\0';
+    if (quote != '"' && quote != '\'')
+        return bad("an attribute's value without quotes");
+    const std::size_t end = m_text.find(quote, m_at + 1);
+    if (end == m_text.npos)
+        return bad("an attribute's value that never ends");
+    const std::string_view value = m_text.substr(m_at + 1, end - m_at - 1);
+    m_at = end + 1;
+    if (value.find('<') != value.npos)
+        return bad("a \"<\" in an attribute");
+    if (findBadReference(value) != value.npos)
+        return bad("an \"&\" that begins no known reference");
+    if (m_attributes.size() == maxAttributes)
+        return bad("an attribute too many");
+    for (const Attribute& other : m_attributes)
+        if (other.name == name)
+            return bad("an attribute for the second time");
+    m_attributes.push_back({name, value});
+    return true;
+}
+
+XmlReader::Token XmlReader::endTag() {
+    m_at += 2;
+    m_name = takeName();
+    passBlanks();
+    if (m_open.empty() || m_open.back() != m_name)
+        return fail(m_begin, "the end of " + quoted(m_name) + ", which is not the open element");
+    if (!rest().starts_with('>'))
+        return fail(m_begin, "a tag that never ends");
+    ++m_at;
+    return close();
+}
+
+XmlReader::Token XmlReader::close() {
+    m_name = m_open.back();
+    m_open.pop_back();
+    return Token::End;
+}
+
+} // namespace keshobjects

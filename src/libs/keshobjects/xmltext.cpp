@@ -1,0 +1,166 @@
+#include "keshobjects/xmltext.h"
+
+#include "keshobjects/encodings.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <optional>
+
+namespace keshobjects {
+namespace {
+
+constexpr bool isXmlCharacter(char32_t character) noexcept {
+    return character == '\t' || character == '\n' || character == '\r' ||
+           (character >= 0x20 && character < 0xD800) ||
+           (character >= 0xE000 && character < 0xFFFE) ||
+           (character >= 0x10000 && character < 0x110000);
+}
+
+/// True if all bytes are ASCII characters of XML; written so that the compiler can take many at
+/// once.
+bool isPlain(const char* bytes, std::size_t size) noexcept {
+    unsigned bad = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        const auto byte = static_cast<unsigned char>(bytes[i]);
+        const auto control =
+            static_cast<unsigned>(byte < 0x20) & static_cast<unsigned>(byte != '\t') &
+            static_cast<unsigned>(byte != '\n') & static_cast<unsigned>(byte != '\r');
+        bad |= control | static_cast<unsigned>(byte >= 0x80);
+    }
+    return bad == 0;
+}
+
+/// The size of the character of XML at the start of a text that is not empty; 0 if there is none.
+std::size_t characterSize(std::string_view text) noexcept {
+    const auto byte = [text](std::size_t at) { return static_cast<unsigned char>(text[at]); };
+    if (byte(0) < 0x80)
+        return isXmlCharacter(byte(0)) ? 1 : 0;
+    // Two bytes have no exception but the overlong ones.
+    if (byte(0) >= 0xC2 && byte(0) < 0xE0 && text.size() > 1 && (byte(1) & 0xC0U) == 0x80U)
+        return 2;
+    std::string_view rest = text;
+    const auto character = utf8().take(rest);
+    return character && isXmlCharacter(*character) ? text.size() - rest.size() : 0;
+}
+
+struct Named {
+    std::string_view name;
+    char character;
+};
+constexpr Named namedReferences[] = {
+    {"amp;", '&'}, {"lt;", '<'}, {"gt;", '>'}, {"quot;", '"'}, {"apos;", '\''}};
+
+/// Takes the reference off a text that begins behind its "&".
+std::optional<char32_t> takeReference(std::string_view& text) noexcept {
+    if (!text.starts_with('#')) {
+        for (const Named& named : namedReferences)
+            if (text.starts_with(named.name)) {
+                text.remove_prefix(named.name.size());
+                return static_cast<char32_t>(named.character);
+            }
+        return std::nullopt;
+    }
+    const bool hexadecimal = text.starts_with("#x");
+    const char* const end = text.data() + text.size();
+    std::uint32_t character = 0;
+    const auto [stop, error] =
+        std::from_chars(text.data() + (hexadecimal ? 2 : 1), end, character, hexadecimal ? 16 : 10);
+    if (error != std::errc() || stop == end || *stop != ';' || !isXmlCharacter(character))
+        return std::nullopt;
+    text.remove_prefix(static_cast<std::size_t>(stop + 1 - text.data()));
+    return character;
+}
+
+/// Appends a text as XML reads it, with `lineBreak` for each line break and `tab` for each tab.
+void appendRead(std::string_view text, std::string_view special, char lineBreak, char tab,
+                std::string& read) {
+    while (!text.empty()) {
+        const std::size_t plain = std::min(text.find_first_of(special), text.size());
+        read += text.substr(0, plain);
+        if (plain == text.size())
+            return;
+        const char found = text[plain];
+        text.remove_prefix(plain + 1);
+        if (found == '&') {
+            if (const auto character = takeReference(text))
+                utf8().append(*character, read);
+        } else if (found == '\t') {
+            read += tab;
+        } else {
+            if (found == '\r' && text.starts_with('\n'))
+                text.remove_prefix(1);
+            read += lineBreak;
+        }
+    }
+}
+
+struct Escape {
+    char character;
+    std::string_view written;
+};
+// The carriage return and, in attributes, tab and line break would be read as something else.
+constexpr Escape escapes[] = {{'&', "&amp;"},  {'<', "&lt;"},   {'>', "&gt;"}, {'\r', "&#13;"},
+                              {'"', "&quot;"}, {'\n', "&#10;"}, {'\t', "&#9;"}};
+
+void write(std::string_view text, std::string_view special, std::string& written) {
+    for (const char c : text) {
+        if (special.find(c) == special.npos)
+            written += c;
+        else
+            written += std::find_if(std::begin(escapes), std::end(escapes), [c](const Escape& row) {
+                           return row.character == c;
+                       })->written;
+    }
+}
+
+} // namespace
+
+std::size_t findNoXmlCharacter(std::string_view text) noexcept {
+    constexpr std::size_t piece = 32;
+    std::size_t at = 0;
+    while (at < text.size()) {
+        if (at + piece <= text.size() && isPlain(text.data() + at, piece)) {
+            at += piece;
+            continue;
+        }
+        for (const std::size_t end = std::min(at + piece, text.size()); at < end;) {
+            const std::size_t size = characterSize(text.substr(at));
+            if (size == 0)
+                return at;
+            at += size;
+        }
+    }
+    return text.npos;
+}
+
+std::size_t findBadReference(std::string_view text) noexcept {
+    for (std::size_t at = text.find('&'); at != text.npos; at = text.find('&', at + 1)) {
+        std::string_view rest = text.substr(at + 1);
+        if (!takeReference(rest))
+            return at;
+    }
+    return text.npos;
+}
+
+void appendXmlContent(std::string_view text, std::string& read) {
+    appendRead(text, "&\r", '\n', '\t', read);
+}
+
+void appendXmlCData(std::string_view text, std::string& read) {
+    appendRead(text, "\r", '\n', '\t', read);
+}
+
+void appendXmlAttribute(std::string_view text, std::string& read) {
+    appendRead(text, "&\r\n\t", ' ', ' ', read);
+}
+
+void writeXmlContent(std::string_view text, std::string& written) {
+    write(text, "&<>\r", written);
+}
+
+void writeXmlAttribute(std::string_view text, std::string& written) {
+    write(text, "&<>\r\"\n\t", written);
+}
+
+} // namespace keshobjects

@@ -1,6 +1,7 @@
 #include "sample/samplegame.h"
 
 #include "lornfd/lornfd.h"
+#include "sample/faults.h"
 #include "sample/gamefiles.h"
 #include "sample/output.h"
 #include "sample/ttext.h"
@@ -133,6 +134,20 @@ std::vector<GameFile> looseFiles(Game& game) {
     return files;
 }
 
+/// Below "faulty": copies in which something is wrong, and beside them the list of what.
+std::vector<GameFile> faultyCopies(Game& game) {
+    std::vector<TFileText> good;
+    for (const TFile& file : tFiles()) {
+        good.push_back({std::string(file.name), file.make(game, file.version)});
+        for (const int version : file.older)
+            good.push_back(
+                {std::string(file.name) + "_" + spell(version), file.make(game, version)});
+    }
+    FaultyFiles faulty = faultyFiles(good);
+    faulty.files.push_back({"faults.txt", std::move(faulty.list), LORNFD_PLAIN});
+    return std::move(faulty.files);
+}
+
 std::vector<GameFile> modCatalog(Game& game) {
     const int firstOwn = game.texts.nextObject();
     std::vector<GameFile> files = {
@@ -170,9 +185,10 @@ bool writeSampleGame(const std::string& directory, int scale, std::string& error
     Game game{std::clamp(scale, 1, 10000), {}};
     nameEverything(game);
     const std::filesystem::path root(directory);
-    for (const GameFile& file : looseFiles(game))
-        if (!writeLooseFile(root, file, error))
-            return false;
+    for (const auto& files : {looseFiles(game), faultyCopies(game)})
+        for (const GameFile& file : files)
+            if (!writeLooseFile(root, file, error))
+                return false;
     return writeCatalog(root / "01.cat", firstCatalog(game), error) &&
            writeCatalog(root / "02.cat", secondCatalog(game), error) &&
            writeCatalog(root / "mods" / "longhaul.cat", modCatalog(game), error);

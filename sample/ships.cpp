@@ -212,8 +212,11 @@ std::string shipFile(Game& game, int version) {
 std::string modShipFile(Game& game, int version) {
     Random random(102);
     TText text(version);
-    for (const Hull& hull : hulls)
-        text.add(shipOf(game, hull, 0, 0, version, random));
+    // All that the game's jobs ask for stay.
+    for (int repeat = 0; repeat < game.scale; ++repeat)
+        for (const Hull& hull : hulls)
+            for (int variant = 0; variant < variants; ++variant)
+                text.add(shipOf(game, hull, variant, repeat, version, random));
     for (const Hull& hull : modHulls)
         text.add(shipOf(game, hull, 3, 0, version, random));
     return text.finish();

@@ -1,7 +1,9 @@
 #include "tdata/FieldLookup.h"
 
 #include "tdata/mdlKeshConst.h"
+#include "tdata/mdlKeshJobs.h"
 #include "tdata/mdlKeshShips.h"
+#include "tdata/mdlShipLabels.h"
 
 #include <algorithm>
 #include <array>
@@ -84,6 +86,24 @@ std::string FieldName(const clsTXTObject& Record, std::int32_t Index) {
     const std::string common =
         table.Common == Frame::None ? std::string() : CommonFieldName(Record.size(), Index);
     return common.empty() ? "Unknown value" : common;
+}
+
+std::vector<std::string> FieldNames(const clsTXTObject& Record) {
+    const std::int32_t size = Record.size();
+    std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(size));
+    for (std::int32_t i = 0; i < size; ++i)
+        names.push_back(
+            FieldName(Record, Record.otype == otype::Jobs ? JobLogicalIndex(size, i) : i));
+    if (size > 0 && FieldsOf(Record.otype).Common != Frame::None)
+        names.back() = "ID";
+    if (Record.otype == otype::Ships) {
+        const auto labels = ShipFieldLabels(Record);
+        for (std::size_t i = 0; i < labels.size(); ++i)
+            if (!labels[i].empty())
+                names[i] = labels[i];
+    }
+    return names;
 }
 
 std::int32_t FieldValueType(std::int32_t Type, std::int32_t Size, std::int32_t Index) {

@@ -9,12 +9,12 @@ namespace {
 constexpr std::string_view BaseWord = "NEW_OBJECT";
 constexpr double Most = 1e15; ///< larger ones could not be told apart from their successor
 
-/// The number at the end of an ID that holds the base word; 0 if there is none.
+/// The number behind the base word in an ID, one sign between; 0 if there is none.
 double NumberOf(std::string_view id) {
-    if (id.find(BaseWord) == id.npos)
+    const std::size_t found = id.find(BaseWord);
+    if (found == id.npos)
         return 0;
-    // The word may stand anywhere: what counts is as long as the rest of the ID, from its end.
-    std::string_view number = id.substr(BaseWord.size());
+    std::string_view number = id.substr(found + BaseWord.size());
     if (number.size() > 1)
         number.remove_prefix(1);
     const double value = std::nearbyint(keshobjects::readNumber(number).value_or(0));

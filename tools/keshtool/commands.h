@@ -14,6 +14,10 @@ struct Arguments {
     std::optional<std::int32_t> fileType; ///< LORNFD_PLAIN, LORNFD_GZIP or LORNFD_ZSTD
     bool json = false;
     bool create = false;
+    bool names = false;
+    bool all = false;
+    bool raw = false;
+    std::int32_t language = 44; ///< English
 };
 
 using Command = ExitCode (*)(GameView&, const Arguments&);
@@ -30,3 +34,8 @@ ExitCode unpack(GameView& view, const Arguments& arguments);
 ExitCode put(GameView& view, const Arguments& arguments);
 ExitCode rm(GameView& view, const Arguments& arguments);
 ExitCode verify(GameView& view, const Arguments& arguments);
+// Texts
+ExitCode text(GameView& view, const Arguments& arguments);
+ExitCode texts(GameView& view, const Arguments& arguments);
+// What is wrong with the data
+ExitCode check(GameView& view, const Arguments& arguments);

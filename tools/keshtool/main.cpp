@@ -21,6 +21,10 @@ enum Option : unsigned {
     Create = 4,
     Optional = 8, ///< its path need not be given
     Several = 16, ///< any number of paths
+    Names = 32,
+    All = 64,
+    Language = 128,
+    Raw = 256,
 };
 
 struct Row {
@@ -32,7 +36,11 @@ struct Row {
 };
 
 const Row Commands[] = {
-    {"dump", dump, {"PATH"}, Json, "Print the records of a T file: index, ID and values"},
+    {"dump",
+     dump,
+     {"PATH"},
+     Json | Names,
+     "Print the records of a T file: index, ID and values, or a line for each field"},
     {"convert",
      convert,
      {"IN", "OUT"},
@@ -61,11 +69,24 @@ const Row Commands[] = {
      {"PATH"},
      Several,
      "Read everything in catalogs or files and print a line for each finding"},
+    {"text", text, {"PAGE", "ID"}, Language | Raw, "Print a text of the game, as it is shown"},
+    {"texts",
+     texts,
+     {},
+     Language,
+     "List all texts of a language: page, tab, ID, tab, text; a page's title without an ID"},
+    {"check",
+     check,
+     {"PATH"},
+     Several | Optional | All | Language,
+     "Print what is wrong with the data in T files and language files, a line for each finding: "
+     "file, index, ID, field, text"},
 };
 
 void addPaths(CLI::App& command, const Row& row, Arguments& arguments) {
     if (row.options & Several) {
-        command.add_option(*row.paths.begin(), arguments.paths)->required();
+        command.add_option(*row.paths.begin(), arguments.paths)
+            ->required(!(row.options & Optional));
         return;
     }
     for (const char* path : row.paths) {
@@ -74,11 +95,34 @@ void addPaths(CLI::App& command, const Row& row, Arguments& arguments) {
     }
 }
 
+void addFlags(CLI::App& command, const Row& row, Arguments& arguments) {
+    struct Flag {
+        unsigned option;
+        const char* name;
+        bool& value;
+        const char* help;
+    };
+    const Flag flags[] = {
+        {Json, "--json", arguments.json, "As JSON"},
+        {Create, "--create", arguments.create, "Make the catalog if there is none"},
+        {Names, "--names", arguments.names, "With the name of each field"},
+        {All, "--all", arguments.all, "All files of the merged view"},
+        {Raw, "--raw", arguments.raw, "As it stands in its file"},
+    };
+    for (const Flag& flag : flags)
+        if (row.options & flag.option)
+            command.add_flag(flag.name, flag.value, flag.help);
+}
+
 void addCommand(CLI::App& app, const Row& row, Arguments& arguments) {
     CLI::App* command = app.add_subcommand(row.name, row.help)->fallthrough();
     addPaths(*command, row, arguments);
-    if (row.options & Json)
-        command->add_flag("--json", arguments.json, "As JSON");
+    addFlags(*command, row, arguments);
+    if (row.options & Language)
+        command
+            ->add_option("--lang", arguments.language,
+                         "Number of the language of texts, 44 if not given")
+            ->option_text("N");
     if (row.options & Type) {
         static const std::map<std::string, std::int32_t> forms{
             {"plain", LORNFD_PLAIN}, {"gzip", LORNFD_GZIP}, {"zstd", LORNFD_ZSTD}};
@@ -89,8 +133,6 @@ void addCommand(CLI::App& app, const Row& row, Arguments& arguments) {
             ->check(CLI::IsMember(&forms))
             ->option_text("plain|gzip|zstd");
     }
-    if (row.options & Create)
-        command->add_flag("--create", arguments.create, "Make the catalog if there is none");
 }
 
 ExitCode execute(const Row& row, GameView& view, const Arguments& arguments) {

@@ -2,13 +2,26 @@
 #include "json.h"
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
+#include "tdata/FieldLookup.h"
 #include "tfile.h"
 
 #include <algorithm>
 
 namespace {
 
-void dumpJson(const clsTxtParser& parser) {
+/// ,"fields":[...] with the name of each.
+std::string fieldsJson(const clsTXTObject& record) {
+    std::string text = ",\"fields\":[";
+    const auto names = FieldNames(record);
+    for (std::int32_t i = 0; i < record.size(); ++i)
+        text.append(i > 0 ? "," : "")
+            .append("{\"index\":" + std::to_string(i))
+            .append(",\"name\":" + jsonText(names[static_cast<std::size_t>(i)]))
+            .append(",\"value\":" + jsonValue(record, i) + '}');
+    return text + ']';
+}
+
+void dumpJson(const clsTxtParser& parser, bool withNames) {
     print("{\"type\":" + std::to_string(parser.otype()) +
           ",\"version\":" + std::to_string(parser.Version()) + ",\"records\":[");
     std::string text;
@@ -18,7 +31,10 @@ void dumpJson(const clsTxtParser& parser) {
                 ",\"values\":[";
         for (std::int32_t i = 0; i < record->size(); ++i)
             text.append(i > 0 ? "," : "").append(jsonValue(*record, i));
-        print(text + "]}");
+        text += ']';
+        if (withNames)
+            text += fieldsJson(*record);
+        print(text + '}');
         text.clear();
     }
     print("]}\n");
@@ -28,6 +44,15 @@ void dumpText(const clsTxtParser& parser) {
     for (const RecordPtr& record : parser.ByIndex())
         print(std::to_string(record->Index) + '\t' + std::string(record->ObjectName()) + '\t' +
               record->GetObjectTData() + '\n');
+}
+
+void dumpNames(const clsTxtParser& parser) {
+    for (const RecordPtr& record : parser.ByIndex()) {
+        const auto names = FieldNames(*record);
+        for (std::int32_t i = 0; i < record->size(); ++i)
+            print(std::to_string(i) + '\t' + names[static_cast<std::size_t>(i)] + '\t' +
+                  std::string(record->ValueText(i)) + '\n');
+    }
 }
 
 /// The form that a name asks for: packed for ".pck", else plain.
@@ -42,7 +67,9 @@ ExitCode dump(GameView& view, const Arguments& arguments) {
     clsTxtParser parser;
     loadTFile(parser, view.realPath(arguments.paths[0]));
     if (arguments.json)
-        dumpJson(parser);
+        dumpJson(parser, arguments.names);
+    else if (arguments.names)
+        dumpNames(parser);
     else
         dumpText(parser);
     return Done;

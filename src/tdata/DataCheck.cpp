@@ -1,0 +1,314 @@
+#include "tdata/DataCheck.h"
+
+#include "core/KeshError.h"
+#include "lornfd/paths.h"
+#include "tdata/FieldLookup.h"
+#include "tdata/clsShip.h"
+#include "tdata/clsTurret.h"
+#include "tdata/mdlKeshConst.h"
+#include "tdata/mdlKeshJobs.h"
+#include "tdata/mdlKeshShips.h"
+#include "tdata/mdlKeshWare.h"
+
+#include <set>
+#include <unordered_map>
+#include <utility>
+
+namespace {
+
+constexpr std::int32_t AnyFramed = -1; ///< every type with the common head and tail
+
+class Checker {
+public:
+    Checker(const clsTxtParser& parser, std::string file, CheckReferences& references)
+        : m_parser(parser), m_file(std::move(file)), m_references(references) {}
+
+    std::vector<Finding> Run();
+
+private:
+    using Record = const clsTXTObject&;
+    /// Checks the field at an index of a record.
+    using FieldCheck = void (Checker::*)(Record, std::int32_t);
+    struct Rule {
+        std::int32_t Type;
+        std::int32_t Field; ///< from the record's end if negative; logical in a job
+        FieldCheck Check;
+    };
+    static const Rule Rules[];
+
+    // The file, record by record
+    void CheckRecord(const RecordPtr& object);
+    void CheckDuplicate(Record record);
+    void CheckShip(const RecordPtr& record);
+    void CheckTurret(Record record, const clsTurret& turret);
+    void CheckWareList(Record record);
+    void CheckJobWing(Record record);
+
+    // Fields
+    void Subtype(Record record, std::int32_t field);
+    void ShipClass(Record record, std::int32_t field);
+    void ShipType(Record record, std::int32_t field);
+    void Race(Record record, std::int32_t field) { InTable(record, field, RaceNames, "race"); }
+    void WareClass(Record record, std::int32_t field) {
+        InTable(record, field, DefaultWareClassNames, "ware class");
+    }
+    void Bullet(Record record, std::int32_t field) { InFile(record, field, "TBullets"); }
+    void Shield(Record record, std::int32_t field) { InFile(record, field, "TShields"); }
+    void WareList(Record record, std::int32_t field);
+    void ShipID(Record record, std::int32_t field);
+    void JobWing(Record record, std::int32_t field);
+    void ObjectName(Record record, std::int32_t field);
+    void TextId(Record record, std::int32_t field);
+
+    // What several of them ask
+    void InWords(Record record, std::int32_t field, const TextTable& words, std::string_view what);
+    void InTable(Record record, std::int32_t field, const TextTable& table, std::string_view what);
+    void InFile(Record record, std::int32_t field, std::string_view key);
+    void InFile(Record record, std::int32_t field, const std::string& name, std::string_view key);
+    [[nodiscard]] bool Have(std::string_view key);
+
+    [[nodiscard]] static std::string NameOf(Record record, std::int32_t field);
+    [[nodiscard]] static std::string Said(Record record, std::int32_t field); ///< name and value
+    void Add(Record record, std::int32_t field, std::string text, Severity level = Severity::Error);
+
+    const clsTxtParser& m_parser;
+    std::string m_file;
+    CheckReferences& m_references;
+    std::unordered_map<std::string, std::int32_t> m_seen; ///< IDs in lower case
+    std::set<std::string, std::less<>> m_missing;         ///< files that a note stands for
+    std::vector<Finding> m_findings;
+};
+
+const Checker::Rule Checker::Rules[] = {
+    {otype::Ships, 5, &Checker::ShipClass},  {otype::Ships, 22, &Checker::Shield},
+    {otype::Ships, 30, &Checker::WareList},  {otype::Ships, 44, &Checker::WareClass},
+    {otype::Ships, 45, &Checker::Race},      {otype::Ships, 52, &Checker::ShipType},
+    {otype::Laser, 5, &Checker::Subtype},    {otype::Laser, 9, &Checker::Bullet},
+    {otype::Missiles, 5, &Checker::Subtype}, {otype::Factories, 5, &Checker::Subtype},
+    {otype::Factories, 13, &Checker::Race},  {otype::Docks, 5, &Checker::Subtype},
+    {otype::Docks, 13, &Checker::Race},      {otype::Wrecks, 5, &Checker::Subtype},
+    {AnyFramed, 6, &Checker::ObjectName},    {AnyFramed, -6, &Checker::WareClass},
+    {otype::Jobs, 6, &Checker::TextId},      {otype::Jobs, 8, &Checker::TextId},
+    {otype::Jobs, 13, &Checker::JobWing},    {otype::Jobs, 14, &Checker::WareList},
+    {otype::Jobs, 18, &Checker::ShipID},
+};
+
+std::string Quoted(std::string_view text) {
+    return '"' + std::string(text) + '"';
+}
+
+// --- The file
+
+std::vector<Finding> Checker::Run() {
+    for (const RecordPtr& record : m_parser.ByIndex())
+        CheckRecord(record);
+    if (!m_parser.LeftOut().empty())
+        m_findings.push_back({.File = m_file, .Level = Severity::Note, .Text = m_parser.LeftOut()});
+    return std::move(m_findings);
+}
+
+void Checker::CheckRecord(const RecordPtr& object) {
+    const clsTXTObject& record = *object;
+    const std::int32_t type = record.otype;
+    const bool framed = FieldsOf(type).Common != Frame::None;
+    for (const Rule& rule : Rules) {
+        if (rule.Type != type && !(rule.Type == AnyFramed && framed))
+            continue;
+        const std::int32_t field = rule.Field < 0 ? record.size() + rule.Field
+                                   : type == otype::Jobs
+                                       ? JobPhysicalIndex(record.size(), rule.Field)
+                                       : rule.Field;
+        if (field >= 0 && field < record.size())
+            (this->*rule.Check)(record, field);
+    }
+    if (framed || type == otype::Jobs || type == otype::JobWings)
+        CheckDuplicate(record);
+    if (type == otype::Ships)
+        CheckShip(object);
+    else if (type == otype::WareLists)
+        CheckWareList(record);
+    else if (type == otype::JobWings)
+        CheckJobWing(record);
+}
+
+/// Jobs and wings are known by their first value, all others by their last.
+void Checker::CheckDuplicate(Record record) {
+    if (record.size() == 0)
+        return;
+    const std::int32_t field = FieldsOf(record.otype).Common == Frame::None ? 0 : record.size() - 1;
+    const auto [first, isNew] =
+        m_seen.emplace(lornfd::foldCase(record.ValueText(field)), record.Index);
+    if (!isNew)
+        Add(record, field,
+            "The ID " + Quoted(record.ValueText(field)) + " is also that of object " +
+                std::to_string(first->second) + ".");
+}
+
+void Checker::CheckShip(const RecordPtr& record) {
+    clsShip ship(record);
+    if (!ship.LoadObjects() || !ship.Validate())
+        Add(*record, -1, ship.GetLastError());
+    try {
+        for (const auto& turret : ship.Turrets())
+            CheckTurret(*record, *turret);
+    } catch (const KeshError& error) {
+        // The counts that lead out of the record, or a value that is no number.
+        Add(*record, -1, error.what());
+    }
+}
+
+// The pair of descriptors of a turret stands where its index says.
+void Checker::CheckTurret(Record record, const clsTurret& turret) {
+    constexpr std::int32_t first = 31;
+    constexpr std::int32_t last = 41;
+    if (!turret.IsTurret())
+        return;
+    const std::int32_t field = turret.DescriptorOffset();
+    const std::string name = "The type of turret " + std::to_string(turret.index());
+    if (field < first || field > last)
+        Add(record, turret.Offset(), name + " has no place in the record.");
+    else
+        InFile(record, field, name, "TCockpits");
+}
+
+void Checker::CheckWareList(Record record) {
+    if (!m_references.HasAnyWare())
+        return;
+    for (std::int32_t i = 0; i < record.size(); ++i)
+        if (!m_references.HasWare(record.ValueText(i)))
+            Add(record, i, "There is no ware " + Quoted(record.ValueText(i)) + ".");
+}
+
+void Checker::CheckJobWing(Record record) {
+    if (!Have("Jobs"))
+        return;
+    for (std::int32_t i = 1; i < record.size(); ++i) {
+        const auto number = record.ValueInteger(i);
+        if (!number || !m_references.HasJob(*number))
+            Add(record, i, "There is no job " + Quoted(record.ValueText(i)) + ".");
+    }
+}
+
+// --- Fields
+
+void Checker::Subtype(Record record, std::int32_t field) {
+    const TextTable& words = SubtypesOf(record.otype);
+    if (HasSymbolicSubtype(record.otype, m_parser.Version()))
+        InWords(record, field, words, "subtype");
+    else
+        InTable(record, field, words, "subtype");
+}
+
+void Checker::ShipClass(Record record, std::int32_t field) {
+    if (m_parser.Version() >= FirstSymbolicShips)
+        InWords(record, field, ShipClassKeys, "ship class");
+    else
+        InTable(record, field, ShipClassKeys, "ship class");
+}
+
+void Checker::ShipType(Record record, std::int32_t field) {
+    const bool keys = m_parser.Version() >= FirstSymbolicShips;
+    InWords(record, field, keys ? ShipObjectTypeKeys : ShipObjectTypeIDs, "ship type");
+}
+
+void Checker::WareList(Record record, std::int32_t field) {
+    if (const auto none = record.ValueInteger(field); !none || *none >= 0)
+        InFile(record, field, "WareLists");
+}
+
+void Checker::ShipID(Record record, std::int32_t field) {
+    const std::string_view id = record.ValueText(field);
+    if (!id.empty() && id != "0" && Have("TShips") && !m_references.HasShip(id))
+        Add(record, field, Said(record, field) + ", but there is no such ship.");
+}
+
+void Checker::JobWing(Record record, std::int32_t field) {
+    const auto number = record.ValueInteger(field);
+    if (number && *number <= 0)
+        return;
+    if (Have("JobWings") && !m_references.HasJobWing(record.Value(field)))
+        Add(record, field, Said(record, field) + ", but there is no such group.");
+}
+
+void Checker::TextId(Record record, std::int32_t field) {
+    const auto id = record.ValueInteger(field);
+    if (!m_references.WithTexts() || (id && *id <= 0))
+        return;
+    if (!id || !m_references.HasObjectText(*id))
+        Add(record, field, Said(record, field) + ", but page 17 has no such text.");
+}
+
+void Checker::ObjectName(Record record, std::int32_t field) {
+    TextId(record, field);
+    // The description has the id behind the name's. Many objects do without.
+    const std::int32_t name = record.ValueInteger(field).value_or(0);
+    if (m_references.WithTexts() && name > 0 && m_references.HasObjectText(name) &&
+        !m_references.HasObjectText(name + 1))
+        Add(record, field, "There is no description (text 17:" + std::to_string(name + 1) + ").",
+            Severity::Note);
+}
+
+// --- What several of them ask
+
+void Checker::InWords(Record record, std::int32_t field, const TextTable& words,
+                      std::string_view what) {
+    if (FindInList(record.ValueText(field), words) < 0)
+        Add(record, field, Said(record, field) + ", which is no " + std::string(what) + ".");
+}
+
+void Checker::InTable(Record record, std::int32_t field, const TextTable& table,
+                      std::string_view what) {
+    const auto position = record.ValueInteger(field);
+    if (!position || !table.Holds(*position))
+        Add(record, field, Said(record, field) + ", which is no " + std::string(what) + ".");
+}
+
+void Checker::InFile(Record record, std::int32_t field, std::string_view key) {
+    InFile(record, field, Quoted(NameOf(record, field)), key);
+}
+
+void Checker::InFile(Record record, std::int32_t field, const std::string& name,
+                     std::string_view key) {
+    if (!Have(key))
+        return;
+    const std::int32_t count = m_references.CountOf(key);
+    const auto position = record.ValueInteger(field);
+    if (!position || *position < 0 || *position >= count)
+        Add(record, field,
+            name + " is " + Quoted(record.ValueText(field)) + ", but " + std::string(key) +
+                " has the objects 0 to " + std::to_string(count - 1) + ".");
+}
+
+bool Checker::Have(std::string_view key) {
+    if (m_references.File(key) != nullptr)
+        return true;
+    if (m_missing.emplace(key).second)
+        m_findings.push_back(
+            {.File = m_file,
+             .Level = Severity::Note,
+             .Text = std::string(key) + " is not at hand, so what refers to it was not checked."});
+    return false;
+}
+
+std::string Checker::NameOf(Record record, std::int32_t field) {
+    const bool job = record.otype == otype::Jobs;
+    const std::int32_t logical = job ? JobLogicalIndex(record.size(), field) : field;
+    const std::string name = FieldName(record, logical);
+    return name == "Unknown value" ? "Field " + std::to_string(logical) : name;
+}
+
+std::string Checker::Said(Record record, std::int32_t field) {
+    return Quoted(NameOf(record, field)) + " is " + Quoted(record.ValueText(field));
+}
+
+void Checker::Add(Record record, std::int32_t field, std::string text, Severity level) {
+    m_findings.push_back(
+        {m_file, record.Index, std::string(record.ObjectName()), field, level, std::move(text)});
+}
+
+} // namespace
+
+std::vector<Finding> CheckTFile(const clsTxtParser& Parser, const std::string& File,
+                                CheckReferences& References) {
+    return Checker(Parser, File, References).Run();
+}

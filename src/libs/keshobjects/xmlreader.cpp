@@ -30,10 +30,6 @@ bool is(char c, CharacterClass wanted) noexcept {
     return (classes[static_cast<unsigned char>(c)] & wanted) != 0;
 }
 
-bool isBlankText(std::string_view text) noexcept {
-    return std::all_of(text.begin(), text.end(), [](char c) { return is(c, Blank); });
-}
-
 std::string quoted(std::string_view text) {
     constexpr std::size_t shown = 40;
     return '"' + std::string(text.substr(0, shown)) + (text.size() > shown ? "...\"" : "\"");
@@ -55,9 +51,9 @@ XmlReader::Token XmlReader::next() {
             const std::size_t end = std::min(m_text.find('<', m_at), m_text.size());
             if (!m_open.empty())
                 return text(end);
-            if (!isBlankText(m_text.substr(m_at, end - m_at)))
+            passBlanks();
+            if (m_at < end)
                 return fail(m_at, "text outside the root element");
-            m_at = end;
             continue;
         }
         const char sign = m_at + 1 < m_text.size() ? m_text[m_at + 1] : '\0';

@@ -26,7 +26,10 @@ std::shared_ptr<clsGun> clsGunGroup::FindGun(std::string_view key) const {
 }
 
 std::shared_ptr<clsTurret> clsGunGroup::turret() const {
-    const auto position = m_ship->Object->ValueInteger(m_offset + 2).value_or(0);
+    const std::int32_t at = m_offset + 2;
+    if (at < 0 || at >= m_ship->size())
+        return {};
+    const auto position = m_ship->Object->ValueInteger(at).value_or(0);
     const auto& turrets = m_ship->Turrets();
     return position >= 1 && position <= std::ssize(turrets)
                ? turrets[static_cast<std::size_t>(position - 1)]

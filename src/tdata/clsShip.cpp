@@ -128,14 +128,15 @@ bool clsShip::LoadObjects() {
     return loaded;
 }
 
+// Counts that are too large end both loops at the first turret or group outside the record, where
+// no number can be read.
 void clsShip::LoadTurrets() {
     const std::int32_t count = TurretCount();
     std::int32_t offset = SectionTurrets;
-    for (std::int32_t i = 0; i < count && offset < size(); ++i, offset += clsTurret::size())
+    for (std::int32_t i = 0; i < count; ++i, offset += clsTurret::size())
         Append(m_turrets, CreateTurret(offset));
 }
 
-// A count that is too large ends at the first group whose own count lies outside the record.
 void clsShip::LoadGunGroups() {
     const std::int32_t count = GunSectionsCount();
     std::int32_t offset = FirstGunGroupOffset();

@@ -27,16 +27,20 @@ std::int32_t clsTurret::Integer(std::int32_t i) const {
     return m_ship->Integer(m_offset + i);
 }
 
+std::int32_t clsTurret::PairOffset(std::int32_t i) const {
+    return CheckedInteger(std::int64_t{DescriptorOffset()} + i);
+}
+
 KeshValue clsTurret::DescriptorValue(std::int32_t i) const {
     CheckListIndex(i, 1, "clsTurret");
-    return IsTurret() ? m_ship->Value(DescriptorOffset() + i) : KeshValue(0);
+    return IsTurret() ? m_ship->Value(PairOffset(i)) : KeshValue(0);
 }
 
 void clsTurret::SetDescriptorValue(std::int32_t i, const KeshValue& value) {
     CheckListIndex(i, 1, "clsTurret");
     if (!IsTurret())
         throw KeshError(errnum::Forbidden, "clsTurret", "Guns don't have turret descriptors.");
-    m_ship->SetValue(DescriptorOffset() + i, value);
+    m_ship->SetValue(PairOffset(i), value);
 }
 
 KeshValue clsTurret::Value(std::int32_t i) const {
@@ -66,7 +70,7 @@ std::int32_t clsTurret::DescriptorOffset() const {
 }
 
 std::int32_t clsTurret::Position() const {
-    return IsTurret() ? m_ship->Integer(CheckedInteger(std::int64_t{DescriptorOffset()} + 1)) : 0;
+    return IsTurret() ? m_ship->Integer(PairOffset(1)) : 0;
 }
 
 std::string clsTurret::PositionName() const {

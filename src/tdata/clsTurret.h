@@ -52,6 +52,7 @@ public:
 
 private:
     [[nodiscard]] std::int32_t Integer(std::int32_t i) const;
+    [[nodiscard]] std::int32_t PairOffset(std::int32_t i) const;
 
     clsShip* m_ship;
     std::int32_t m_id;

@@ -42,7 +42,8 @@ std::int32_t RoundedInteger(double number) {
 
 std::int32_t CheckedInteger(std::int64_t number) {
     if (!std::in_range<std::int32_t>(number))
-        Throw(errnum::Overflow, "Overflow");
+        Throw(errnum::Overflow,
+              "Overflow: " + std::to_string(number) + " is no possible place or count.");
     return static_cast<std::int32_t>(number);
 }
 

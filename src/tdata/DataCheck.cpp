@@ -20,8 +20,7 @@ constexpr std::int32_t AnyFramed = -1; ///< every type with the common head and 
 
 class Checker {
 public:
-    Checker(const clsTxtParser& parser, std::string file, CheckReferences& references)
-        : m_parser(parser), m_file(std::move(file)), m_references(references) {}
+    Checker(const clsTxtParser& parser, std::string file, CheckReferences& references);
 
     std::vector<Finding> Run();
 
@@ -74,6 +73,7 @@ private:
     const clsTxtParser& m_parser;
     std::string m_file;
     CheckReferences& m_references;
+    std::vector<Rule> m_rules;                            ///< of this file's type
     std::unordered_map<std::string, std::int32_t> m_seen; ///< IDs in lower case
     std::set<std::string, std::less<>> m_missing;         ///< files that a note stands for
     std::vector<Finding> m_findings;
@@ -99,6 +99,14 @@ std::string Quoted(std::string_view text) {
 
 // --- The file
 
+Checker::Checker(const clsTxtParser& parser, std::string file, CheckReferences& references)
+    : m_parser(parser), m_file(std::move(file)), m_references(references) {
+    const bool framed = FieldsOf(parser.otype()).Common != Frame::None;
+    for (const Rule& rule : Rules)
+        if (rule.Type == parser.otype() || (rule.Type == AnyFramed && framed))
+            m_rules.push_back(rule);
+}
+
 std::vector<Finding> Checker::Run() {
     for (const RecordPtr& record : m_parser.ByIndex())
         CheckRecord(record);
@@ -110,10 +118,7 @@ std::vector<Finding> Checker::Run() {
 void Checker::CheckRecord(const RecordPtr& object) {
     const clsTXTObject& record = *object;
     const std::int32_t type = record.otype;
-    const bool framed = FieldsOf(type).Common != Frame::None;
-    for (const Rule& rule : Rules) {
-        if (rule.Type != type && !(rule.Type == AnyFramed && framed))
-            continue;
+    for (const Rule& rule : m_rules) {
         const std::int32_t field = rule.Field < 0 ? record.size() + rule.Field
                                    : type == otype::Jobs
                                        ? JobPhysicalIndex(record.size(), rule.Field)
@@ -121,7 +126,7 @@ void Checker::CheckRecord(const RecordPtr& object) {
         if (field >= 0 && field < record.size())
             (this->*rule.Check)(record, field);
     }
-    if (framed || type == otype::Jobs || type == otype::JobWings)
+    if (FieldsOf(type).Common != Frame::None || type == otype::Jobs || type == otype::JobWings)
         CheckDuplicate(record);
     if (type == otype::Ships)
         CheckShip(object);

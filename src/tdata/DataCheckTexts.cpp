@@ -1,8 +1,7 @@
 #include "keshobjects/keshtexts.h"
 #include "tdata/DataCheck.h"
 
-#include <map>
-#include <set>
+#include <unordered_set>
 #include <utility>
 
 namespace {
@@ -52,7 +51,7 @@ private:
         const std::string name = std::to_string(page) + ':' + std::to_string(id);
         if (id == NoId)
             Add(name, "The string has no number.");
-        else if (!m_strings.emplace(page, id).second)
+        else if (!m_strings.insert(std::int64_t{page} * (std::int64_t{1} << 32) + id).second)
             Add(name, "The string stands in this file more than once; the last one counts.");
         CheckReferences(name, string);
     }
@@ -75,8 +74,8 @@ private:
 
     std::int32_t m_texts;
     std::string m_file;
-    std::set<std::int32_t> m_pages;
-    std::set<std::pair<std::int32_t, std::int32_t>> m_strings;
+    std::unordered_set<std::int32_t> m_pages;
+    std::unordered_set<std::int64_t> m_strings; ///< page and string in one
     std::vector<Finding> m_findings;
 };
 

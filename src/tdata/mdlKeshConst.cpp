@@ -86,6 +86,11 @@ std::int32_t ObjectTypeFromFile(std::string_view Path) {
     return found == Keys.end() ? otype::None : found->Code;
 }
 
+bool IsTFileName(std::string_view Path) {
+    const std::string extension = lornfd::foldCase(std::string_view(ExtensionOf(Path)));
+    return (extension == "txt" || extension == "pck") && ObjectTypeFromFile(Path) != otype::None;
+}
+
 std::string_view ObjectTypeKeyOf(std::int32_t Type) {
     return Type >= 0 && Type < std::ssize(NamesByCode) ? NamesByCode[static_cast<std::size_t>(Type)]
                                                        : std::string_view();

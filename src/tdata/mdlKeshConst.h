@@ -49,6 +49,8 @@ std::span<const std::string_view> WareFileNames();
 void InitArrays();
 /// Type code for a file's name without regard to case and extension; 0 if it is no object file.
 std::int32_t ObjectTypeFromFile(std::string_view Path);
+/// True for a name under which the game looks for an object file.
+bool IsTFileName(std::string_view Path);
 /// The file key of a type ("TShips"); empty for an unknown code.
 std::string_view ObjectTypeKeyOf(std::int32_t Type);
 /// Fields of a record by type; 0 for a type without fixed size.

@@ -1,7 +1,7 @@
 #include "commands.h"
 #include "core/mdlCommon.h"
+#include "files/ViewFiles.h"
 #include "files/mdlPaths.h"
-#include "viewfiles.h"
 
 namespace {
 
@@ -11,9 +11,9 @@ std::vector<std::string> directoriesOf(std::string_view mask) {
     for (std::size_t end = mask.find('\\'); end != mask.npos; end = mask.find('\\')) {
         std::vector<std::string> next;
         for (const auto& directory : level)
-            for (auto& found : searchView(directory, std::string(mask.substr(0, end))))
-                if (found.directory)
-                    next.push_back(std::move(found.name));
+            for (auto& found : SearchView(directory, std::string(mask.substr(0, end))))
+                if (found.IsDirectory)
+                    next.push_back(std::move(found.Name));
         level = std::move(next);
         mask.remove_prefix(end + 1);
     }
@@ -21,7 +21,7 @@ std::vector<std::string> directoriesOf(std::string_view mask) {
 }
 
 void printFound(const ViewFile& found) {
-    print(found.name + '\t' + ShownPath(found.real) + '\n');
+    print(found.Name + '\t' + ShownPath(found.RealName) + '\n');
 }
 
 } // namespace
@@ -36,12 +36,12 @@ ExitCode ls(GameView& view, const Arguments& arguments) {
     const std::string path = arguments.paths.empty() ? "" : FromPlatform(arguments.paths[0]);
     const std::string mask = IsVFSPath(path) ? StripVFS(path) : path;
     if (mask.empty()) {
-        forEachViewFile(printFound);
+        ForEachViewFile(printFound);
         return code;
     }
     bool any = false;
     for (const auto& directory : directoriesOf(mask))
-        for (const auto& found : searchView(directory, mask.substr(mask.rfind('\\') + 1))) {
+        for (const auto& found : SearchView(directory, mask.substr(mask.rfind('\\') + 1))) {
             printFound(found);
             any = true;
         }

@@ -1,9 +1,7 @@
 #include "tfile.h"
 
-#include "core/mdlComFunctions.h"
 #include "core/mdlCommon.h"
 #include "files/mdlPaths.h"
-#include "lornfd/paths.h"
 #include "tdata/mdlKeshConst.h"
 
 Failure tFileFailure(const std::string& path, std::string_view reason) {
@@ -18,9 +16,4 @@ void loadTFile(clsTxtParser& parser, const std::string& path) {
     const InputFile file(path);
     if (!parser.Load(file.handle(), ObjectTypeFromFile(path)) && !parser.GetLastError().empty())
         throw tFileFailure(path, parser.GetLastError());
-}
-
-bool isTFile(const std::string& path) {
-    const std::string extension = lornfd::foldCase(ExtensionOf(path));
-    return (extension == "txt" || extension == "pck") && ObjectTypeFromFile(path) != otype::None;
 }

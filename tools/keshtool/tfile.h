@@ -9,7 +9,5 @@
 
 /// Loads; throws Failure with a message that names the file. A file without records is loaded, too.
 void loadTFile(clsTxtParser& parser, const std::string& path);
-/// True for a name under which the game looks for a T file.
-bool isTFile(const std::string& path);
 /// A failure whose message names the file once.
 Failure tFileFailure(const std::string& path, std::string_view reason);

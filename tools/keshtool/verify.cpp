@@ -3,6 +3,7 @@
 #include "files/mdlPaths.h"
 #include "lornfd/catalog.h"
 #include "lornfd/paths.h"
+#include "tdata/mdlKeshConst.h"
 #include "tfile.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ bool isCatalog(const std::string& path) {
 /// Reads a file whole; a T file is loaded as well. Gives a finding, or nothing; throws Failure for
 /// what cannot be read.
 std::string readWhole(const std::string& path) {
-    if (isTFile(path)) {
+    if (IsTFileName(path)) {
         clsTxtParser parser;
         loadTFile(parser, path);
         return parser.LeftOut();

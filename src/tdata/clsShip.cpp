@@ -205,7 +205,8 @@ bool clsShip::RemoveTurret(const clsTurret& turret) {
 
 void clsShip::TakeLastTurret() {
     clsTurret& turret = *m_turrets.back();
-    if (turret.IsTurret()) {
+    // With another index the zeros would fall on fields that are no descriptor.
+    if (turret.HasDescriptor()) {
         turret.SetDescriptorValue(1, 0);
         turret.SetDescriptorValue(0, 0);
     }

@@ -69,6 +69,11 @@ std::int32_t clsTurret::DescriptorOffset() const {
     return CheckedInteger((std::int64_t{index()} - 2) * 2 + clsShip::SectionDescriptors);
 }
 
+bool clsTurret::HasDescriptor() const {
+    const std::int32_t number = index();
+    return IsTurret() && number >= 2 && number < 2 + clsShip::MaxTurrets;
+}
+
 std::int32_t clsTurret::Position() const {
     return IsTurret() ? m_ship->Integer(PairOffset(1)) : 0;
 }

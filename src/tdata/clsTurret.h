@@ -46,6 +46,8 @@ public:
     [[nodiscard]] bool TranslateDescValue(std::int32_t i, std::string& text) const;
     /// Of the descriptor pair; means nothing for the front cockpit.
     [[nodiscard]] std::int32_t DescriptorOffset() const;
+    /// A turret proper whose index has its place among the ship's pairs.
+    [[nodiscard]] bool HasDescriptor() const;
     [[nodiscard]] std::int32_t Position() const; ///< 0 for the front cockpit
     /// "front cockpit", the side, or its bare number.
     [[nodiscard]] std::string PositionName() const;

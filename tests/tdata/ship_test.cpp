@@ -86,6 +86,13 @@ TEST(Ship, RemovingTheOnlyTurretTakesItsGuns) {
     EXPECT_TRUE(ship.GunGroups().empty());
 }
 
+TEST(Ship, RemovingATurretOfNoPairZeroesNoOtherField) {
+    Loaded ship(shipText("1;9;1;B;7;1;1;0;9;0;"));
+    ship.SetValue(45, 5);
+    EXPECT_TRUE(ship.RemoveTurret(*ship.Turrets()[0]));
+    EXPECT_EQ(ship.Value(45), KeshValue(5));
+}
+
 TEST(Ship, GunsAreNumberedThroughAllGroups) {
     ArmedShip ship;
     const auto first = ship.GunGroups()[0];

@@ -20,5 +20,6 @@ std::vector<Row> saveRows(const Options& options);
 std::vector<Row> catalogRows(const Options& options);
 std::vector<Row> viewRows(const Options& options);
 std::vector<Row> listRows(const Options& options);
+std::vector<Row> shipRows(const Options& options);
 
 } // namespace bench

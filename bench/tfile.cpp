@@ -2,7 +2,6 @@
 
 #include "lornfd/lornfd.h"
 #include "sample/output.h"
-#include "tdata/mdlKeshConst.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -15,13 +14,13 @@ void fail(const std::string& what) {
     std::exit(3);
 }
 
-std::unique_ptr<clsTxtParser> loadFile(const std::string& path) {
+std::unique_ptr<clsTxtParser> loadFile(const std::string& path, std::int32_t type) {
     const std::int32_t file =
         LornFD_OpenFile(path, LORNFD_READ, LORNFD_OPEN_EXISTING, LORNFD_AS_IS);
     if (file == 0)
         fail("cannot open " + path);
     auto parser = std::make_unique<clsTxtParser>();
-    if (!parser->Load(file, otype::Ware))
+    if (!parser->Load(file, type))
         fail(parser->GetLastError());
     LornFD_CloseFile(file);
     return parser;

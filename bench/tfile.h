@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tdata/clsTxtParser.h"
+#include "tdata/mdlKeshConst.h"
 
 #include <memory>
 #include <string>
@@ -10,7 +11,7 @@
 namespace bench {
 
 /// Parses a file of the file driver to records; ends the program with a message if that fails.
-std::unique_ptr<clsTxtParser> loadFile(const std::string& path);
+std::unique_ptr<clsTxtParser> loadFile(const std::string& path, std::int32_t type = otype::Ware);
 /// The same from a text in memory.
 std::unique_ptr<clsTxtParser> loadMemory(std::string_view text);
 

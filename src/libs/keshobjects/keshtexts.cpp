@@ -13,9 +13,10 @@
 namespace keshobjects {
 namespace {
 
-TextStore& store() {
-    static TextStore texts;
-    return texts;
+TextStore theStore; // at namespace scope, since a lookup is quicker than the check of a local one
+
+TextStore& store() noexcept {
+    return theStore;
 }
 
 std::vector<std::unique_ptr<TextFile>>& files() {
@@ -89,8 +90,9 @@ TextLookup lookupIn(const TextFile* file) {
         if (file != nullptr)
             if (const TextString* const string = file->find(reference.page, reference.id))
                 return string->text;
-        const auto found = store().find(reference.page, reference.id);
-        return found ? std::optional(store().string(*found).text()) : std::nullopt;
+        const std::uint32_t found = store().find(reference.page, reference.id);
+        return found == TextStore::none ? std::nullopt
+                                        : std::optional(store().string(found).text());
     };
 }
 
@@ -410,11 +412,12 @@ std::int32_t Kesh_TRESetStringInfo(std::int32_t Page, std::int32_t String, std::
 }
 
 std::int32_t Kesh_TREFindString(std::int32_t Object, std::int32_t Page, std::int32_t Id) {
+    if (Object == KESH_STORE)
+        if (const std::uint32_t found = store().find(Page, Id); found != TextStore::none)
+            return storedHandle(storeStringBase, found);
     lastError().clear();
-    if (Object == KESH_STORE) {
-        const auto found = store().find(Page, Id);
-        return found ? storedHandle(storeStringBase, *found) : 0;
-    }
+    if (Object == KESH_STORE)
+        return 0;
     const TextFile* const file = fileOf(Object);
     if (file == nullptr)
         return failHandle(Object);

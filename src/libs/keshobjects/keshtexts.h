@@ -53,7 +53,7 @@ std::int32_t Kesh_TREGetRawString(std::int32_t String, std::string& Text);
 std::int32_t Kesh_TRESetStringInfo(std::int32_t Page, std::int32_t String, std::int32_t Id,
                                    std::string_view Text);
 /// The string of a file or of the store; 0 without an error if there is none. Of several with one
-/// page and id it is the last.
+/// page and id it is the last. One that is found leaves the last error as it was.
 std::int32_t Kesh_TREFindString(std::int32_t Object, std::int32_t Page, std::int32_t Id);
 
 /// Resolves references, strips style codes and escapes. References are looked up in the object's

@@ -145,19 +145,28 @@ LanguageReader::Part LanguageReader::stringText() {
     return Part::String;
 }
 
-std::optional<std::string> LanguageReader::attribute(std::string_view name) const {
+const XmlReader::Attribute* LanguageReader::find(std::string_view name) const noexcept {
     for (const XmlReader::Attribute& attribute : m_attributes)
-        if (attribute.name == name) {
-            std::string read;
-            appendXmlAttribute(attribute.value, read);
-            return read;
-        }
-    return std::nullopt;
+        if (attribute.name == name)
+            return &attribute;
+    return nullptr;
+}
+
+std::optional<std::string> LanguageReader::attribute(std::string_view name) const {
+    const XmlReader::Attribute* const found = find(name);
+    if (found == nullptr)
+        return std::nullopt;
+    std::string read;
+    appendXmlAttribute(found->value, read);
+    return read;
 }
 
 std::optional<std::int32_t> LanguageReader::number(std::string_view name) const {
-    const auto value = attribute(name);
-    return value ? readInteger(*value) : std::nullopt;
+    const XmlReader::Attribute* const found = find(name);
+    if (found == nullptr)
+        return std::nullopt;
+    return found->value.find('&') == found->value.npos ? readInteger(found->value)
+                                                       : readInteger(*attribute(name));
 }
 
 } // namespace keshobjects

@@ -72,6 +72,8 @@ public:
 
 private:
     Part fail(const std::string& reason, std::size_t place) const;
+    /// As it stands in the tag, or null.
+    [[nodiscard]] const XmlReader::Attribute* find(std::string_view name) const noexcept;
     Part start();
     Part stringText();
     bool skipElement();

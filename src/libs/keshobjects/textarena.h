@@ -1,6 +1,8 @@
 // Texts one behind the other in large blocks, freed together.
 #pragma once
 
+#include "keshobjects/bigmemory.h"
+
 #include <cstddef>
 #include <memory>
 #include <string_view>
@@ -24,10 +26,10 @@ public:
     void goBack(const Mark& mark) noexcept;
 
 private:
-    static constexpr std::size_t blockSize = std::size_t{1} << 20;
+    static constexpr std::size_t blockSize = std::size_t{4} << 20; ///< worth large pages
     char* add(std::size_t size);
 
-    std::vector<std::unique_ptr<char[]>> m_blocks;
+    std::vector<BigArray<char>> m_blocks;
     char* m_free = nullptr;
     std::size_t m_left = 0;
 };

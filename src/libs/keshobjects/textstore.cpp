@@ -11,8 +11,7 @@ namespace keshobjects {
 // --- Arena
 
 char* TextArena::add(std::size_t size) {
-    // Uninitialized: a block is filled before it is read.
-    m_blocks.emplace_back(new char[size]);
+    m_blocks.push_back(makeBigArray<char>(size));
     return m_blocks.back().get();
 }
 
@@ -104,44 +103,23 @@ void TextStore::append(std::int32_t page, std::int32_t id, std::string_view text
     if (m_size == maxStrings)
         throw std::bad_alloc();
     if (m_size / chunkSize == m_strings.size())
-        m_strings.emplace_back(new StoredString[chunkSize]);
+        m_strings.push_back(makeBigArray<StoredString>(chunkSize));
     at(m_size) = {m_texts.keep(text), static_cast<std::uint32_t>(text.size()), id, page, 0};
     ++m_size;
 }
 
 void TextStore::reserve(std::size_t strings) {
-    constexpr std::size_t smallest = 16;
-    const std::size_t wanted = std::bit_ceil(std::max(strings + strings / 2, smallest));
+    const std::size_t wanted = std::bit_ceil(strings + strings / 2);
     if (wanted <= m_slots.size())
         return;
-    std::vector<std::uint32_t>(wanted).swap(m_slots);
+    Slots(wanted).swap(m_slots);
+    m_shift = 64U - static_cast<unsigned>(std::countr_zero(wanted));
     for (const StoredPage& page : m_pages)
         for (std::uint32_t position = page.first, i = 0; i < page.count; ++i) {
             const StoredString& string = at(position);
-            m_slots[slotOf(string.page, string.id)] = position + 1;
+            m_slots[slotOf(string.page, string.id)] = {string.page, string.id, position + 1};
             position = string.next;
         }
-}
-
-/// The slot where a string stands, or else would.
-std::size_t TextStore::slotOf(std::int32_t page, std::int32_t id) const noexcept {
-    const std::uint64_t key =
-        (std::uint64_t{static_cast<std::uint32_t>(page)} << 32U) | static_cast<std::uint32_t>(id);
-    // Multiplied by the golden ratio, the high bits spread well.
-    const auto bits = static_cast<unsigned>(std::countr_zero(m_slots.size()));
-    std::size_t slot = (key ^ key >> 32U) * 0x9E3779B97F4A7C15U >> (64U - bits);
-    for (;; slot = (slot + 1) & (m_slots.size() - 1)) {
-        if (m_slots[slot] == 0)
-            return slot;
-        const StoredString& string = this->string(m_slots[slot] - 1);
-        if (string.id == id && string.page == page)
-            return slot;
-    }
-}
-
-std::optional<std::uint32_t> TextStore::find(std::int32_t page, std::int32_t id) const noexcept {
-    const std::uint32_t found = m_slots.empty() ? 0 : m_slots[slotOf(page, id)];
-    return found == 0 ? std::nullopt : std::optional(found - 1);
 }
 
 /// Puts the strings read since `from` into table and pages. One that was there takes the new text.
@@ -149,19 +127,22 @@ void TextStore::merge(std::uint32_t from, const std::vector<NewPage>& pages) {
     for (const NewPage& page : pages)
         mergePage(page);
     const std::uint32_t end = m_size;
+    StoredPage* current = nullptr;
     m_size = from;
     for (std::uint32_t i = from; i < end; ++i) {
         const StoredString read = at(i);
-        std::uint32_t& slot = m_slots[slotOf(read.page, read.id)];
-        if (slot != 0) {
-            StoredString& known = at(slot - 1);
+        Slot& slot = m_slots[slotOf(read.page, read.id)];
+        if (slot.behind != 0) {
+            StoredString& known = at(slot.behind - 1);
             known.bytes = read.bytes;
             known.size = read.size;
             continue;
         }
         at(m_size) = read;
-        link(m_size);
-        slot = ++m_size;
+        if (current == nullptr || current->id != read.page)
+            current = &m_pages[m_pageById.find(read.page)->second];
+        link(m_size, *current);
+        slot = {read.page, read.id, ++m_size};
     }
 }
 
@@ -176,8 +157,7 @@ void TextStore::mergePage(const NewPage& page) {
     merged.description = page.description.value_or(merged.description);
 }
 
-void TextStore::link(std::uint32_t position) {
-    StoredPage& page = m_pages[m_pageById.find(at(position).page)->second];
+void TextStore::link(std::uint32_t position, StoredPage& page) {
     if (page.count++ == 0)
         page.first = position;
     else

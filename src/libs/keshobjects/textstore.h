@@ -45,8 +45,9 @@ public:
     /// The language is kept.
     void clear();
 
-    [[nodiscard]] std::optional<std::uint32_t> find(std::int32_t page,
-                                                    std::int32_t id) const noexcept;
+    static constexpr std::uint32_t none = 0xFFFFFFFF;
+    /// The position of a string, or `none`.
+    [[nodiscard]] std::uint32_t find(std::int32_t page, std::int32_t id) const noexcept;
     [[nodiscard]] std::uint32_t size() const noexcept { return m_size; }
     [[nodiscard]] const StoredString& string(std::uint32_t position) const noexcept {
         return m_strings[position / chunkSize][position % chunkSize];
@@ -65,25 +66,56 @@ private:
         std::optional<std::string> title;
         std::optional<std::string> description;
     };
-    static constexpr std::uint32_t chunkSize = 4096;
+    /// With the key, so that a lookup needs no look at the string.
+    struct Slot {
+        std::int32_t page = 0;
+        std::int32_t id = 0;
+        std::uint32_t behind = 0; ///< the string's position + 1, 0 is free
+    };
+    using Slots = std::vector<Slot, BigAllocator<Slot>>;
+    static constexpr std::uint32_t chunkSize = 1U << 18U; ///< worth large pages
 
     bool read(LanguageReader& reader, std::vector<NewPage>& pages);
     void append(std::int32_t page, std::int32_t id, std::string_view text);
     void merge(std::uint32_t from, const std::vector<NewPage>& pages);
     void mergePage(const NewPage& page);
-    void link(std::uint32_t position);
+    void link(std::uint32_t position, StoredPage& page);
     void reserve(std::size_t strings);
+    /// The slot where a string stands, or else would.
     [[nodiscard]] std::size_t slotOf(std::int32_t page, std::int32_t id) const noexcept;
     StoredString& at(std::uint32_t position) noexcept {
         return m_strings[position / chunkSize][position % chunkSize];
     }
 
     TextArena m_texts;
-    std::vector<std::unique_ptr<StoredString[]>> m_strings;
+    std::vector<BigArray<StoredString>> m_strings;
     std::uint32_t m_size = 0;
-    std::vector<std::uint32_t> m_slots; ///< positions + 1, 0 is free; a power of 2 in number
+    static constexpr unsigned groupBits = 8; ///< the smallest table is one group
+    /// A power of 2 in number.
+    Slots m_slots = Slots(1U << groupBits);
+    unsigned m_shift = 64U - groupBits; ///< of a hash to a slot
     std::vector<StoredPage> m_pages;
     std::unordered_map<std::int32_t, std::uint32_t> m_pageById;
 };
+
+inline std::size_t TextStore::slotOf(std::int32_t page, std::int32_t id) const noexcept {
+    // Neighbours by number stand side by side, as they are mostly asked for one after the other.
+    constexpr std::uint32_t group = 1U << groupBits;
+    constexpr std::size_t step = group + 1; // odd, so that it comes to every slot
+    const auto number = static_cast<std::uint32_t>(id);
+    const std::uint64_t key =
+        (std::uint64_t{static_cast<std::uint32_t>(page)} << 32U) | number / group;
+    // Multiplied by the golden ratio, groups spread well over the high bits.
+    std::size_t slot = ((key ^ key >> 29U) * 0x9E3779B97F4A7C15U >> m_shift) ^ (number % group);
+    for (;; slot = (slot + step) & (~std::uint64_t{0} >> m_shift)) {
+        const Slot& there = m_slots[slot];
+        if ((there.id == id && there.page == page) || there.behind == 0)
+            return slot;
+    }
+}
+
+inline std::uint32_t TextStore::find(std::int32_t page, std::int32_t id) const noexcept {
+    return m_slots[slotOf(page, id)].behind - 1;
+}
 
 } // namespace keshobjects

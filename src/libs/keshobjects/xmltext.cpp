@@ -5,7 +5,12 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <iterator>
 #include <optional>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 namespace keshobjects {
 namespace {
@@ -15,20 +20,6 @@ constexpr bool isXmlCharacter(char32_t character) noexcept {
            (character >= 0x20 && character < 0xD800) ||
            (character >= 0xE000 && character < 0xFFFE) ||
            (character >= 0x10000 && character < 0x110000);
-}
-
-/// True if all bytes are ASCII characters of XML; written so that the compiler can take many at
-/// once.
-bool isPlain(const char* bytes, std::size_t size) noexcept {
-    unsigned bad = 0;
-    for (std::size_t i = 0; i < size; ++i) {
-        const auto byte = static_cast<unsigned char>(bytes[i]);
-        const auto control =
-            static_cast<unsigned>(byte < 0x20) & static_cast<unsigned>(byte != '\t') &
-            static_cast<unsigned>(byte != '\n') & static_cast<unsigned>(byte != '\r');
-        bad |= control | static_cast<unsigned>(byte >= 0x80);
-    }
-    return bad == 0;
 }
 
 /// The size of the character of XML at the start of a text that is not empty; 0 if there is none.
@@ -42,6 +33,42 @@ std::size_t characterSize(std::string_view text) noexcept {
     std::string_view rest = text;
     const auto character = utf8().take(rest);
     return character && isXmlCharacter(*character) ? text.size() - rest.size() : 0;
+}
+
+/// Passes what is quickly seen to be characters of XML, from a place where one begins to another.
+std::size_t passQuickly(std::string_view text, std::size_t at) noexcept {
+#if defined(__SSE2__)
+    const auto below = [](__m128i bytes, char first, char count) {
+        const __m128i shifted = _mm_sub_epi8(bytes, _mm_set1_epi8(first));
+        return _mm_cmpeq_epi8(_mm_min_epu8(shifted, _mm_set1_epi8(count)), shifted);
+    };
+    const auto is = [](__m128i bytes, char c) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); };
+    const auto bits = [](__m128i found) {
+        return static_cast<std::uint32_t>(_mm_movemask_epi8(found));
+    };
+    constexpr std::size_t block = 16;
+    while (at + block <= text.size()) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text.data() + at));
+        const __m128i good =
+            _mm_or_si128(is(bytes, '\t'), _mm_or_si128(is(bytes, '\n'), is(bytes, '\r')));
+        if (bits(_mm_andnot_si128(good, below(bytes, 0, 0x1F))) != 0)
+            break;
+        const std::uint32_t high = bits(bytes);
+        if (high == 0) {
+            at += block;
+            continue;
+        }
+        // Characters of two bytes, which have no exception but the overlong ones.
+        const std::uint32_t first = bits(below(bytes, '\xC2', '\x1D'));
+        const std::uint32_t second = bits(below(bytes, '\x80', '\x3F'));
+        if (high != (first | second) || second != (first << 1U & 0xFFFFU))
+            break;
+        at += block - (first >> (block - 1));
+    }
+#else
+    static_cast<void>(text);
+#endif
+    return at;
 }
 
 struct Named {
@@ -117,20 +144,14 @@ void write(std::string_view text, std::string_view special, std::string& written
 } // namespace
 
 std::size_t findNoXmlCharacter(std::string_view text) noexcept {
-    constexpr std::size_t piece = 32;
-    std::size_t at = 0;
-    while (at < text.size()) {
-        if (at + piece <= text.size() && isPlain(text.data() + at, piece)) {
-            at += piece;
-            continue;
-        }
-        for (const std::size_t end = std::min(at + piece, text.size()); at < end;) {
+    constexpr std::size_t slowly = 16;
+    for (std::size_t at = passQuickly(text, 0); at < text.size(); at = passQuickly(text, at))
+        for (const std::size_t end = std::min(at + slowly, text.size()); at < end;) {
             const std::size_t size = characterSize(text.substr(at));
             if (size == 0)
                 return at;
             at += size;
         }
-    }
     return text.npos;
 }
 

@@ -62,7 +62,7 @@ XmlReader::Token XmlReader::next() {
         if (rest().starts_with("<![CDATA["))
             return cdata();
         if (!(rest().starts_with("<!--") ? passBehind("<!--", "-->", "remark")
-              : sign == '?'              ? passBehind("<?", "?>", "instruction")
+              : sign == '?'              ? passInstruction()
                                          : passDoctype()))
             return Token::Error;
     }
@@ -108,6 +108,13 @@ bool XmlReader::passBehind(std::string_view opening, std::string_view closing, c
     }
     m_at = found + closing.size();
     return true;
+}
+
+bool XmlReader::passInstruction() {
+    const bool named = m_at + 2 < m_text.size() && is(m_text[m_at + 2], NameStart);
+    if (!named)
+        fail(m_at, "an instruction without a name");
+    return named && passBehind("<?", "?>", "instruction");
 }
 
 bool XmlReader::passDoctype() {

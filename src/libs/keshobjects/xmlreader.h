@@ -60,6 +60,7 @@ private:
     Token finish();
     bool attribute();
     bool passBehind(std::string_view opening, std::string_view closing, const char* what);
+    bool passInstruction();
     bool passDoctype();
     bool passBlanks() noexcept;
     std::string_view takeName() noexcept;

@@ -21,5 +21,6 @@ std::vector<Row> catalogRows(const Options& options);
 std::vector<Row> viewRows(const Options& options);
 std::vector<Row> listRows(const Options& options);
 std::vector<Row> shipRows(const Options& options);
+std::vector<Row> textRows(const Options& options);
 
 } // namespace bench

@@ -1,3 +1,4 @@
+#include "keshobjects/xmltext.h"
 #include "languagefile.h"
 #include "lornfd/lornfd.h"
 
@@ -120,6 +121,31 @@ TEST(Texts, EveryCutOfAFileIsRefused) {
     const std::string_view whole = sampleFile.substr(0, sampleFile.size() - 1);
     for (std::size_t size = 0; size < whole.size(); ++size)
         EXPECT_EQ(loadExact(whole.substr(0, size), Kesh_TRELoadFromMemory), 0) << size;
+}
+
+/// Texts are scanned many bytes at a time, so every place within such a block is tried.
+TEST(Texts, NothingIsMissedAtAnyPlace) {
+    const std::string fillers[] = {"a", "\u00E4", "\u20AC", "\U0001F600", "a\n\u00E4"};
+    const std::string bads[] = {"\x01",         "\x1F",         "\x80",
+                                "\xC3",         "\xC1\x81",     "\xFF",
+                                "\xE0\x9F\xBF", "\xEF\xBF\xBE", "\xF4\x90\x80\x80",
+                                "\xC3\xC3",     "\xE2\x82"};
+    for (const std::string& filler : fillers)
+        for (std::size_t before = 0; before < 40; ++before)
+            for (const std::string& end : {std::string(), filler, std::string(20, 'a')}) {
+                std::string start;
+                for (std::size_t i = 0; i < before; ++i)
+                    start += filler;
+                EXPECT_EQ(keshobjects::findNoXmlCharacter(start + end), start.npos);
+                for (const std::string& bad : bads)
+                    EXPECT_EQ(keshobjects::findNoXmlCharacter(start + bad + end), start.size());
+                for (const char special : {'&', '\r', 'a'}) {
+                    const std::string text = start + special + end + "<&\r<";
+                    const auto found = keshobjects::findTextEnd(text, 0);
+                    EXPECT_EQ(found.place, text.find('<'));
+                    EXPECT_EQ(found.asItReads, special == 'a');
+                }
+            }
 }
 
 // --- Saving

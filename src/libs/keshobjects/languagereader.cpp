@@ -49,15 +49,13 @@ void ElementText::clear() noexcept {
 
 void ElementText::add(const XmlReader& piece, Token kind) {
     const std::string_view text = piece.text();
-    const bool asItStands =
-        text.find('\r') == text.npos && (kind == Token::CData || text.find('&') == text.npos);
-    if (asItStands && m_view.empty()) {
+    if (piece.asItReads() && m_view.empty()) {
         m_view = text;
         return;
     }
     if (m_view.data() != m_read.data())
         m_read = m_view;
-    if (asItStands)
+    if (piece.asItReads())
         m_read += text;
     else if (kind == Token::Text)
         appendXmlContent(text, m_read);

@@ -10,32 +10,29 @@ namespace keshobjects {
 
 // --- Arena
 
-char* TextArena::add(std::size_t size) {
-    m_blocks.push_back(makeBigArray<char>(size));
-    return m_blocks.back().get();
-}
-
 const char* TextArena::keep(std::string_view text) {
     char* to = nullptr;
     if (text.size() > blockSize / 8) {
-        to = add(text.size());
+        to = m_large.emplace_back(makeBigArray<char>(text.size())).get();
+        ++m_now.large;
     } else {
-        if (text.size() > m_left) {
-            m_free = add(blockSize);
-            m_left = blockSize;
+        if (text.size() > m_now.left) {
+            if (m_now.blocks == m_blocks.size())
+                m_blocks.push_back(makeBigArray<char>(blockSize));
+            m_now.free = m_blocks[m_now.blocks++].get();
+            m_now.left = blockSize;
         }
-        to = m_free;
-        m_free += text.size();
-        m_left -= text.size();
+        to = m_now.free;
+        m_now.free += text.size();
+        m_now.left -= text.size();
     }
     std::copy(text.begin(), text.end(), to);
     return to;
 }
 
 void TextArena::goBack(const Mark& mark) noexcept {
-    m_blocks.resize(mark.blocks);
-    m_free = mark.free;
-    m_left = mark.left;
+    m_now = mark;
+    m_large.resize(mark.large);
 }
 
 // --- Store
@@ -67,9 +64,12 @@ bool TextStore::load(std::string_view bytes, std::string_view file) {
 }
 
 void TextStore::clear() {
-    const std::int32_t kept = language;
-    *this = TextStore();
-    language = kept;
+    m_texts.clear();
+    m_size = 0;
+    std::fill(m_slots.begin(), m_slots.end(), Slot());
+    m_pages.clear();
+    m_pageById.clear();
+    resolving = false;
 }
 
 bool TextStore::read(LanguageReader& reader, std::vector<NewPage>& pages) {

@@ -42,7 +42,7 @@ public:
 
     /// Adds a file. False with the last error set, and nothing added, if it is broken.
     bool load(std::string_view bytes, std::string_view file);
-    /// The language is kept.
+    /// The language is kept, and the memory for the next load.
     void clear();
 
     static constexpr std::uint32_t none = 0xFFFFFFFF;

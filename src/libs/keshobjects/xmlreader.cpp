@@ -1,7 +1,5 @@
 #include "keshobjects/xmlreader.h"
 
-#include "keshobjects/xmltext.h"
-
 #include <algorithm>
 #include <array>
 
@@ -48,11 +46,11 @@ XmlReader::Token XmlReader::next() {
     while (m_at < m_text.size()) {
         m_begin = m_at;
         if (m_text[m_at] != '<') {
-            const std::size_t end = std::min(m_text.find('<', m_at), m_text.size());
+            const TextEnd end = findTextEnd(m_text, m_at);
             if (!m_open.empty())
                 return text(end);
             passBlanks();
-            if (m_at < end)
+            if (m_at < end.place)
                 return fail(m_at, "text outside the root element");
             continue;
         }
@@ -82,11 +80,13 @@ XmlReader::Token XmlReader::finish() {
     return m_rootSeen ? Token::Finish : fail(m_text.size(), "no element");
 }
 
-XmlReader::Token XmlReader::text(std::size_t end) {
-    m_raw = m_text.substr(m_at, end - m_at);
-    if (const std::size_t bad = findBadReference(m_raw); bad != m_raw.npos)
+XmlReader::Token XmlReader::text(const TextEnd& end) {
+    m_raw = m_text.substr(m_at, end.place - m_at);
+    m_asItReads = end.asItReads;
+    if (const std::size_t bad = m_asItReads ? m_raw.npos : findBadReference(m_raw);
+        bad != m_raw.npos)
         return fail(m_at + bad, "an \"&\" that begins no known reference");
-    m_at = end;
+    m_at = end.place;
     return Token::Text;
 }
 
@@ -97,6 +97,7 @@ XmlReader::Token XmlReader::cdata() {
     if (!passBehind("<![CDATA[", "]]>", "CDATA section"))
         return Token::Error;
     m_raw = m_text.substr(start, m_at - "]]>"sv.size() - start);
+    m_asItReads = m_raw.find('\r') == m_raw.npos;
     return Token::CData;
 }
 

@@ -6,6 +6,8 @@
 // that no entity is ever expanded.
 #pragma once
 
+#include "keshobjects/xmltext.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -39,6 +41,8 @@ public:
     [[nodiscard]] bool closed() const noexcept { return m_closed; }
     /// A text as it stands, its references good; without the signs around CDATA.
     [[nodiscard]] std::string_view text() const noexcept { return m_raw; }
+    /// The text reads as it stands: it holds nothing that XML replaces.
+    [[nodiscard]] bool asItReads() const noexcept { return m_asItReads; }
     /// Where the token begins and ends.
     [[nodiscard]] std::size_t begin() const noexcept { return m_begin; }
     [[nodiscard]] std::size_t end() const noexcept { return m_at; }
@@ -51,7 +55,7 @@ public:
 
 private:
     Token fail(std::size_t place, std::string reason);
-    Token text(std::size_t end);
+    Token text(const TextEnd& end);
     Token markup();
     Token startTag();
     Token endTag();
@@ -73,6 +77,7 @@ private:
     std::string_view m_raw;
     std::vector<Attribute> m_attributes;
     std::vector<std::string_view> m_open;
+    bool m_asItReads = false;
     bool m_closed = false;
     bool m_pendingEnd = false; ///< of an element without content
     bool m_rootSeen = false;

@@ -3,6 +3,7 @@
 #include "keshobjects/encodings.h"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <iterator>
@@ -49,6 +50,11 @@ std::size_t passQuickly(std::string_view text, std::size_t at) noexcept {
     constexpr std::size_t block = 16;
     while (at + block <= text.size()) {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text.data() + at));
+        // Compared with sign, what is not ASCII is below the blank as well.
+        if (bits(_mm_cmplt_epi8(bytes, _mm_set1_epi8(' '))) == 0) {
+            at += block;
+            continue;
+        }
         const __m128i good =
             _mm_or_si128(is(bytes, '\t'), _mm_or_si128(is(bytes, '\n'), is(bytes, '\r')));
         if (bits(_mm_andnot_si128(good, below(bytes, 0, 0x1F))) != 0)
@@ -142,6 +148,29 @@ void write(std::string_view text, std::string_view special, std::string& written
 }
 
 } // namespace
+
+TextEnd findTextEnd(std::string_view text, std::size_t at) noexcept {
+    bool asItReads = true;
+#if defined(__SSE2__)
+    constexpr std::size_t block = 16;
+    for (; at + block <= text.size(); at += block) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text.data() + at));
+        const auto where = [bytes](char c) {
+            return static_cast<std::uint32_t>(
+                _mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(c))));
+        };
+        const std::uint32_t ends = where('<');
+        const std::uint32_t special = where('&') | where('\r');
+        // Only what stands before the first end counts.
+        asItReads = asItReads && (special & (ends - 1) & ~ends) == 0;
+        if (ends != 0)
+            return {at + static_cast<std::size_t>(std::countr_zero(ends)), asItReads};
+    }
+#endif
+    for (; at < text.size() && text[at] != '<'; ++at)
+        asItReads = asItReads && text[at] != '&' && text[at] != '\r';
+    return {at, asItReads};
+}
 
 std::size_t findNoXmlCharacter(std::string_view text) noexcept {
     constexpr std::size_t slowly = 16;

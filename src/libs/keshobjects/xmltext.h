@@ -11,6 +11,13 @@ namespace keshobjects {
 /// other than tab and line breaks, or U+FFFE and U+FFFF; npos if there is none.
 [[nodiscard]] std::size_t findNoXmlCharacter(std::string_view text) noexcept;
 
+/// Where the text that runs from a place to the next "<" or the end ends.
+struct TextEnd {
+    std::size_t place;
+    bool asItReads; ///< no reference and no carriage return stands in it
+};
+[[nodiscard]] TextEnd findTextEnd(std::string_view text, std::size_t at) noexcept;
+
 /// The offset of the first "&" that begins neither a character reference nor one of the five named
 /// ones; npos if there is none.
 [[nodiscard]] std::size_t findBadReference(std::string_view text) noexcept;

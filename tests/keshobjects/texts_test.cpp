@@ -39,7 +39,7 @@ std::string sampleWith(std::string_view piece, std::string_view other) {
 
 TEST(Texts, AFileReadsAsXmlSays) {
     const LanguageFile file(
-        "\xEF\xBB\xBF<!DOCTYPE texts SYSTEM 'x.dtd'><?pi?>\r\n<texts language='-7' x=''>junk"
+        "\xEF\xBB\xBF<!DOCTYPE texts SYSTEM 'x>[.dtd'><?pi?>\r\n<texts language='-7' x=''>junk"
         "<page id='-2147483648' title='a\tb\r\nc&#10;&lt;' voice='2147483647'><other><string "
         "id='9'>no</string></other>"
         "<string id='+5'> a\r\nb\rc&#13;\n&#x1F600;&amp;lt; <![CDATA[<&amp;\r\n]]> d</string>"
@@ -95,6 +95,7 @@ TEST(Texts, BadFilesAreRefusedWithNameAndPlace) {
         {"<texts><!x></texts>", "nothing known"},
         {"<!DOCTYPE texts [<!ENTITY a SYSTEM \"file:///etc/passwd\">]>\n<texts>&a;</texts>",
          "document type with declarations"},
+        {"<!DOCTYPE texts'><texts/>", "document type that never ends"},
         {"<!DOCTYPE texts [<!ENTITY a \"aaaa\">]><texts/>", "document type with declarations"},
         {"<texts>\n\x01</texts>", "character that XML does not have in line 2"},
         {"<texts>\xEF\xBF\xBF</texts>", "character that XML does not have"},

@@ -119,14 +119,22 @@ bool XmlReader::passInstruction() {
 }
 
 bool XmlReader::passDoctype() {
-    const std::size_t stop = m_text.find_first_of("[>", m_at);
-    if (!rest().starts_with("<!DOCTYPE") || m_rootSeen || stop == m_text.npos ||
-        m_text[stop] == '[') {
-        fail(m_at, rest().starts_with("<!DOCTYPE") && stop != m_text.npos && !m_rootSeen
-                       ? "a document type with declarations of its own"
-                       : "a \"<!\" that begins nothing known here");
+    constexpr std::string_view opening = "<!DOCTYPE";
+    const auto refuse = [this](const char* reason) {
+        fail(m_at, reason);
         return false;
+    };
+    if (!rest().starts_with(opening) || m_rootSeen)
+        return refuse("a \"<!\" that begins nothing known here");
+    std::size_t stop = m_text.find_first_of("'\"[<>", m_at + opening.size());
+    while (stop != m_text.npos && m_text[stop] != '>') {
+        if (m_text[stop] == '[' || m_text[stop] == '<')
+            return refuse("a document type with declarations of its own");
+        const std::size_t close = m_text.find(m_text[stop], stop + 1);
+        stop = close == m_text.npos ? close : m_text.find_first_of("'\"[<>", close + 1);
     }
+    if (stop == m_text.npos)
+        return refuse("a document type that never ends");
     m_at = stop + 1;
     return true;
 }

@@ -22,5 +22,6 @@ std::vector<Row> viewRows(const Options& options);
 std::vector<Row> listRows(const Options& options);
 std::vector<Row> shipRows(const Options& options);
 std::vector<Row> textRows(const Options& options);
+std::vector<Row> checkRows(const Options& options);
 
 } // namespace bench

@@ -18,7 +18,7 @@
 namespace {
 
 using Group = std::pair<const char*, std::vector<bench::Row> (*)(const bench::Options&)>;
-constexpr std::array<Group, 8> groups = {{
+constexpr std::array<Group, 9> groups = {{
     {"load", bench::loadRows},
     {"packed", bench::packedRows},
     {"save", bench::saveRows},
@@ -27,6 +27,7 @@ constexpr std::array<Group, 8> groups = {{
     {"list", bench::listRows},
     {"ships", bench::shipRows},
     {"texts", bench::textRows},
+    {"check", bench::checkRows},
 }};
 
 std::string machineName() {
@@ -73,7 +74,8 @@ int main(int argc, char** argv) {
         ->check(CLI::Range(1, 10000000));
     app.add_option("--rounds", options.rounds, "Rounds of which the best counts")
         ->check(CLI::Range(1, 100));
-    app.add_option("--only", only, "One group: load, packed, save, catalog, view, list, ships, texts");
+    app.add_option("--only", only,
+                   "One group: load, packed, save, catalog, view, list, ships, texts, check");
     app.add_option("--place", place,
                    "Directory on the disk to measure; a temporary one is made there");
     app.add_option("--write", page, "Also write the page with date, machine and table here");

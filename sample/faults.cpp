@@ -88,8 +88,8 @@ struct OwnFile {
 
 const std::vector<OwnFile>& ownFiles() {
     static const std::vector<OwnFile> files = {
-        {"WareLists.txt", wareLists, {"0\tWARE_SUNBEAM\t1\terror", "1\tware_lamp_oil\t0\terror"}},
-        {"JobWings.txt", jobWings, {"0\t9000\t2\terror", "2\t102\t0\terror"}},
+        {"WareLists.txt", wareLists, {"0\t\t1\terror", "1\t\t0\terror"}},
+        {"JobWings.txt", jobWings, {"0\t1\t2\terror", "2\t1\t0\terror"}},
         {"TSuns.txt", suns, {"\t\t\tnote"}},
         {"0009-L044.xml",
          texts,
@@ -114,8 +114,9 @@ public:
         const RecordPtr record = m_parser.FindIndex(fault.record);
         const std::int32_t field = fault.field < 0 ? record->size() + fault.field : fault.field;
         record->SetValue(field, keshobjects::readValue(fault.value));
+        const bool job = m_parser.otype() == otype::Jobs;
         std::string line = std::string(View) + m_name + '\t' + std::to_string(fault.record) + '\t' +
-                           std::string(record->ObjectName()) + '\t';
+                           std::string(record->ValueText(job ? 0 : record->size() - 1)) + '\t';
         if (fault.foundAt != Whole)
             line += std::to_string(field);
         return line + (fault.note ? "\tnote\n" : "\terror\n");

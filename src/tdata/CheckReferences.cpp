@@ -20,7 +20,7 @@ std::unordered_set<std::string_view> NamesIn(const clsTxtParser* file) {
 const clsTxtParser* CheckReferences::File(std::string_view Key) {
     auto found = m_files.find(Key);
     if (found == m_files.end())
-        found = m_files.emplace(Key, Archive ? Archive->GetFile(Key) : nullptr).first;
+        found = m_files.emplace(Key, m_withGame && Archive ? Archive->GetFile(Key) : nullptr).first;
     return found->second.get();
 }
 
@@ -35,20 +35,12 @@ bool CheckReferences::HasShip(std::string_view ID) {
     return m_ships->contains(ID);
 }
 
-const CheckReferences::Names& CheckReferences::Wares() {
+bool CheckReferences::HasWare(std::string_view ID) {
     if (!m_wares) {
         m_merged = BuildWareList();
         m_wares = NamesIn(m_merged.get());
     }
-    return *m_wares;
-}
-
-bool CheckReferences::HasWare(std::string_view ID) {
-    return Wares().contains(ID);
-}
-
-bool CheckReferences::HasAnyWare() {
-    return !Wares().empty();
+    return m_wares->contains(ID);
 }
 
 bool CheckReferences::HasJobWing(const KeshValue& Number) {

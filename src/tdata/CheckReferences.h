@@ -13,8 +13,9 @@
 
 class CheckReferences {
 public:
-    /// Files come from the archive. `WithTexts`: the store holds the language to be checked.
-    explicit CheckReferences(bool WithTexts) : m_withTexts(WithTexts) {}
+    /// Files come from the archive. Without `WithGame` there is no game to look into, and nothing
+    /// is missing. `WithTexts`: the store holds the language to be checked.
+    CheckReferences(bool WithGame, bool WithTexts) : m_withGame(WithGame), m_withTexts(WithTexts) {}
 
     /// A file of the game by its key ("TBullets"); none if it is not at hand.
     [[nodiscard]] const clsTxtParser* File(std::string_view Key);
@@ -22,10 +23,10 @@ public:
 
     [[nodiscard]] bool HasShip(std::string_view ID);
     [[nodiscard]] bool HasWare(std::string_view ID);
-    [[nodiscard]] bool HasAnyWare(); ///< false if none of the ware files is at hand
     [[nodiscard]] bool HasJobWing(const KeshValue& Number);
     [[nodiscard]] bool HasJob(std::int32_t Number);
 
+    [[nodiscard]] bool WithGame() const noexcept { return m_withGame; }
     [[nodiscard]] bool WithTexts() const noexcept { return m_withTexts; }
     /// A string of page 17.
     [[nodiscard]] bool HasObjectText(std::int32_t Id) const;
@@ -33,8 +34,7 @@ public:
 private:
     using Names = std::unordered_set<std::string_view>; ///< of records that stay as they are
 
-    const Names& Wares();
-
+    bool m_withGame;
     bool m_withTexts;
     std::map<std::string, std::shared_ptr<clsTxtParser>, std::less<>> m_files;
     std::unique_ptr<clsTxtParser> m_merged;

@@ -11,18 +11,40 @@
 #include "tdata/mdlKeshConst.h"
 #include "textres/clsDescServer.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace {
 
-/// The language in a name like "0001-L044.xml"; none for other names.
+bool AllDigits(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == text.npos;
+}
+
+/// The language in a name like "0001-L044.xml", or "440001.xml" as older ones are; none for others.
 std::optional<std::int32_t> LanguageOf(const std::string& path) {
-    const std::string extension = lornfd::foldCase(ExtensionOf(path));
-    const std::string name = lornfd::foldCase(BaseName(path, true));
-    const std::size_t mark = name.rfind("-l");
-    if ((extension != "xml" && extension != "pck") || mark == name.npos)
+    constexpr std::string_view mark = "-l";
+    constexpr std::size_t digits = 3;
+    const std::string extension = lornfd::foldCase(std::string_view(ExtensionOf(path)));
+    if (extension != "xml" && extension != "pck")
         return {};
-    return keshobjects::readInteger(std::string_view(name).substr(mark + 2));
+    const std::string name = lornfd::foldCase(std::string_view(BaseName(path, true)));
+    std::string_view language = name;
+    if (AllDigits(language) && language.size() > 2)
+        return keshobjects::readInteger(language.substr(0, 2));
+    if (language.size() <= mark.size() + digits)
+        return {};
+    language.remove_prefix(language.size() - mark.size() - digits);
+    const bool marked = language.starts_with(mark) && AllDigits(language.substr(mark.size()));
+    return marked ? keshobjects::readInteger(language.substr(mark.size())) : std::nullopt;
+}
+
+/// A name that the game looks for, perhaps with more behind "_"; not any that only holds one.
+bool IsGamesName(const std::string& path) {
+    const std::string name = BaseName(path, true);
+    const std::string_view stem = std::string_view(name).substr(0, name.find('_'));
+    const auto is = [stem](std::string_view key) { return lornfd::equalNoCase(stem, key); };
+    return std::ranges::any_of(WareFileNames(), is) ||
+           std::ranges::any_of(ObjectTypeKeys(), is, &ObjectTypeKey::Key);
 }
 
 /// Why the file cannot be loaded; empty if it is.
@@ -55,11 +77,29 @@ bool CheckRun::Add(const std::string& Shown, const std::string& RealName) {
 }
 
 void CheckRun::AddView() {
-    ForEachViewFile([this](const ViewFile& file) { Add("vfs://" + file.Name, file.RealName); });
+    m_wholeView = true;
+    ForEachViewFile([this](const ViewFile& file) {
+        if (LanguageOf(file.Name) || IsGamesName(file.Name))
+            Add("vfs://" + file.Name, file.RealName);
+    });
 }
 
-void CheckRun::Run(std::int32_t Language, const TakeFindings& Findings,
+void CheckRun::Run(bool WithGame, std::int32_t Language, const TakeFindings& Findings,
                    const TakeFailure& Failed) const {
+    CheckTexts(Findings, Failed);
+    DescServer->LoadResources(Language);
+    const bool withTexts = !EnumChildren(KESH_STORE).empty();
+    if (WithGame && !withTexts)
+        Findings({{.Level = Severity::Note,
+                   .Text = "There are no texts of language " + std::to_string(Language) +
+                           ", so references to texts were not checked."}});
+    CheckReferences references(WithGame, withTexts);
+    CheckRecords(references, Findings, Failed);
+    if (m_wholeView)
+        Findings(CheckMergedWares(references));
+}
+
+void CheckRun::CheckTexts(const TakeFindings& Findings, const TakeFailure& Failed) const {
     for (const auto& [language, files] : m_languageFiles) {
         DescServer->LoadResources(language);
         for (const File& file : files) {
@@ -72,15 +112,15 @@ void CheckRun::Run(std::int32_t Language, const TakeFindings& Findings,
             Kesh_DeleteHandle(0, texts);
         }
     }
-    DescServer->LoadResources(Language);
-    std::int32_t pages = 0;
-    Kesh_EnumObjects(KESH_STORE, nullptr, 0, pages);
-    CheckReferences references(pages > 0);
+}
+
+void CheckRun::CheckRecords(CheckReferences& References, const TakeFindings& Findings,
+                            const TakeFailure& Failed) const {
     for (const File& file : m_tFiles) {
         clsTxtParser parser;
         const std::string error = Load(parser, file.RealName);
         if (error.empty())
-            Findings(CheckTFile(parser, file.Shown, references));
+            Findings(CheckTFile(parser, file.Shown, References));
         else
             Failed(Named(file.RealName, error));
     }

@@ -17,12 +17,15 @@ public:
     /// Takes a file by its real place; `Shown` is its name in findings. False for a file of neither
     /// kind, which is told by the name.
     bool Add(const std::string& Shown, const std::string& RealName);
-    /// Every such file of the merged view, shown by its "vfs://" name.
+    /// Every file of the merged view with a name of the game's, such as "TShips", "TShips_48" or
+    /// "0001-L044", shown by its "vfs://" name.
     void AddView();
 
-    /// Loads and checks file after file. References go to the archive and to the texts of a
-    /// language; both services have to be there, and the store is left with that language.
-    void Run(std::int32_t Language, const TakeFindings& Findings, const TakeFailure& Failed) const;
+    /// Loads and checks file after file. With a game in the view references go to its files and to
+    /// the texts of a language, without one they are passed over. The archive and the description
+    /// server have to be there; the store is left with that language.
+    void Run(bool WithGame, std::int32_t Language, const TakeFindings& Findings,
+             const TakeFailure& Failed) const;
 
 private:
     struct File {
@@ -30,6 +33,11 @@ private:
         std::string RealName;
     };
 
+    void CheckTexts(const TakeFindings& Findings, const TakeFailure& Failed) const;
+    void CheckRecords(CheckReferences& References, const TakeFindings& Findings,
+                      const TakeFailure& Failed) const;
+
+    bool m_wholeView = false;
     std::map<std::int32_t, std::vector<File>> m_languageFiles;
     std::vector<File> m_tFiles;
 };

@@ -1,6 +1,5 @@
 #include "tdata/DataCheck.h"
 
-#include "core/KeshError.h"
 #include "lornfd/paths.h"
 #include "tdata/FieldLookup.h"
 #include "tdata/clsShip.h"
@@ -9,6 +8,7 @@
 #include "tdata/mdlKeshJobs.h"
 #include "tdata/mdlKeshShips.h"
 #include "tdata/mdlKeshWare.h"
+#include "tdata/mdlWareList.h"
 
 #include <set>
 #include <unordered_map>
@@ -93,6 +93,16 @@ const Checker::Rule Checker::Rules[] = {
     {otype::Jobs, 18, &Checker::ShipID},
 };
 
+/// Jobs and wings are known by their first value, ware lists and the root of icons by their place
+/// alone (-1), all others by their last value.
+std::int32_t IdField(const clsTXTObject& record) {
+    const std::int32_t type = record.otype;
+    if (type == otype::WareLists || (type == otype::IconData && record.Index == 0))
+        return -1;
+    const bool numbered = type == otype::Jobs || type == otype::JobWings;
+    return numbered && record.size() > 0 ? 0 : record.size() - 1;
+}
+
 std::string Quoted(std::string_view text) {
     return '"' + std::string(text) + '"';
 }
@@ -126,8 +136,7 @@ void Checker::CheckRecord(const RecordPtr& object) {
         if (field >= 0 && field < record.size())
             (this->*rule.Check)(record, field);
     }
-    if (FieldsOf(type).Common != Frame::None || type == otype::Jobs || type == otype::JobWings)
-        CheckDuplicate(record);
+    CheckDuplicate(record);
     if (type == otype::Ships)
         CheckShip(object);
     else if (type == otype::WareLists)
@@ -136,50 +145,53 @@ void Checker::CheckRecord(const RecordPtr& object) {
         CheckJobWing(record);
 }
 
-/// Jobs and wings are known by their first value, all others by their last.
 void Checker::CheckDuplicate(Record record) {
-    if (record.size() == 0)
+    const std::int32_t field = IdField(record);
+    if (field < 0)
         return;
-    const std::int32_t field = FieldsOf(record.otype).Common == Frame::None ? 0 : record.size() - 1;
+    const std::string id = keshobjects::spellValue(record.Value(field));
     const auto [first, isNew] =
-        m_seen.emplace(lornfd::foldCase(record.ValueText(field)), record.Index);
+        m_seen.emplace(lornfd::foldCase(std::string_view(id)), record.Index);
     if (!isNew)
         Add(record, field,
-            "The ID " + Quoted(record.ValueText(field)) + " is also that of object " +
-                std::to_string(first->second) + ".");
+            "The ID " + Quoted(id) + " is also that of object " + std::to_string(first->second) +
+                ".");
 }
 
 void Checker::CheckShip(const RecordPtr& record) {
     clsShip ship(record);
-    if (!ship.LoadObjects() || !ship.Validate())
+    const bool loaded = ship.LoadObjects();
+    const std::string whyNot = ship.GetLastError();
+    if (!ship.Validate())
         Add(*record, -1, ship.GetLastError());
-    try {
+    else if (!loaded)
+        Add(*record, -1, whyNot);
+    else
         for (const auto& turret : ship.Turrets())
             CheckTurret(*record, *turret);
-    } catch (const KeshError& error) {
-        // The counts that lead out of the record, or a value that is no number.
-        Add(*record, -1, error.what());
-    }
 }
 
 // The pair of descriptors of a turret stands where its index says.
 void Checker::CheckTurret(Record record, const clsTurret& turret) {
-    constexpr std::int32_t first = 31;
-    constexpr std::int32_t last = 41;
+    for (const std::int32_t field : {turret.Offset(), turret.Offset() + 1})
+        if (!record.ValueInteger(field)) {
+            Add(record, field, Quoted(record.ValueText(field)) + " is no number.");
+            return;
+        }
     if (!turret.IsTurret())
         return;
-    const std::int32_t field = turret.DescriptorOffset();
     const std::string name = "The type of turret " + std::to_string(turret.index());
-    if (field < first || field > last)
-        Add(record, turret.Offset(), name + " has no place in the record.");
+    if (turret.HasDescriptor())
+        InFile(record, turret.DescriptorOffset(), name, "TCockpits");
     else
-        InFile(record, field, name, "TCockpits");
+        Add(record, turret.Offset(), name + " has no place in the record.");
 }
 
 void Checker::CheckWareList(Record record) {
-    if (!m_references.HasAnyWare())
-        return;
-    for (std::int32_t i = 0; i < record.size(); ++i)
+    bool haveAll = true;
+    for (const std::string_view file : MergedWareFiles())
+        haveAll = Have(file) && haveAll;
+    for (std::int32_t i = 0; haveAll && i < record.size(); ++i)
         if (!m_references.HasWare(record.ValueText(i)))
             Add(record, i, "There is no ware " + Quoted(record.ValueText(i)) + ".");
 }
@@ -247,9 +259,12 @@ void Checker::ObjectName(Record record, std::int32_t field) {
     TextId(record, field);
     // The description has the id behind the name's. Many objects do without.
     const std::int32_t name = record.ValueInteger(field).value_or(0);
-    if (m_references.WithTexts() && name > 0 && m_references.HasObjectText(name) &&
-        !m_references.HasObjectText(name + 1))
-        Add(record, field, "There is no description (text 17:" + std::to_string(name + 1) + ").",
+    if (!m_references.WithTexts() || name <= 0 || !m_references.HasObjectText(name))
+        return;
+    const std::int64_t description = std::int64_t{name} + 1;
+    if (!std::in_range<std::int32_t>(description) ||
+        !m_references.HasObjectText(static_cast<std::int32_t>(description)))
+        Add(record, field, "There is no description (text 17:" + std::to_string(description) + ").",
             Severity::Note);
 }
 
@@ -257,7 +272,7 @@ void Checker::ObjectName(Record record, std::int32_t field) {
 
 void Checker::InWords(Record record, std::int32_t field, const TextTable& words,
                       std::string_view what) {
-    if (FindInList(record.ValueText(field), words) < 0)
+    if (FindInList(keshobjects::spellValue(record.Value(field)), words) < 0)
         Add(record, field, Said(record, field) + ", which is no " + std::string(what) + ".");
 }
 
@@ -287,7 +302,7 @@ void Checker::InFile(Record record, std::int32_t field, const std::string& name,
 bool Checker::Have(std::string_view key) {
     if (m_references.File(key) != nullptr)
         return true;
-    if (m_missing.emplace(key).second)
+    if (m_references.WithGame() && m_missing.emplace(key).second)
         m_findings.push_back(
             {.File = m_file,
              .Level = Severity::Note,
@@ -307,8 +322,9 @@ std::string Checker::Said(Record record, std::int32_t field) {
 }
 
 void Checker::Add(Record record, std::int32_t field, std::string text, Severity level) {
-    m_findings.push_back(
-        {m_file, record.Index, std::string(record.ObjectName()), field, level, std::move(text)});
+    const std::int32_t idField = IdField(record);
+    std::string id(idField < 0 ? std::string_view() : record.ValueText(idField));
+    m_findings.push_back({m_file, record.Index, std::move(id), field, level, std::move(text)});
 }
 
 } // namespace
@@ -316,4 +332,24 @@ void Checker::Add(Record record, std::int32_t field, std::string text, Severity 
 std::vector<Finding> CheckTFile(const clsTxtParser& Parser, const std::string& File,
                                 CheckReferences& References) {
     return Checker(Parser, File, References).Run();
+}
+
+std::vector<Finding> CheckMergedWares(CheckReferences& References) {
+    std::unordered_map<std::string, std::string_view> files; ///< by ID in lower case
+    std::vector<Finding> findings;
+    for (const std::string_view key : MergedWareFiles()) {
+        const clsTxtParser* const file = References.File(key);
+        for (std::size_t i = 0; file != nullptr && i < file->ByIndex().size(); ++i) {
+            const clsTXTObject& record = *file->ByIndex()[i];
+            const auto [first, isNew] = files.emplace(lornfd::foldCase(record.ObjectName()), key);
+            if (isNew || first->second == key)
+                continue;
+            findings.push_back({"vfs://types\\" + std::string(key), record.Index,
+                                std::string(record.ObjectName()), record.size() - 1,
+                                Severity::Error,
+                                "The ID " + Quoted(record.ObjectName()) + " is also one of " +
+                                    std::string(first->second) + "."});
+        }
+    }
+    return findings;
 }

@@ -24,10 +24,15 @@ struct Finding {
 };
 
 /// Everything wrong with a loaded T file. What it refers to is looked up in `References`; where a
-/// file or the texts are not at hand, references into them are passed over, with a note for a file.
+/// file or the texts are not at hand, references into them are passed over, with a note for a file
+/// that a game lacks.
 [[nodiscard]] std::vector<Finding> CheckTFile(const clsTxtParser& Parser, const std::string& File,
                                               CheckReferences& References);
 
-/// The same for a language file loaded for editing; references to texts that it does not have are
-/// looked up in the store, which should hold its language.
+/// IDs that two of the game's files of wares, shields, missiles and lasers share: lists name a ware
+/// by its ID alone, and the first one counts.
+[[nodiscard]] std::vector<Finding> CheckMergedWares(CheckReferences& References);
+
+/// The same as CheckTFile for a language file loaded for editing; references to texts that it lacks
+/// are looked up in the store, which should hold its language.
 [[nodiscard]] std::vector<Finding> CheckLanguageFile(std::int32_t Texts, const std::string& File);

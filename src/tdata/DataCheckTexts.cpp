@@ -1,29 +1,25 @@
 #include "keshobjects/keshtexts.h"
 #include "tdata/DataCheck.h"
+#include "textres/clsDescServer.h"
 
 #include <unordered_set>
 #include <utility>
 
 namespace {
 
-std::vector<std::int32_t> ChildrenOf(std::int32_t object) {
-    std::int32_t count = 0;
-    if (Kesh_EnumObjects(object, nullptr, 0, count) == 0 || count == 0)
-        return {};
-    std::vector<std::int32_t> children(static_cast<std::size_t>(count));
-    Kesh_EnumObjects(object, children.data(), count, count);
-    return children;
-}
-
 /// -1 stands for an id that is missing or no number.
 constexpr std::int32_t NoId = -1;
+
+std::uint64_t KeyOf(std::int32_t page, std::int32_t id) {
+    return std::uint64_t{static_cast<std::uint32_t>(page)} << 32U | static_cast<std::uint32_t>(id);
+}
 
 class TextChecker {
 public:
     TextChecker(std::int32_t texts, std::string file) : m_texts(texts), m_file(std::move(file)) {}
 
     std::vector<Finding> Run() {
-        for (const std::int32_t page : ChildrenOf(m_texts))
+        for (const std::int32_t page : EnumChildren(m_texts))
             CheckPage(page);
         return std::move(m_findings);
     }
@@ -36,10 +32,10 @@ private:
         std::string description;
         Kesh_TREGetPageInfo(page, id, title, description, voice);
         if (id == NoId)
-            Add(std::to_string(id), "The page has no number.");
+            Add(std::to_string(id), "The page has no number, or -1.");
         else if (!m_pages.insert(id).second)
             Add(std::to_string(id), "The page stands in this file more than once.");
-        for (const std::int32_t string : ChildrenOf(page))
+        for (const std::int32_t string : EnumChildren(page))
             CheckString(id, string);
     }
 
@@ -50,8 +46,8 @@ private:
         Kesh_TREGetStringInfo(string, id, second, text);
         const std::string name = std::to_string(page) + ':' + std::to_string(id);
         if (id == NoId)
-            Add(name, "The string has no number.");
-        else if (!m_strings.insert(std::int64_t{page} * (std::int64_t{1} << 32) + id).second)
+            Add(name, "The string has no number, or -1.");
+        else if (!m_strings.insert(KeyOf(page, id)).second)
             Add(name, "The string stands in this file more than once; the last one counts.");
         CheckReferences(name, string);
     }
@@ -75,7 +71,7 @@ private:
     std::int32_t m_texts;
     std::string m_file;
     std::unordered_set<std::int32_t> m_pages;
-    std::unordered_set<std::int64_t> m_strings; ///< page and string in one
+    std::unordered_set<std::uint64_t> m_strings; ///< page and string in one
     std::vector<Finding> m_findings;
 };
 

@@ -13,6 +13,7 @@ namespace {
 constexpr std::int32_t SubtypeField = 5;
 constexpr std::int32_t WareClassFromEnd = 6;
 
+constexpr std::string_view NoName = "N/A"; ///< next to the tail, and at the ID
 const FieldTable NoFields{};
 const TextTable NoSubtypes{};
 
@@ -73,7 +74,7 @@ std::string CommonFieldName(std::int32_t Size, std::int32_t Index) {
         return ListItem(CommonHeadNames, Index, true);
     if (Index < Size - 11)
         return {};
-    return ListItem(CommonTailNames, Size - Index - 2, true);
+    return ListItem(CommonTailNames, Size - 2 - Index, true);
 }
 
 std::string FieldName(const clsTXTObject& Record, std::int32_t Index) {
@@ -81,10 +82,10 @@ std::string FieldName(const clsTXTObject& Record, std::int32_t Index) {
     const Field* const row = table.Find(Index, Record.size());
     if (row != nullptr && !row->Name.empty())
         return std::string(row->Name);
-    if (CountsGunGroups(Record, Index))
-        return "Gun groups count";
     const std::string common =
         table.Common == Frame::None ? std::string() : CommonFieldName(Record.size(), Index);
+    if ((common.empty() || common == NoName) && CountsGunGroups(Record, Index))
+        return "Gun groups count";
     return common.empty() ? "Unknown value" : common;
 }
 

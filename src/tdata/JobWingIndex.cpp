@@ -4,7 +4,7 @@ JobWingIndex::JobWingIndex(const clsTxtParser& Wings) {
     for (const RecordPtr& group : Wings.ByIndex()) {
         if (group->size() == 0)
             continue;
-        m_byName.emplace(group->ObjectName(), group);
+        m_byName.emplace(keshobjects::spellValue(group->Value(group->size() - 1)), group);
         m_byNumber.emplace(keshobjects::spellValue(group->Value(0)), group);
     }
 }

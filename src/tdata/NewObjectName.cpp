@@ -1,8 +1,12 @@
 #include "tdata/NewObjectName.h"
 
+#include "lornfd/paths.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string_view>
+#include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -25,7 +29,18 @@ double NumberOf(std::string_view id) {
 
 std::string NewObjectName(const clsTxtParser& Parser) {
     double highest = 0;
-    for (const RecordPtr& record : Parser.ByIndex())
+    std::unordered_set<std::string> taken; // two IDs that differ by case only count as one
+    const std::string base = lornfd::foldCase(BaseWord);
+    for (const RecordPtr& record : Parser.ByIndex()) {
+        std::string id = lornfd::foldCase(record->ObjectName());
+        if (id.find(base) == id.npos)
+            continue;
         highest = std::max(highest, NumberOf(record->ObjectName()));
-    return std::string(BaseWord) + "_" + keshobjects::spellNumber(highest + 1);
+        taken.insert(std::move(id));
+    }
+    std::string name;
+    do
+        name = std::string(BaseWord) + "_" + keshobjects::spellNumber(++highest);
+    while (taken.contains(lornfd::foldCase(std::string_view(name))));
+    return name;
 }

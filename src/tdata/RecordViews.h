@@ -5,7 +5,6 @@
 #include "lornfd/paths.h"
 #include "tdata/clsTxtParser.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -33,7 +32,7 @@ public:
     }
     /// The same, also at the end of the sorted ones.
     Ptr Append(const RecordPtr& record) {
-        Remove(record->key());
+        Remove(m_byId.find(record->ID));
         return m_sorted.emplace_back(Add(record));
     }
     /// Takes the container's order for all views.
@@ -50,9 +49,14 @@ public:
     }
     /// False if there is none of that key.
     bool Remove(std::string_view key) {
-        const auto found = std::find_if(m_byId.begin(), m_byId.end(), [&](const auto& entry) {
-            return lornfd::equalNoCase(entry.second->key(), key);
-        });
+        const auto id = key.empty() ? std::nullopt : keshobjects::readInteger(key.substr(1));
+        const auto found = id ? m_byId.find(*id) : m_byId.end();
+        const bool is = found != m_byId.end() && lornfd::equalNoCase(found->second->key(), key);
+        return is && Remove(found);
+    }
+
+private:
+    bool Remove(typename std::map<std::int32_t, Ptr>::const_iterator found) {
         if (found == m_byId.end())
             return false;
         std::erase(m_sorted, found->second);
@@ -60,7 +64,6 @@ public:
         return true;
     }
 
-private:
     std::map<std::int32_t, Ptr> m_byId;
     std::vector<Ptr> m_sorted;
 };

@@ -7,11 +7,15 @@ std::string_view TextTable::At(std::int32_t Index) const noexcept {
                         : std::string_view();
 }
 
+std::string TableText(const TextTable& Table, std::int32_t Index) {
+    const std::string_view row = Table.At(Index);
+    return std::string(row.empty() ? "Unknown value" : row);
+}
+
 std::string ListItem(const TextTable& Table, std::int32_t Index, bool ReportNA) {
     if (!Table.Holds(Index))
         return ReportNA ? "N/A" : "";
-    const std::string_view row = Table.At(Index);
-    return std::string(row.empty() ? "Unknown value" : row);
+    return TableText(Table, Index);
 }
 
 std::string ListItemRaw(const TextTable& Table, std::int32_t Index) {

@@ -21,6 +21,8 @@ struct TextTable {
 /// The row; "Unknown value" for an empty one. Outside the table "N/A", or the empty text without
 /// ReportNA.
 [[nodiscard]] std::string ListItem(const TextTable& Table, std::int32_t Index, bool ReportNA);
+/// The row; "Unknown value" for an empty one and outside the table.
+[[nodiscard]] std::string TableText(const TextTable& Table, std::int32_t Index);
 /// The row; the empty text outside the table.
 [[nodiscard]] std::string ListItemRaw(const TextTable& Table, std::int32_t Index);
 /// Position of the first row that is exactly this text; false, and Position is -1, if there is

@@ -21,19 +21,18 @@ std::span<const std::string_view> clsGunGroup::ColumnLabels() {
     return Labels;
 }
 
-std::shared_ptr<clsGun> clsGunGroup::FindGun(std::string_view key) const {
-    return tdata::FindByKey(m_guns, key);
+std::int32_t clsGunGroup::At(std::int32_t i) const {
+    return CheckedInteger(std::int64_t{m_offset} + i);
 }
 
-std::shared_ptr<clsTurret> clsGunGroup::turret() const {
-    const std::int32_t at = m_offset + 2;
-    if (at < 0 || at >= m_ship->size())
-        return {};
-    const auto position = m_ship->Object->ValueInteger(at).value_or(0);
+std::shared_ptr<clsTurret> clsGunGroup::turret() const try {
+    const std::int32_t position = SortIndex();
     const auto& turrets = m_ship->Turrets();
     return position >= 1 && position <= std::ssize(turrets)
                ? turrets[static_cast<std::size_t>(position - 1)]
                : nullptr;
+} catch (const KeshError&) {
+    return {};
 }
 
 std::int32_t clsGunGroup::SectionSize() const {
@@ -42,18 +41,18 @@ std::int32_t clsGunGroup::SectionSize() const {
 
 std::int32_t clsGunGroup::Value(std::int32_t i) const {
     CheckListIndex(i, size(), "clsGunGroup");
-    return m_ship->Integer(m_offset + i);
+    return m_ship->Integer(At(i));
 }
 
 void clsGunGroup::SetValue(std::int32_t i, std::int32_t value) {
     CheckListIndex(i, size(), "clsGunGroup");
-    m_ship->SetValue(m_offset + i, value);
+    m_ship->SetValue(At(i), value);
 }
 
 void clsGunGroup::CreateGuns() {
     const std::int32_t count = GunCount();
     const std::int32_t end = m_ship->size();
-    std::int32_t offset = m_offset + size();
+    std::int32_t offset = At(size());
     for (std::int32_t i = 0; i < count; ++i, offset += clsGun::size()) {
         m_guns.push_back(std::make_shared<clsGun>(*this, ++m_gunIds, offset));
         if (offset >= end)
@@ -91,6 +90,7 @@ void clsGunGroup::RemoveGun(const clsGun& gun) {
 }
 
 void clsGunGroup::RefreshGunCount() {
+    ShipChange change(*m_ship);
     std::int64_t total = 0;
     for (const auto& gun : m_guns)
         total += std::max(0, gun->GunCount());
@@ -98,6 +98,7 @@ void clsGunGroup::RefreshGunCount() {
     SetValue(3, CheckedInteger(std::ssize(m_guns)));
     m_ship->RefreshGunCount();
     m_ship->ReindexGuns();
+    change.Keep();
 }
 
 std::int32_t clsGunGroup::GetGunIndex(const clsGun& gun) const {

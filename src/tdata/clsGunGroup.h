@@ -30,7 +30,6 @@ public:
     [[nodiscard]] const std::vector<std::shared_ptr<clsGun>>& Guns() const noexcept {
         return m_guns;
     }
-    [[nodiscard]] std::shared_ptr<clsGun> FindGun(std::string_view key) const; ///< or none
 
     /// The turret at the position that value 2 gives, from 1; none if there is none.
     [[nodiscard]] std::shared_ptr<clsTurret> turret() const;
@@ -51,8 +50,8 @@ public:
     void CreateGuns();
     void ShiftOffset(std::int32_t delta); ///< of the group and its guns
 
-    /// Adds an entry of unset values at the group's end. If it fails by a KeshError, here as in
-    /// RemoveGun, nothing is changed.
+    // Where one of these fails by a KeshError nothing is changed.
+    /// Adds an entry of unset values at the group's end.
     std::shared_ptr<clsGun> MakeNewGun();
     /// Takes the data of the last entry and this object, which should be the last.
     void RemoveGun(const clsGun& gun);
@@ -63,6 +62,8 @@ public:
 
 private:
     friend class ShipChange;
+
+    [[nodiscard]] std::int32_t At(std::int32_t i) const; ///< place of a value in the record
 
     clsShip* m_ship;
     std::int32_t m_id;

@@ -95,14 +95,6 @@ std::int32_t clsShip::DynamicDataOffset() const {
     return CheckedInteger(std::int64_t{FirstGunGroupOffset()} + GunGroupsSize());
 }
 
-std::shared_ptr<clsTurret> clsShip::FindTurret(std::string_view key) const {
-    return tdata::FindByKey(m_turrets, key);
-}
-
-std::shared_ptr<clsGunGroup> clsShip::FindGunGroup(std::string_view key) const {
-    return tdata::FindByKey(m_groups, key);
-}
-
 // --- Loading
 
 std::shared_ptr<clsTurret> clsShip::CreateTurret(std::int32_t offset) {
@@ -205,7 +197,6 @@ bool clsShip::RemoveTurret(const clsTurret& turret) {
 
 void clsShip::TakeLastTurret() {
     clsTurret& turret = *m_turrets.back();
-    // With another index the zeros would fall on fields that are no descriptor.
     if (turret.HasDescriptor()) {
         turret.SetDescriptorValue(1, 0);
         turret.SetDescriptorValue(0, 0);
@@ -272,6 +263,7 @@ void clsShip::RemoveGun(clsGunGroup& group, const clsGun&) {
 // --- Numbers that follow from others
 
 void clsShip::RefreshGunCount() {
+    ShipChange change(*this);
     std::int32_t next = m_groups.empty() ? 0 : m_groups.front()->InitialLaserPos();
     std::int32_t total = 0;
     for (const auto& group : m_groups) {
@@ -281,9 +273,11 @@ void clsShip::RefreshGunCount() {
         next = CheckedInteger(std::int64_t{next} + guns);
     }
     SetValue(FieldGunCount, total);
+    change.Keep();
 }
 
 void clsShip::ReindexGuns() {
+    ShipChange change(*this);
     for (const auto& group : m_groups) {
         std::int32_t next = group->InitialLaserPos();
         for (const auto& gun : group->Guns()) {
@@ -291,13 +285,16 @@ void clsShip::ReindexGuns() {
             next = CheckedInteger(std::int64_t{next} + gun->GunCount());
         }
     }
+    change.Keep();
 }
 
 void clsShip::ReindexTurrets() {
+    ShipChange change(*this);
     for (std::size_t i = 0; i < m_turrets.size(); ++i)
         m_turrets[i]->SetValue(0, static_cast<std::int32_t>(i + 1));
     for (std::size_t i = 0; i < m_groups.size(); ++i)
         m_groups[i]->SetValue(2, static_cast<std::int32_t>(i + 1));
+    change.Keep();
 }
 
 // --- Validation

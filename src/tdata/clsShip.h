@@ -6,7 +6,6 @@
 // and copy nothing.
 #pragma once
 
-#include "lornfd/paths.h"
 #include "tdata/clsTxtParser.h"
 
 #include <cstdint>
@@ -57,8 +56,6 @@ public:
     [[nodiscard]] const std::vector<std::shared_ptr<clsGunGroup>>& GunGroups() const noexcept {
         return m_groups;
     }
-    [[nodiscard]] std::shared_ptr<clsTurret> FindTurret(std::string_view key) const; ///< or none
-    [[nodiscard]] std::shared_ptr<clsGunGroup> FindGunGroup(std::string_view key) const;
 
     /// Makes the record a fresh one of 65 values; LoadObjects has to follow.
     void Construct() { Object->Construct(ConstructedSize); }
@@ -111,17 +108,3 @@ private:
     std::int32_t m_groupIds = 0;
     std::string m_lastError;
 };
-
-namespace tdata {
-
-/// The object of that key, without regard to case; none if there is none.
-template <class T>
-[[nodiscard]] std::shared_ptr<T> FindByKey(const std::vector<std::shared_ptr<T>>& objects,
-                                           std::string_view key) {
-    for (const auto& object : objects)
-        if (lornfd::equalNoCase(object->key(), key))
-            return object;
-    return {};
-}
-
-} // namespace tdata

@@ -1,7 +1,6 @@
 #include "tdata/clsTurret.h"
 
 #include "core/KeshError.h"
-#include "core/mdlComFunctions.h"
 #include "tdata/clsShip.h"
 #include "tdata/mdlKeshShips.h"
 #include "tdata/mdlRecordNumbers.h"
@@ -33,13 +32,16 @@ std::int32_t clsTurret::PairOffset(std::int32_t i) const {
 
 KeshValue clsTurret::DescriptorValue(std::int32_t i) const {
     CheckListIndex(i, 1, "clsTurret");
-    return IsTurret() ? m_ship->Value(PairOffset(i)) : KeshValue(0);
+    return HasDescriptor() ? m_ship->Value(PairOffset(i)) : KeshValue(0);
 }
 
 void clsTurret::SetDescriptorValue(std::int32_t i, const KeshValue& value) {
     CheckListIndex(i, 1, "clsTurret");
     if (!IsTurret())
         throw KeshError(errnum::Forbidden, "clsTurret", "Guns don't have turret descriptors.");
+    // With an index outside 2 to 7 the place would be that of a field that is no descriptor.
+    if (!HasDescriptor())
+        throw KeshError(errnum::General, "clsTurret", "List index out of bounds.");
     m_ship->SetValue(PairOffset(i), value);
 }
 
@@ -60,8 +62,7 @@ std::string clsTurret::BodyID() const {
 bool clsTurret::TranslateDescValue(std::int32_t i, std::string& text) const {
     const std::int32_t position = i == 1 ? Position() : 0;
     if (position != 0)
-        text =
-            TableText(TurretPositionNames.Rows, std::int64_t{position} - TurretPositionNames.First);
+        text = TableText(TurretPositionNames, position);
     return position != 0;
 }
 
@@ -75,7 +76,7 @@ bool clsTurret::HasDescriptor() const {
 }
 
 std::int32_t clsTurret::Position() const {
-    return IsTurret() ? m_ship->Integer(PairOffset(1)) : 0;
+    return HasDescriptor() ? m_ship->Integer(PairOffset(1)) : 0;
 }
 
 std::string clsTurret::PositionName() const {

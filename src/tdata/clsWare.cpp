@@ -1,6 +1,5 @@
 #include "tdata/clsWare.h"
 
-#include "core/mdlComFunctions.h"
 #include "tdata/mdlKeshConst.h"
 
 namespace {
@@ -10,6 +9,5 @@ constexpr std::int32_t RaceField = 13;
 std::string clsWare::Race() const {
     if (m_object->otype != otype::Factories && m_object->otype != otype::Docks)
         return {};
-    return TableText(RaceNames.Rows,
-                     m_object->ValueInteger(RaceField).value_or(0) - RaceNames.First);
+    return TableText(RaceNames, m_object->ValueInteger(RaceField).value_or(0));
 }

@@ -3,8 +3,6 @@
 
 #include <cstdint>
 
-inline constexpr std::int32_t JobFieldCount = 120;
-
 /// Where a logical field stands in a record of `Size` values. A field that the version does not
 /// have gives its neighbour's place.
 [[nodiscard]] std::int32_t JobPhysicalIndex(std::int32_t Size, std::int32_t Logical);

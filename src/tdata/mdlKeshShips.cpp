@@ -129,10 +129,14 @@ std::string GetShipClassName(const KeshValue& Value, std::int32_t Version) {
 std::string GetShipTypeName(const KeshValue& Value, std::int32_t Version, bool NoFallback) {
     std::string id = keshobjects::spellValue(Value);
     std::string fallback = id;
-    if (Version >= FirstSymbolicShips)
+    const bool keys = Version >= FirstSymbolicShips;
+    if (keys)
         id = ListItemRaw(ShipObjectTypeIDs, FindInList(id, ShipObjectTypeKeys));
-    const std::int32_t number = NumberOf(id).value_or(0);
-    if (const auto text = ResourceText(TypePage, number))
+    auto number = NumberOf(id);
+    if (keys && !number)
+        number = 0; // a key that is not known may have a text all the same
+    const auto text = number ? ResourceText(TypePage, *number) : std::nullopt;
+    if (text)
         return *text;
     return NoFallback ? std::string() : fallback;
 }

@@ -18,6 +18,7 @@ extern const TextTable ShieldStrengthNames; ///< field 22 without the TShields f
 extern const TextTable MissileStrengthNames; ///< positions -1 to 7; without the TMissiles file
 extern const TextTable TurretPositionNames;  ///< positions 1 to 6
 
+// Below that version text in place of a number comes back as it is.
 /// The class that field 5 of a ship of a file's version stands for, in the user's language where
 /// there is a text. A key that is not known comes back as it is; a known one without text is empty.
 [[nodiscard]] std::string GetShipClassName(const KeshValue& Value, std::int32_t Version);

@@ -1,10 +1,12 @@
 #include "tdata/mdlShipLabels.h"
 
+#include "core/KeshError.h"
 #include "tdata/clsGun.h"
 #include "tdata/clsGunGroup.h"
 #include "tdata/clsShip.h"
 #include "tdata/clsTurret.h"
 #include "tdata/mdlKeshConst.h"
+#include "tdata/mdlRecordNumbers.h"
 
 #include <array>
 
@@ -34,8 +36,10 @@ public:
         return count >= 0;
     }
     /// The count just passed; -1 if it is none.
-    [[nodiscard]] std::int32_t CountPassed() const {
-        return m_ship.ValueInteger(m_at - 1).value_or(-1);
+    [[nodiscard]] std::int32_t CountPassed() const try {
+        return RecordInteger(m_ship, m_at - 1);
+    } catch (const KeshError&) {
+        return -1;
     }
 
 private:

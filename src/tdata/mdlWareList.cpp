@@ -28,6 +28,10 @@ std::string TextOf(const clsTXTObject& record) {
 
 } // namespace
 
+std::span<const std::string_view> MergedWareFiles() {
+    return MergedFiles;
+}
+
 std::unique_ptr<clsTxtParser> BuildWareList() {
     auto merged = std::make_unique<clsTxtParser>();
     std::int32_t index = 1;

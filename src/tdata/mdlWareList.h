@@ -4,8 +4,12 @@
 #include "tdata/clsTxtParser.h"
 
 #include <memory>
+#include <span>
 #include <string>
+#include <string_view>
 
+/// The files that BuildWareList merges, in its order.
+std::span<const std::string_view> MergedWareFiles();
 /// A new container of copies of all records of the ware files, shields, missiles and lasers, keyed
 /// from 1 in the order in which ware lists and jobs count them. A file that cannot be had is
 /// skipped.

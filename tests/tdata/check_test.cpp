@@ -39,10 +39,10 @@ protected:
     }
 
     /// "record:field:E" or ":N" for each finding.
-    static std::string found(const std::string& text, std::int32_t type, bool withTexts = false) {
+    std::string found(const std::string& text, std::int32_t type, bool withTexts = false) {
         clsTxtParser parser;
         EXPECT_TRUE(support::load(parser, text, type)) << parser.GetLastError();
-        CheckReferences references(withTexts);
+        CheckReferences references(m_withGame, withTexts);
         std::string list;
         for (const Finding& finding : CheckTFile(parser, "test.txt", references))
             list += std::to_string(finding.Record) + ':' + std::to_string(finding.Field) +
@@ -51,6 +51,7 @@ protected:
     }
 
     support::ScratchDir m_dir;
+    bool m_withGame = true;
 };
 
 } // namespace
@@ -59,9 +60,9 @@ TEST_F(CheckTest, MissingFilesAreNotedOnceAndTheirReferencesPassedOver) {
     haveFiles({});
     EXPECT_EQ(found("1;2;" + laser("999") + repeat("0;", 22) + "SAL;", otype::Laser), "-1:-1:N ");
     EXPECT_EQ(found("1;1;" + ship("5", "-1"), otype::Ships), "-1:-1:N ");
-    EXPECT_EQ(found("1;1;ANY;", otype::WareLists), "");
-    Archive.reset();
-    EXPECT_EQ(found("1;1;" + laser("999"), otype::Laser), "-1:-1:N ");
+    EXPECT_EQ(found("1;1;ANY;", otype::WareLists), repeat("-1:-1:N ", 9));
+    m_withGame = false;
+    EXPECT_EQ(found("1;1;" + laser("999"), otype::Laser), "");
 }
 
 TEST_F(CheckTest, PositionsRunFromTheFirstObjectToTheLast) {
@@ -110,7 +111,9 @@ TEST_F(CheckTest, BrokenShipsAreToldNotRead) {
                {"WareLists", "1;1;A;"}});
     // A turret whose index has no pair of descriptors; a text in place of an index.
     for (const auto& [turret, expected] :
-         std::initializer_list<std::pair<const char*, const char*>>{
-             {"2;1;b;0;", ""}, {"8;1;b;0;", "0:54:E "}, {"x;1;b;0;", "0:-1:E "}})
+         std::initializer_list<std::pair<const char*, const char*>>{{"2;1;b;0;", ""},
+                                                                    {"8;1;b;0;", "0:54:E "},
+                                                                    {"x;1;b;0;", "0:54:E "},
+                                                                    {"2;x;b;0;", "0:55:E "}})
         EXPECT_EQ(found("1;1;" + ship("0", "0", turret), otype::Ships), expected) << turret;
 }

@@ -251,6 +251,7 @@ TEST(NewObjectNames, FollowTheHighestNumber) {
         {{"NEW_OBJECT5", "NEW_OBJECT_x"}, "NEW_OBJECT_6"},
         {{"NEW_OBJECT"}, "NEW_OBJECT_1"},
         {{"NEW_OBJECT_1e300", "NEW_OBJECT_4"}, "NEW_OBJECT_5"},
+        {{"NEW_OBJECT_1", "new_object_2"}, "NEW_OBJECT_3"},
     };
     for (const Case& c : cases) {
         clsTxtParser parser;

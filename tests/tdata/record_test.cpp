@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 #include <random>
 
 using support::joined;
@@ -220,6 +221,7 @@ TEST(Ware, RaceIsToldForFactoriesAndDocksOnly) {
          {Case{otype::Factories, 1, "Argon"}, Case{otype::Docks, 19, "Yaki"},
           Case{otype::Docks, 0, "Unknown value"}, Case{otype::Docks, 20, "Unknown value"},
           Case{otype::Docks, std::string("x"), "Unknown value"},
+          Case{otype::Docks, std::numeric_limits<std::int32_t>::min(), "Unknown value"},
           Case{otype::Docks, 1e300, "Unknown value"}, Case{otype::Docks, 1.9, "Boron"},
           Case{otype::Ware, 1, ""}}) {
         const auto record = constructed(20);

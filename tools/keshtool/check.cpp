@@ -46,7 +46,8 @@ void addPath(CheckRun& run, GameView& view, const std::string& path) {
 ExitCode check(GameView& view, const Arguments& arguments) {
     if (arguments.all != arguments.paths.empty())
         throw Failure("Name either files or --all.", WrongUsage);
-    const bool warned = (arguments.all || !view.dataRoot.empty()) && view.build();
+    const bool withGame = arguments.all || !view.dataRoot.empty();
+    const bool warned = withGame && view.build();
     const Services services;
     ExitCode code = warned ? Findings : Done;
     const auto fail = [&code](const std::string& text) {
@@ -68,6 +69,6 @@ ExitCode check(GameView& view, const Arguments& arguments) {
         if (!findings.empty())
             code = std::max(code, Findings);
     };
-    run.Run(arguments.language, report, fail);
+    run.Run(withGame, arguments.language, report, fail);
     return code;
 }

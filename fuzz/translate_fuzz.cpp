@@ -61,11 +61,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         check(Kesh_TRETranslateString(string, raw, translated) != 0);
         const std::size_t bound = keshobjects::maxExpansion + growth * raw.size();
         check(resolved.size() <= bound && translated.size() <= bound);
-        const std::int32_t bad = Kesh_TREFindBadReference(KESH_STORE, string, page, other);
-        check(bad >= 0);
+        std::vector<KeshBadReference> bad;
+        check(Kesh_TREFindBadReferences(KESH_STORE, string, bad) != 0);
         if (raw.find('{') == raw.npos)
-            check(resolved == raw && bad == KESH_REFERENCES_GOOD);
-        if (bad == KESH_REFERENCE_CIRCLE)
+            check(resolved == raw && bad.empty());
+        if (!bad.empty())
             check(resolved.find("[string ") != resolved.npos);
     }
     check(Kesh_TRETranslateString(KESH_STORE, input, translated) != 0);

@@ -19,6 +19,7 @@ public:
     TextChecker(std::int32_t texts, std::string file) : m_texts(texts), m_file(std::move(file)) {}
 
     std::vector<Finding> Run() {
+        Kesh_TREFindBadReferences(m_texts, 0, m_bad);
         for (const std::int32_t page : EnumChildren(m_texts))
             CheckPage(page);
         return std::move(m_findings);
@@ -49,19 +50,18 @@ private:
             Add(name, "The string has no number, or -1.");
         else if (!m_strings.insert(KeyOf(page, id)).second)
             Add(name, "The string stands in this file more than once; the last one counts.");
-        CheckReferences(name, string);
+        TellReferences(name, string);
     }
 
-    void CheckReferences(const std::string& name, std::int32_t string) {
-        std::int32_t page = 0;
-        std::int32_t id = 0;
-        const std::int32_t bad = Kesh_TREFindBadReference(m_texts, string, page, id);
-        const std::string reference =
-            "The reference to " + std::to_string(page) + ':' + std::to_string(id);
-        if (bad == KESH_REFERENCE_NOWHERE)
-            Add(name, reference + " leads nowhere.");
-        else if (bad == KESH_REFERENCE_CIRCLE)
-            Add(name, reference + " leads in a circle.");
+    /// The bad references are in the order of their strings.
+    void TellReferences(const std::string& name, std::int32_t string) {
+        for (; m_next < m_bad.size() && m_bad[m_next].String == string; ++m_next) {
+            const KeshBadReference& bad = m_bad[m_next];
+            Add(name, "The reference to " + std::to_string(bad.Page) + ':' +
+                          std::to_string(bad.Id) +
+                          (bad.Kind == KESH_REFERENCE_CIRCLE ? " leads in a circle."
+                                                             : " leads nowhere."));
+        }
     }
 
     void Add(std::string name, std::string text) {
@@ -72,6 +72,8 @@ private:
     std::string m_file;
     std::unordered_set<std::int32_t> m_pages;
     std::unordered_set<std::uint64_t> m_strings; ///< page and string in one
+    std::vector<KeshBadReference> m_bad;
+    std::size_t m_next = 0; ///< in m_bad
     std::vector<Finding> m_findings;
 };
 

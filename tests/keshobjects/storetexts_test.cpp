@@ -42,15 +42,15 @@ protected:
         EXPECT_EQ(Kesh_TRETranslateString(object, text, translated), 1) << lastErrorText();
         return translated;
     }
-    /// What Kesh_TREFindBadReference says of string 17:`id`.
+    /// The first of what Kesh_TREFindBadReferences says of string 17:`id`.
     static std::string bad(int id) {
-        std::int32_t page = 0;
-        std::int32_t other = 0;
-        const std::int32_t kind = Kesh_TREFindBadReference(
-            KESH_STORE, Kesh_TREFindString(KESH_STORE, 17, id), page, other);
-        return kind == 0 ? "good"
-                         : std::to_string(kind) + ' ' + std::to_string(page) + ':' +
-                               std::to_string(other);
+        std::vector<KeshBadReference> found;
+        EXPECT_EQ(
+            Kesh_TREFindBadReferences(KESH_STORE, Kesh_TREFindString(KESH_STORE, 17, id), found),
+            1);
+        return found.empty() ? "good"
+                             : std::to_string(found[0].Kind) + ' ' + std::to_string(found[0].Page) +
+                                   ':' + std::to_string(found[0].Id);
     }
 };
 
@@ -214,3 +214,28 @@ TEST_F(Store, CirclesAndBombsEndInTheBracketForm) {
 }
 
 } // namespace
+
+TEST_F(Store, AllBadReferencesAreFoundInOnePass) {
+    // A circle of 3,000; and 400 that each refer to all behind them, with no circle but a loose
+    // end.
+    std::string pages = "<page id='1'>";
+    for (int i = 0; i < 3000; ++i)
+        pages += "<string id='" + std::to_string(i) + "'>{:" + std::to_string((i + 1) % 3000) +
+                 "}</string>";
+    pages += "</page><page id='2'>";
+    for (int i = 0; i < 400; ++i) {
+        pages += "<string id='" + std::to_string(i) + "'>";
+        for (int next = i + 1; next <= 400; ++next)
+            pages += "{:" + std::to_string(next) + '}';
+        pages += "</string>";
+    }
+    load("<texts>" + pages + "</page></texts>");
+    std::vector<KeshBadReference> found;
+    ASSERT_EQ(Kesh_TREFindBadReferences(KESH_STORE, 0, found), 1);
+    ASSERT_EQ(found.size(), 3400U);
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        const bool circle = i < 3000;
+        EXPECT_EQ(found[i].Kind, circle ? KESH_REFERENCE_CIRCLE : KESH_REFERENCE_NOWHERE);
+        EXPECT_EQ(found[i].Id, circle ? static_cast<int>(i + 1) % 3000 : 400);
+    }
+}

@@ -2,7 +2,7 @@
 
 #include "keshobjects/encodings.h"
 #include "keshobjects/errors.h"
-#include "keshobjects/references.h"
+#include "keshobjects/referencegraph.h"
 #include "keshobjects/textfile.h"
 #include "keshobjects/textstore.h"
 #include "keshobjects/xmltext.h"
@@ -334,6 +334,49 @@ std::int32_t givePage(const Page& page, std::int32_t& id, std::string& title,
     return 1;
 }
 
+std::vector<std::int32_t> childrenOf(std::int32_t object) {
+    std::int32_t count = 0;
+    Kesh_EnumObjects(object, nullptr, 0, count);
+    std::vector<std::int32_t> children(static_cast<std::size_t>(count));
+    Kesh_EnumObjects(object, children.data(), count, count);
+    return children;
+}
+
+std::vector<std::int32_t> stringsOf(std::int32_t file) {
+    std::vector<std::int32_t> strings;
+    for (const std::int32_t page : childrenOf(file))
+        std::ranges::copy(childrenOf(page), std::back_inserter(strings));
+    return strings;
+}
+
+/// The raw text of a string while it stays as it is; none for another handle.
+std::optional<std::string_view> rawTextOf(std::int32_t handle) noexcept {
+    if (const TextString* const string = stringOf(handle))
+        return string->text;
+    if (const StoredString* const string = storedStringOf(handle))
+        return string->text();
+    return std::nullopt;
+}
+
+std::int32_t findBadReferences(const TextFile* file, const std::vector<std::int32_t>& strings,
+                               std::vector<KeshBadReference>& found) {
+    ReferenceGraph graph(lookupIn(file));
+    std::vector<std::uint32_t> numbers;
+    for (const std::int32_t string : strings) {
+        const auto text = rawTextOf(string);
+        if (!text)
+            return failHandle(string);
+        const TextPlace place = surroundingsOf(string)->place;
+        numbers.push_back(graph.add({*place.page, *place.id}, *text));
+    }
+    graph.findCircles();
+    for (std::size_t i = 0; i < strings.size(); ++i)
+        for (const BadReference& bad : graph.badOnes(numbers[i]))
+            found.push_back({strings[i], bad.reference.page, bad.reference.id,
+                             bad.circle ? KESH_REFERENCE_CIRCLE : KESH_REFERENCE_NOWHERE});
+    return 1;
+}
+
 } // namespace
 
 std::int32_t Kesh_TREGetPageInfo(std::int32_t Page, std::int32_t& Id, std::string& Title,
@@ -435,21 +478,18 @@ std::int32_t Kesh_TRETranslateString(std::int32_t Object, std::string_view Text,
     return 1;
 }
 
-std::int32_t Kesh_TREFindBadReference(std::int32_t Object, std::int32_t String, std::int32_t& Page,
-                                      std::int32_t& Id) {
-    std::string text;
-    if (Kesh_TREGetRawString(String, text) == 0)
-        return -1;
+std::int32_t Kesh_TREFindBadReferences(std::int32_t Object, std::int32_t String,
+                                       std::vector<KeshBadReference>& Found) {
+    lastError().clear();
+    Found.clear();
     const TextFile* const file = fileOf(Object);
     if (file == nullptr && Object != KESH_STORE)
-        return failHandle(Object) - 1;
-    const TextPlace place = surroundingsOf(String)->place;
-    const auto bad = findBadReference(text, {*place.page, *place.id}, lookupIn(file));
-    if (!bad)
-        return KESH_REFERENCES_GOOD;
-    Page = bad->reference.page;
-    Id = bad->reference.id;
-    return bad->circle ? KESH_REFERENCE_CIRCLE : KESH_REFERENCE_NOWHERE;
+        return failHandle(Object);
+    std::vector<std::int32_t> strings{String};
+    if (String == 0)
+        strings = stringsOf(Object);
+    return withMemory(KESH_E_READ, file != nullptr ? file->name() : "the store",
+                      [&] { return findBadReferences(file, strings, Found); });
 }
 
 std::int32_t Kesh_TREDescServerLoadFile(std::int32_t File) {

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 inline constexpr std::int32_t KESH_STORE = 1;
 
@@ -63,15 +64,19 @@ std::int32_t Kesh_TREFindString(std::int32_t Object, std::int32_t Page, std::int
 std::int32_t Kesh_TRETranslateString(std::int32_t Object, std::string_view Text,
                                      std::string& Translated);
 
-/// What Kesh_TREFindBadReference finds.
-inline constexpr std::int32_t KESH_REFERENCES_GOOD = 0;
+// What Kesh_TREFindBadReferences finds.
 inline constexpr std::int32_t KESH_REFERENCE_NOWHERE = 1; ///< there is no such string
 inline constexpr std::int32_t KESH_REFERENCE_CIRCLE = 2;  ///< it leads back to the string itself
-/// The first bad reference in a string, looked up in `Object` (a file, or the store), then in the
-/// store. Page and Id are those that it names. Circles of more than 2,000 strings are not found.
-/// Gives -1 on failure.
-std::int32_t Kesh_TREFindBadReference(std::int32_t Object, std::int32_t String, std::int32_t& Page,
-                                      std::int32_t& Id);
+struct KeshBadReference {
+    std::int32_t String; ///< where it stands
+    std::int32_t Page;   ///< what it names
+    std::int32_t Id;
+    std::int32_t Kind;
+};
+/// The bad references in a string of `Object` (a file, or the store), or in all of them with String
+/// 0, in their order. They are looked up in the file, then in the store.
+std::int32_t Kesh_TREFindBadReferences(std::int32_t Object, std::int32_t String,
+                                       std::vector<KeshBadReference>& Found);
 
 /// Adds a file's pages and strings to the store; of two with one page and id the last loaded
 /// counts. A file that fails adds nothing.

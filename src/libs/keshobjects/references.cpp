@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <charconv>
-#include <unordered_set>
 #include <vector>
 
 namespace keshobjects {
 namespace {
-
-constexpr std::size_t maxFollowed = 2000;
 
 /// Takes a whole number off a text.
 std::optional<std::int32_t> takeNumber(std::string_view& text) noexcept {
@@ -194,37 +191,6 @@ private:
     bool m_spent = false;
 };
 
-/// The references of a text, in their order, to `visit` until that gives false.
-template <typename Visit>
-void eachReference(std::string_view text, std::int32_t page, Visit visit) {
-    while (!text.empty()) {
-        const Piece piece = takePiece(text, page);
-        if (piece.reference && !visit(*piece.reference))
-            return;
-    }
-}
-
-bool leadsBack(const Reference& from, const Reference& self, const TextLookup& lookup) {
-    const auto keyOf = [](const Reference& reference) {
-        return static_cast<std::int64_t>(reference.page) * (std::int64_t{1} << 32U) + reference.id;
-    };
-    std::vector<Reference> pending{from};
-    std::unordered_set<std::int64_t> seen{keyOf(from)};
-    bool found = from == self;
-    while (!pending.empty() && !found) {
-        const Reference reference = pending.back();
-        pending.pop_back();
-        eachReference(lookup(reference).value_or(std::string_view()), reference.page,
-                      [&](const Reference& next) {
-                          found = found || next == self;
-                          if (seen.size() < maxFollowed && seen.insert(keyOf(next)).second)
-                              pending.push_back(next);
-                          return !found;
-                      });
-    }
-    return found;
-}
-
 } // namespace
 
 std::string bracketForm(const Reference& reference) {
@@ -236,17 +202,9 @@ std::string translate(std::string_view text, const TextPlace& place, TextForm fo
     return Translator(form, lookup).run(text, place);
 }
 
-std::optional<BadReference> findBadReference(std::string_view text, const Reference& self,
-                                             const TextLookup& lookup) {
-    std::optional<BadReference> bad;
-    eachReference(text, self.page, [&](const Reference& reference) {
-        if (!lookup(reference))
-            bad = BadReference{reference, false};
-        else if (leadsBack(reference, self, lookup))
-            bad = BadReference{reference, true};
-        return !bad;
-    });
-    return bad;
+std::optional<Reference> takeNextReference(std::string_view& text,
+                                           std::optional<std::int32_t> page) noexcept {
+    return takePiece(text, page).reference;
 }
 
 } // namespace keshobjects

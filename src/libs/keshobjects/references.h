@@ -40,12 +40,8 @@ inline constexpr std::size_t maxExpansion = std::size_t{1} << 20; ///< bytes of 
 [[nodiscard]] std::string translate(std::string_view text, const TextPlace& place, TextForm form,
                                     const TextLookup& lookup);
 
-struct BadReference {
-    Reference reference;
-    bool circle; ///< it leads back to the text, else nowhere
-};
-/// The first in a string. Follows up to 2,000 strings for each reference.
-[[nodiscard]] std::optional<BadReference>
-findBadReference(std::string_view text, const Reference& self, const TextLookup& lookup);
+/// Takes the first reference off a text, and what stands before it; none if there is none.
+[[nodiscard]] std::optional<Reference> takeNextReference(std::string_view& text,
+                                                         std::optional<std::int32_t> page) noexcept;
 
 } // namespace keshobjects

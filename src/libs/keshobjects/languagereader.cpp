@@ -163,8 +163,9 @@ std::optional<std::int32_t> LanguageReader::number(std::string_view name) const 
     const XmlReader::Attribute* const found = find(name);
     if (found == nullptr)
         return std::nullopt;
-    return found->value.find('&') == found->value.npos ? readInteger(found->value)
-                                                       : readInteger(*attribute(name));
+    const auto plain = readInteger(found->value);
+    return plain || found->value.find('&') == found->value.npos ? plain
+                                                                : readInteger(*attribute(name));
 }
 
 } // namespace keshobjects

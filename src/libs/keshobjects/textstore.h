@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -94,6 +95,9 @@ private:
     /// A power of 2 in number.
     Slots m_slots = Slots(1U << groupBits);
     unsigned m_shift = 64U - groupBits; ///< of a hash to a slot
+    /// Odd and of chance, so that no file can be made whose groups all fall on one place.
+    std::uint64_t m_multiplier =
+        std::uint64_t{std::random_device()()} << 32U | std::random_device()() | 1U;
     std::vector<StoredPage> m_pages;
     std::unordered_map<std::int32_t, std::uint32_t> m_pageById;
 };
@@ -105,8 +109,7 @@ inline std::size_t TextStore::slotOf(std::int32_t page, std::int32_t id) const n
     const auto number = static_cast<std::uint32_t>(id);
     const std::uint64_t key =
         (std::uint64_t{static_cast<std::uint32_t>(page)} << 32U) | number / group;
-    // Multiplied by the golden ratio, groups spread well over the high bits.
-    std::size_t slot = ((key ^ key >> 29U) * 0x9E3779B97F4A7C15U >> m_shift) ^ (number % group);
+    std::size_t slot = ((key ^ key >> 29U) * m_multiplier >> m_shift) ^ (number % group);
     for (;; slot = (slot + step) & (~std::uint64_t{0} >> m_shift)) {
         const Slot& there = m_slots[slot];
         if ((there.id == id && there.page == page) || there.behind == 0)

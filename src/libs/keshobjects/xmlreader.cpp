@@ -204,14 +204,18 @@ bool XmlReader::attribute() {
     const char quote = m_at < m_text.size() ? m_text[m_at] : '\0';
     if (quote != '"' && quote != '\'')
         return bad("an attribute's value without quotes");
-    const std::size_t end = m_text.find(quote, m_at + 1);
-    if (end == m_text.npos)
+    // Most values are a few signs long: one look at each is quicker than a search for each sign.
+    std::size_t end = m_at + 1;
+    bool special = false;
+    for (; end < m_text.size() && m_text[end] != quote; ++end)
+        special = special || m_text[end] == '<' || m_text[end] == '&';
+    if (end == m_text.size())
         return bad("an attribute's value that never ends");
     const std::string_view value = m_text.substr(m_at + 1, end - m_at - 1);
     m_at = end + 1;
-    if (value.find('<') != value.npos)
+    if (special && value.find('<') != value.npos)
         return bad("a \"<\" in an attribute");
-    if (findBadReference(value) != value.npos)
+    if (special && findBadReference(value) != value.npos)
         return bad("an \"&\" that begins no known reference");
     if (m_attributes.size() == maxAttributes)
         return bad("an attribute too many");
@@ -224,12 +228,20 @@ bool XmlReader::attribute() {
 
 XmlReader::Token XmlReader::endTag() {
     m_at += 2;
-    m_name = takeName();
-    passBlanks();
-    if (m_open.empty() || m_open.back() != m_name)
-        return fail(m_begin, "the end of " + quoted(m_name) + ", which is not the open element");
-    if (!rest().starts_with('>'))
-        return fail(m_begin, "a tag that never ends");
+    const std::string_view open = m_open.empty() ? std::string_view() : m_open.back();
+    // Nearly always the open element ends here.
+    if (!m_open.empty() && rest().starts_with(open) &&
+        rest().substr(open.size()).starts_with('>')) {
+        m_at += open.size();
+    } else {
+        m_name = takeName();
+        passBlanks();
+        if (m_open.empty() || open != m_name)
+            return fail(m_begin,
+                        "the end of " + quoted(m_name) + ", which is not the open element");
+        if (!rest().starts_with('>'))
+            return fail(m_begin, "a tag that never ends");
+    }
     ++m_at;
     return close();
 }

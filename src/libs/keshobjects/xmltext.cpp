@@ -36,41 +36,54 @@ std::size_t characterSize(std::string_view text) noexcept {
     return character && isXmlCharacter(*character) ? text.size() - rest.size() : 0;
 }
 
-/// Passes what is quickly seen to be characters of XML, from a place where one begins to another.
-std::size_t passQuickly(std::string_view text, std::size_t at) noexcept {
 #if defined(__SSE2__)
-    const auto below = [](__m128i bytes, char first, char count) {
-        const __m128i shifted = _mm_sub_epi8(bytes, _mm_set1_epi8(first));
+/// What kinds of bytes stand in a piece of 64, a bit for each.
+struct ByteKinds {
+    std::uint64_t control = 0; ///< below the blank, but for tab and line breaks
+    std::uint64_t high = 0;    ///< not ASCII
+    std::uint64_t first = 0;   ///< of a character of two bytes
+    std::uint64_t second = 0;  ///< the second or a later one of a character
+};
+
+ByteKinds kindsOf(const char* bytes) noexcept {
+    const auto below = [](__m128i block, char first, char count) {
+        const __m128i shifted = _mm_sub_epi8(block, _mm_set1_epi8(first));
         return _mm_cmpeq_epi8(_mm_min_epu8(shifted, _mm_set1_epi8(count)), shifted);
     };
-    const auto is = [](__m128i bytes, char c) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); };
+    const auto is = [](__m128i block, char c) { return _mm_cmpeq_epi8(block, _mm_set1_epi8(c)); };
     const auto bits = [](__m128i found) {
-        return static_cast<std::uint32_t>(_mm_movemask_epi8(found));
+        return std::uint64_t{static_cast<std::uint32_t>(_mm_movemask_epi8(found))};
     };
-    constexpr std::size_t block = 16;
-    while (at + block <= text.size()) {
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text.data() + at));
-        // Compared with sign, what is not ASCII is below the blank as well.
-        if (bits(_mm_cmplt_epi8(bytes, _mm_set1_epi8(' '))) == 0) {
-            at += block;
-            continue;
-        }
-        const __m128i good =
-            _mm_or_si128(is(bytes, '\t'), _mm_or_si128(is(bytes, '\n'), is(bytes, '\r')));
-        if (bits(_mm_andnot_si128(good, below(bytes, 0, 0x1F))) != 0)
-            break;
-        const std::uint32_t high = bits(bytes);
-        if (high == 0) {
-            at += block;
-            continue;
-        }
-        // Characters of two bytes, which have no exception but the overlong ones.
-        const std::uint32_t first = bits(below(bytes, '\xC2', '\x1D'));
-        const std::uint32_t second = bits(below(bytes, '\x80', '\x3F'));
-        if (high != (first | second) || second != (first << 1U & 0xFFFFU))
-            break;
-        at += block - (first >> (block - 1));
+    constexpr unsigned block = 16;
+    ByteKinds kinds;
+    for (unsigned at = 0; at < 4 * block; at += block) {
+        const __m128i read = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + at));
+        const __m128i allowed =
+            _mm_or_si128(is(read, '\t'), _mm_or_si128(is(read, '\n'), is(read, '\r')));
+        kinds.control |= bits(_mm_andnot_si128(allowed, below(read, 0, 0x1F))) << at;
+        kinds.high |= bits(read) << at;
+        kinds.first |= bits(below(read, '\xC2', '\x1D')) << at;
+        kinds.second |= bits(below(read, '\x80', '\x3F')) << at;
     }
+    return kinds;
+}
+#endif
+
+/// Passes what is quickly seen to be characters of XML, from a place where one begins to another:
+/// those of one byte and of two, which have no exception but the overlong ones.
+std::size_t passQuickly(std::string_view text, std::size_t at) noexcept {
+#if defined(__SSE2__)
+    constexpr std::size_t piece = 64;
+    std::uint64_t open = 0; ///< 1 if a character's first byte was the last of the piece before
+    for (; at + piece <= text.size(); at += piece) {
+        const ByteKinds kinds = kindsOf(text.data() + at);
+        const std::uint64_t wrong = kinds.control | (kinds.high ^ (kinds.first | kinds.second)) |
+                                    (kinds.second ^ (kinds.first << 1U | open));
+        if (wrong != 0)
+            break;
+        open = kinds.first >> (piece - 1);
+    }
+    at -= open;
 #else
     static_cast<void>(text);
 #endif
@@ -173,7 +186,7 @@ TextEnd findTextEnd(std::string_view text, std::size_t at) noexcept {
 }
 
 std::size_t findNoXmlCharacter(std::string_view text) noexcept {
-    constexpr std::size_t slowly = 16;
+    constexpr std::size_t slowly = 64;
     for (std::size_t at = passQuickly(text, 0); at < text.size(); at = passQuickly(text, at))
         for (const std::size_t end = std::min(at + slowly, text.size()); at < end;) {
             const std::size_t size = characterSize(text.substr(at));

@@ -75,6 +75,6 @@ std::string LornFDErrorText() {
 std::string KeshVFSErrorText() {
     return ErrorText(KeshVFS_GetLastError(), KeshVFS_TranslateError);
 }
-std::string KeshObjectsErrorText() {
+std::string KeshErrorText() {
     return ErrorText(Kesh_GetLastError(), Kesh_TranslateError);
 }

@@ -31,4 +31,4 @@ std::string SplitCatalogPath(std::string_view Path, std::string& Catalog);
 // Texts of the last errors
 [[nodiscard]] std::string LornFDErrorText();
 [[nodiscard]] std::string KeshVFSErrorText();
-[[nodiscard]] std::string KeshObjectsErrorText();
+[[nodiscard]] std::string KeshErrorText();

@@ -55,9 +55,9 @@ bool CheckReferences::HasJob(std::int32_t Number) {
         if (const clsTxtParser* const file = File("Jobs"))
             for (const RecordPtr& record : file->ByIndex())
                 if (const auto number = record->ValueInteger(0))
-                    m_jobs->insert(*number);
+                    m_jobs->insert(keshobjects::keyOf(0, *number));
     }
-    return m_jobs->contains(Number);
+    return m_jobs->contains(keshobjects::keyOf(0, Number));
 }
 
 bool CheckReferences::HasObjectText(std::int32_t Id) const {

@@ -1,6 +1,7 @@
 // What the records of T files may refer to, indexed when first asked for.
 #pragma once
 
+#include "keshobjects/numberhash.h"
 #include "tdata/JobWingIndex.h"
 #include "tdata/clsTxtParser.h"
 
@@ -41,5 +42,5 @@ private:
     std::optional<Names> m_wares;
     std::optional<Names> m_ships;
     std::optional<JobWingIndex> m_wings;
-    std::optional<std::unordered_set<std::int32_t>> m_jobs;
+    std::optional<std::unordered_set<std::uint64_t, keshobjects::NumberHash>> m_jobs;
 };

@@ -87,12 +87,12 @@ void CheckRun::AddView() {
 void CheckRun::Run(bool WithGame, std::int32_t Language, const TakeFindings& Findings,
                    const TakeFailure& Failed) const {
     CheckTexts(Findings, Failed);
-    DescServer->LoadResources(Language);
-    const bool withTexts = !EnumChildren(KESH_STORE).empty();
-    if (WithGame && !withTexts)
+    const bool allTexts = DescServer->LoadResources(Language);
+    if (WithGame && !allTexts)
         Findings({{.Level = Severity::Note,
-                   .Text = "There are no texts of language " + std::to_string(Language) +
-                           ", so references to texts were not checked."}});
+                   .Text = "Not all texts of language " + std::to_string(Language) +
+                           " are there: " + DescServer->GetLastError()}});
+    const bool withTexts = !EnumChildren(KESH_STORE).empty();
     CheckReferences references(WithGame, withTexts);
     CheckRecords(references, Findings, Failed);
     if (m_wholeView)

@@ -1,4 +1,5 @@
 #include "keshobjects/keshtexts.h"
+#include "keshobjects/numberhash.h"
 #include "tdata/DataCheck.h"
 #include "textres/clsDescServer.h"
 
@@ -9,10 +10,6 @@ namespace {
 
 /// -1 stands for an id that is missing or no number.
 constexpr std::int32_t NoId = -1;
-
-std::uint64_t KeyOf(std::int32_t page, std::int32_t id) {
-    return std::uint64_t{static_cast<std::uint32_t>(page)} << 32U | static_cast<std::uint32_t>(id);
-}
 
 class TextChecker {
 public:
@@ -34,7 +31,7 @@ private:
         Kesh_TREGetPageInfo(page, id, title, description, voice);
         if (id == NoId)
             Add(std::to_string(id), "The page has no number, or -1.");
-        else if (!m_pages.insert(id).second)
+        else if (!m_pages.insert(keshobjects::keyOf(id, 0)).second)
             Add(std::to_string(id), "The page stands in this file more than once.");
         for (const std::int32_t string : EnumChildren(page))
             CheckString(id, string);
@@ -48,7 +45,7 @@ private:
         const std::string name = std::to_string(page) + ':' + std::to_string(id);
         if (id == NoId)
             Add(name, "The string has no number, or -1.");
-        else if (!m_strings.insert(KeyOf(page, id)).second)
+        else if (!m_strings.insert(keshobjects::keyOf(page, id)).second)
             Add(name, "The string stands in this file more than once; the last one counts.");
         TellReferences(name, string);
     }
@@ -70,8 +67,9 @@ private:
 
     std::int32_t m_texts;
     std::string m_file;
-    std::unordered_set<std::int32_t> m_pages;
-    std::unordered_set<std::uint64_t> m_strings; ///< page and string in one
+    std::unordered_set<std::uint64_t, keshobjects::NumberHash> m_pages;
+    std::unordered_set<std::uint64_t, keshobjects::NumberHash>
+        m_strings; ///< page and string in one
     std::vector<KeshBadReference> m_bad;
     std::size_t m_next = 0; ///< in m_bad
     std::vector<Finding> m_findings;

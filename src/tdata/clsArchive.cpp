@@ -65,7 +65,7 @@ std::int32_t clsArchive::LoadText(const std::string& Path) {
     }
     const std::int32_t text = Kesh_LoadFromFile(file, 0);
     if (text == 0)
-        m_lastError = KeshObjectsErrorText();
+        m_lastError = KeshErrorText();
     static_cast<void>(LornFD_CloseFile(file));
     return text;
 }

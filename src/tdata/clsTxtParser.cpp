@@ -127,7 +127,7 @@ bool clsTxtParser::Load(std::int32_t FileHandle, std::int32_t Type) {
     Kesh_TXTIgnoreRemarks(Type == otype::Jobs ? 1 : 0);
     const std::int32_t text = Kesh_LoadFromFile(FileHandle, 1);
     if (Kesh_GetLastError() != 0)
-        return SetError(KeshObjectsErrorText());
+        return SetError(KeshErrorText());
     return LoadFromHandle(text, Type);
 }
 
@@ -191,7 +191,7 @@ bool clsTxtParser::WriteRecords(std::int32_t FileHandle, std::vector<clsTXTObjec
         if (record->Dirty)
             Dirty.push_back(record.get());
     }
-    return out.Flush() ? jobs || !m_byIndex.empty() : SetError(KeshObjectsErrorText());
+    return out.Flush() ? jobs || !m_byIndex.empty() : SetError(KeshErrorText());
 }
 
 // What a window or tool set without looking must not make the file unreadable.

@@ -138,7 +138,7 @@ void Loader::NoteWhatFollows() {
         return;
     KeshPlace place = 0;
     m_result.leftOut = Kesh_TXTGetTokenPlace(m_handle, place) == 0
-                           ? KeshObjectsErrorText()
+                           ? KeshErrorText()
                            : "The count of records (" + std::to_string(m_result.records.size()) +
                                  ") ends before " + Kesh_TXTDescribePlace(m_handle, place) +
                                  "; the rest is not read, and saving drops it.";
@@ -306,21 +306,21 @@ void Loader::ReadIcon() {
 std::int32_t Loader::ReadWhole() const {
     KeshValue value;
     if (Kesh_TXTLoadValue(m_handle, KESH_VALUE_WHOLE, value) == 0)
-        Throw(errnum::ReadValue, KeshObjectsErrorText());
+        Throw(errnum::ReadValue, KeshErrorText());
     return std::get<std::int32_t>(value);
 }
 
 KeshPlace Loader::ReadPlace() {
     KeshPlace place = 0;
     if (Kesh_TXTLoadPlaces(m_handle, 1, &place, m_written) != 1)
-        Throw(errnum::ReadValue, KeshObjectsErrorText());
+        Throw(errnum::ReadValue, KeshErrorText());
     return place;
 }
 
 KeshPlace Loader::ReadWholePlace() const {
     KeshPlace place = 0;
     if (Kesh_TXTGetTokenPlace(m_handle, place) == 0)
-        Throw(errnum::ReadValue, KeshObjectsErrorText());
+        Throw(errnum::ReadValue, KeshErrorText());
     static_cast<void>(ReadWhole());
     return place;
 }
@@ -338,7 +338,7 @@ KeshPlace Loader::ReadNumber(bool& more) const {
     KeshPlace place = 0;
     const auto type = Kesh_TXTGetTokenType(m_handle);
     if (Kesh_TXTGetTokenValue(m_handle, token) == 0 || Kesh_TXTGetTokenPlace(m_handle, place) == 0)
-        Throw(errnum::ReadValue, KeshObjectsErrorText());
+        Throw(errnum::ReadValue, KeshErrorText());
     const std::string& spelling = std::get<std::string>(token);
     const std::string where =
         spelling.substr(0, 40) + " in " + Kesh_TXTDescribePlace(m_handle, place);
@@ -355,7 +355,7 @@ KeshPlace Loader::ReadNumber(bool& more) const {
 
 void Loader::Advance() const {
     if (Kesh_TXTAdvance(m_handle, 1) == 0)
-        Throw(errnum::ReadValue, KeshObjectsErrorText());
+        Throw(errnum::ReadValue, KeshErrorText());
 }
 
 void Loader::ReadPlaces(std::int64_t count) {
@@ -370,7 +370,7 @@ void Loader::ReadPlaces(std::int64_t count) {
     const auto read =
         Kesh_TXTLoadPlaces(m_handle, std::min(count, most), places.data() + before, m_written);
     if (read != count)
-        Throw(errnum::ReadValue, KeshObjectsErrorText());
+        Throw(errnum::ReadValue, KeshErrorText());
     // A gap in front of these values is one inside the record if they are not its first.
     if (before != m_first && m_text->Text()[places[before] - 1] != ';')
         m_written = false;

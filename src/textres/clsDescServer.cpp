@@ -48,7 +48,7 @@ std::string loadFile(const std::string& place) {
         return openError(place);
     std::string error;
     if (Kesh_TREDescServerLoadFile(file) == 0)
-        error = ShownPath(place) + ":" + NewLine + KeshObjectsErrorText();
+        error = ShownPath(place) + ":" + NewLine + KeshErrorText();
     LornFD_CloseFile(file);
     return error;
 }
@@ -109,8 +109,7 @@ std::int32_t clsDescServer::OpenFile(const std::string& Path) {
     }
     const std::int32_t object = Kesh_LoadFromFile(file, 3);
     if (object == 0)
-        m_lastError =
-            "Error loading file \"" + ShownPath(Path) + "\":" + NewLine + KeshObjectsErrorText();
+        m_lastError = "Error loading file \"" + ShownPath(Path) + "\":" + NewLine + KeshErrorText();
     LornFD_CloseFile(file);
     return object;
 }

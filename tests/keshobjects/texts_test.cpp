@@ -384,6 +384,21 @@ TEST(Texts, AFileGoesThroughTheFileDriver) {
 
 // --- Rules
 
+TEST(Texts, ManyMayHaveNoNumberAndItIsNotWritten) {
+    const std::int32_t file = Kesh_CreateObject(0, KESH_TEXT_FILE, 44);
+    for (int i = 0; i < 2; ++i) {
+        const std::int32_t page = Kesh_CreateObject(file, KESH_TEXT_PAGE, -1);
+        for (int k = 0; k < 2; ++k)
+            EXPECT_EQ(
+                Kesh_TRESetStringInfo(page, Kesh_CreateObject(page, KESH_TEXT_STRING, 0), -1, "x"),
+                1);
+    }
+    std::string bytes;
+    EXPECT_EQ(Kesh_TRESaveToMemory(file, bytes), 1);
+    EXPECT_EQ(bytes.find("id="), bytes.npos) << bytes;
+    Kesh_DeleteHandle(0, file);
+}
+
 TEST(Texts, TakenIdsAndUnwritableCharactersChangeNothing) {
     const LanguageFile file(sampleFile);
     const std::string before = contentOf(file.handle);

@@ -34,7 +34,7 @@ std::string translatedText(std::int32_t string) {
     return text;
 }
 
-/// The text in one line without tabs. An escape in its place reads the same in the game.
+/// The text in one line without tabs.
 std::string escapedLine(std::string_view text) {
     std::string line;
     for (const char c : text)

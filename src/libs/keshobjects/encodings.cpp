@@ -230,9 +230,13 @@ std::string hexByte(char byte) {
 std::string_view declaredEncoding(std::string_view text) noexcept {
     constexpr std::string_view opening = "<?xml";
     constexpr std::string_view attribute = "encoding";
-    const std::string_view declaration = text.substr(0, text.find("?>"));
+    // A declaration is a line; what is longer is none.
+    constexpr std::size_t most = 1000;
+    const std::string_view start = text.substr(0, most);
+    const std::string_view declaration = start.substr(0, start.find("?>"));
     const std::size_t found = declaration.find(attribute);
-    if (!declaration.starts_with(opening) || found == declaration.npos)
+    if (!declaration.starts_with(opening) || declaration.size() == start.size() ||
+        found == declaration.npos)
         return {};
     std::string_view rest = trimStart(declaration.substr(found + attribute.size()));
     if (!rest.starts_with('='))

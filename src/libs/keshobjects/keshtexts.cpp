@@ -9,6 +9,10 @@
 #include "lornfd/lornfd.h"
 
 #include <algorithm>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <utility>
 
 namespace keshobjects {
 namespace {
@@ -115,8 +119,8 @@ std::int32_t loadIntoStore(std::string_view bytes, std::string_view name) {
 /// Hands an open file's content to `load`.
 template <typename Load>
 std::int32_t withContent(std::int32_t file, Load load) {
-    const std::string name = LornFD_FileName(file);
-    return withMemory(KESH_E_READ, name, [&] {
+    return withMemory(KESH_E_READ, "a language file", [&] {
+        const std::string name = LornFD_FileName(file);
         const std::string_view bytes = LornFD_ViewFile(file);
         return bytes.data() == nullptr ? failDriver(KESH_E_READ) : load(bytes, name);
     });
@@ -154,8 +158,8 @@ std::int32_t createString(TextPage& page, std::int32_t id) {
 
 std::int32_t create(std::int32_t parent, std::int32_t kind, std::int32_t id) {
     if (kind == KESH_TEXT_FILE && parent == 0) {
-        auto& open = files();
-        return open.emplace_back(TextFile::create(id))->handle();
+        auto file = TextFile::create(id);
+        return files().emplace_back(std::move(file))->handle();
     }
     TextFile* const file = fileOf(parent);
     TextPage* const page = pageOf(parent);
@@ -271,7 +275,7 @@ std::int32_t Kesh_TRELoadFromMemory(std::string_view Bytes, std::string_view Nam
 }
 
 std::int32_t Kesh_CreateObject(std::int32_t Parent, std::int32_t Kind, std::int32_t Id) {
-    return withMemory(KESH_E_READ, {}, [&] { return create(Parent, Kind, Id); });
+    return withMemory(KESH_E_READ, "a new object", [&] { return create(Parent, Kind, Id); });
 }
 
 std::int32_t Kesh_EnumObjects(std::int32_t Object, std::int32_t* Handles, std::int32_t Capacity,
@@ -324,6 +328,12 @@ std::int32_t Kesh_TREGetLangID(std::int32_t Object) {
 
 namespace {
 
+/// Runs an operation on texts, which may need memory for a copy.
+template <typename Work>
+std::int32_t withTexts(Work work) {
+    return withMemory(KESH_E_READ, "a text", work);
+}
+
 template <typename Page>
 std::int32_t givePage(const Page& page, std::int32_t& id, std::string& title,
                       std::string& description, std::int32_t& voice) {
@@ -358,6 +368,33 @@ std::optional<std::string_view> rawTextOf(std::int32_t handle) noexcept {
     return std::nullopt;
 }
 
+std::int32_t giveString(std::int32_t handle, std::int32_t& id, std::int32_t& second,
+                        std::string& text) {
+    second = 0;
+    if (const TextString* const string = stringOf(handle)) {
+        id = string->id;
+        text = string->text;
+        return 1;
+    }
+    const StoredString* const string = storedStringOf(handle);
+    if (string == nullptr)
+        return failHandle(handle);
+    id = string->id;
+    const bool refers = store().resolving && string->text().find('{') != std::string_view::npos;
+    text = refers ? translate(string->text(), {string->page, string->id}, TextForm::Resolved,
+                              lookupIn(nullptr))
+                  : std::string(string->text());
+    return 1;
+}
+
+template <typename Object>
+void setId(Object& object, TextFile& file, std::int32_t id) {
+    if (object.id != id)
+        file.forgetIndex();
+    object.id = id;
+    object.changed = true;
+}
+
 std::int32_t findBadReferences(const TextFile* file, const std::vector<std::int32_t>& strings,
                                std::vector<KeshBadReference>& found) {
     ReferenceGraph graph(lookupIn(file));
@@ -381,115 +418,103 @@ std::int32_t findBadReferences(const TextFile* file, const std::vector<std::int3
 
 std::int32_t Kesh_TREGetPageInfo(std::int32_t Page, std::int32_t& Id, std::string& Title,
                                  std::string& Description, std::int32_t& Voice) {
-    lastError().clear();
-    if (const TextPage* const page = pageOf(Page))
-        return givePage(*page, Id, Title, Description, Voice);
-    if (const StoredPage* const page = storedPageOf(Page))
-        return givePage(*page, Id, Title, Description, Voice);
-    return failHandle(Page);
+    return withTexts([&] {
+        if (const TextPage* const page = pageOf(Page))
+            return givePage(*page, Id, Title, Description, Voice);
+        if (const StoredPage* const page = storedPageOf(Page))
+            return givePage(*page, Id, Title, Description, Voice);
+        return failHandle(Page);
+    });
 }
 
 std::int32_t Kesh_TRESetPageInfo(std::int32_t Page, std::int32_t Id, std::string_view Title,
                                  std::string_view Description, std::int32_t Voice) {
-    lastError().clear();
-    TextPage* const page = pageOf(Page);
-    if (page == nullptr)
-        return failHandle(Page);
-    if (Id != page->id && !page->file.isFree(Id, page))
-        return failTaken("page", Id);
-    if (!canBeWritten(Title, "title") || !canBeWritten(Description, "description"))
-        return 0;
-    page->id = Id;
-    page->title = Title;
-    page->description = Description;
-    page->voice = Voice;
-    page->changed = true;
-    page->file.forgetIndex();
-    return 1;
+    return withTexts([&] {
+        TextPage* const page = pageOf(Page);
+        if (page == nullptr)
+            return failHandle(Page);
+        if (Id != page->id && !page->file.isFree(Id, page))
+            return failTaken("page", Id);
+        if (!canBeWritten(Title, "title") || !canBeWritten(Description, "description"))
+            return 0;
+        std::string title(Title);
+        std::string description(Description);
+        setId(*page, page->file, Id);
+        page->title = std::move(title);
+        page->description = std::move(description);
+        page->voice = Voice;
+        return 1;
+    });
 }
 
 std::int32_t Kesh_TREGetStringInfo(std::int32_t String, std::int32_t& Id, std::int32_t& Second,
                                    std::string& Text) {
-    if (Kesh_TREGetRawString(String, Text) == 0)
-        return 0;
-    Second = 0;
-    if (const TextString* const string = stringOf(String)) {
-        Id = string->id;
-        return 1;
-    }
-    const StoredString& string = *storedStringOf(String);
-    Id = string.id;
-    if (store().resolving && Text.find('{') != Text.npos)
-        Text = translate(string.text(), {string.page, string.id}, TextForm::Resolved,
-                         lookupIn(nullptr));
-    return 1;
+    return withTexts([&] { return giveString(String, Id, Second, Text); });
 }
 
 std::int32_t Kesh_TREGetRawString(std::int32_t String, std::string& Text) {
-    lastError().clear();
-    if (const TextString* const string = stringOf(String))
-        Text = string->text;
-    else if (const StoredString* const stored = storedStringOf(String))
-        Text = stored->text();
-    else
-        return failHandle(String);
-    return 1;
+    return withTexts([&] {
+        const auto text = rawTextOf(String);
+        if (!text)
+            return failHandle(String);
+        Text = *text;
+        return 1;
+    });
 }
 
 std::int32_t Kesh_TRESetStringInfo(std::int32_t Page, std::int32_t String, std::int32_t Id,
                                    std::string_view Text) {
-    lastError().clear();
-    TextPage* const page = pageOf(Page);
-    TextString* const string = stringOf(String);
-    if (page == nullptr || string == nullptr || &string->page != page)
-        return failHandle(page == nullptr ? Page : String);
-    if (Id != string->id && !page->isFree(Id, string))
-        return failTaken("string", Id);
-    if (!canBeWritten(Text, "text"))
-        return 0;
-    string->id = Id;
-    string->text = Text;
-    string->changed = true;
-    page->file.forgetIndex();
-    return 1;
+    return withTexts([&] {
+        TextPage* const page = pageOf(Page);
+        TextString* const string = stringOf(String);
+        if (page == nullptr || string == nullptr || &string->page != page)
+            return failHandle(page == nullptr ? Page : String);
+        if (Id != string->id && !page->isFree(Id, string))
+            return failTaken("string", Id);
+        if (!canBeWritten(Text, "text"))
+            return 0;
+        string->text = Text;
+        setId(*string, page->file, Id);
+        return 1;
+    });
 }
 
 std::int32_t Kesh_TREFindString(std::int32_t Object, std::int32_t Page, std::int32_t Id) {
     if (Object == KESH_STORE)
         if (const std::uint32_t found = store().find(Page, Id); found != TextStore::none)
             return storedHandle(storeStringBase, found);
-    lastError().clear();
-    if (Object == KESH_STORE)
-        return 0;
-    const TextFile* const file = fileOf(Object);
-    if (file == nullptr)
-        return failHandle(Object);
-    const TextString* const string = file->find(Page, Id);
-    return string == nullptr ? 0 : string->handle();
+    return withTexts([&] {
+        if (Object == KESH_STORE)
+            return 0;
+        const TextFile* const file = fileOf(Object);
+        if (file == nullptr)
+            return failHandle(Object);
+        const TextString* const string = file->find(Page, Id);
+        return string == nullptr ? 0 : string->handle();
+    });
 }
 
 std::int32_t Kesh_TRETranslateString(std::int32_t Object, std::string_view Text,
                                      std::string& Translated) {
-    lastError().clear();
-    const auto around = surroundingsOf(Object);
-    if (!around)
-        return 0;
-    Translated = translate(Text, around->place, TextForm::Translated, lookupIn(around->file));
-    return 1;
+    return withTexts([&] {
+        const auto around = surroundingsOf(Object);
+        if (!around)
+            return 0;
+        Translated = translate(Text, around->place, TextForm::Translated, lookupIn(around->file));
+        return 1;
+    });
 }
 
 std::int32_t Kesh_TREFindBadReferences(std::int32_t Object, std::int32_t String,
                                        std::vector<KeshBadReference>& Found) {
-    lastError().clear();
-    Found.clear();
-    const TextFile* const file = fileOf(Object);
-    if (file == nullptr && Object != KESH_STORE)
-        return failHandle(Object);
-    std::vector<std::int32_t> strings{String};
-    if (String == 0)
-        strings = stringsOf(Object);
-    return withMemory(KESH_E_READ, file != nullptr ? file->name() : "the store",
-                      [&] { return findBadReferences(file, strings, Found); });
+    return withTexts([&] {
+        Found.clear();
+        const TextFile* const file = fileOf(Object);
+        if (file == nullptr && Object != KESH_STORE)
+            return failHandle(Object);
+        return findBadReferences(file, String == 0 ? stringsOf(Object) : std::vector{String},
+                                 Found);
+    });
 }
 
 std::int32_t Kesh_TREDescServerLoadFile(std::int32_t File) {

@@ -27,6 +27,11 @@ bool decodeLanguageFile(std::string_view bytes, std::string_view file, DecodedTe
     decoded.mark = findMark(bytes);
     if (decoded.mark == KESH_XML_UTF16_LITTLE || decoded.mark == KESH_XML_UTF16_BIG)
         return failFile(file, {}, "UTF-16") != 0;
+    const auto tooBig = [file] {
+        return failFile(file, {}, "more than " + std::to_string(maxLanguageBytes) + " bytes") != 0;
+    };
+    if (bytes.size() > maxLanguageBytes)
+        return tooBig();
     decoded.text = bytes.substr(signatureOf(decoded.mark)->bytes.size());
     std::size_t bad = findNoXmlCharacter(decoded.text);
     // A mark tells more than the declaration.
@@ -36,6 +41,8 @@ bool decodeLanguageFile(std::string_view bytes, std::string_view file, DecodedTe
         if (Kesh_DecodeXML(bytes, file, decoded.storage, decoded.mark) == 0)
             return false;
         decoded.text = decoded.storage;
+        if (decoded.text.size() > maxLanguageBytes)
+            return tooBig();
         bad = findNoXmlCharacter(decoded.text);
     }
     return bad == bytes.npos ||
@@ -118,6 +125,9 @@ LanguageReader::Part LanguageReader::start() {
             return fail("a root element other than \"texts\"", m_xml.begin());
         return skipElement() ? Part::FileEnd : Part::Failed;
     }
+    if (++m_parts > maxLanguageParts)
+        return fail("more than " + std::to_string(maxLanguageParts) + " pages and strings",
+                    m_xml.begin());
     rememberTag();
     return level == 0 ? Part::File : level == 1 ? Part::Page : stringText();
 }

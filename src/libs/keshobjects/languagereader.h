@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace keshobjects {
 
@@ -45,6 +46,11 @@ private:
 /// The text of the element that `element` consists of.
 [[nodiscard]] std::string textOfElement(std::string_view element);
 
+/// A language file may have so many bytes, unpacked and as UTF-8, and so many pages and strings: a
+/// hundred times what a game has, and yet no danger to memory.
+inline constexpr std::size_t maxLanguageBytes = std::size_t{256} << 20;
+inline constexpr std::uint32_t maxLanguageParts = 4'000'000;
+
 class LanguageReader {
 public:
     enum class Part { File, Page, String, PageEnd, FileEnd, Failed };
@@ -80,6 +86,7 @@ private:
     void rememberTag();
 
     std::string m_file;
+    std::uint32_t m_parts = 0;
     XmlReader m_xml;
     std::string_view m_text;
     SourceRange m_tag;

@@ -3,14 +3,6 @@
 #include <algorithm>
 
 namespace keshobjects {
-namespace {
-
-std::uint64_t keyOf(const Reference& reference) {
-    return std::uint64_t{static_cast<std::uint32_t>(reference.page)} << 32U |
-           static_cast<std::uint32_t>(reference.id);
-}
-
-} // namespace
 
 // A text that another one with its number hides can be asked about, but nothing leads to it.
 std::uint32_t ReferenceGraph::add(const Reference& place, std::string_view text) {
@@ -22,7 +14,7 @@ std::uint32_t ReferenceGraph::add(const Reference& place, std::string_view text)
 }
 
 std::uint32_t ReferenceGraph::nodeOf(const Reference& reference) {
-    const auto [found, isNew] = m_nodeByKey.try_emplace(keyOf(reference), none);
+    const auto [found, isNew] = m_nodeByKey.try_emplace(keyOf(reference.page, reference.id), none);
     const auto text = isNew ? m_lookup(reference) : std::nullopt;
     if (text) {
         found->second = static_cast<std::uint32_t>(m_nodes.size());
@@ -86,7 +78,7 @@ std::vector<BadReference> ReferenceGraph::badOnes(std::uint32_t number) const {
     const Node& node = m_nodes[number];
     std::string_view rest = node.text;
     while (const auto reference = takeNextReference(rest, node.page)) {
-        const std::uint32_t target = m_nodeByKey.at(keyOf(*reference));
+        const std::uint32_t target = m_nodeByKey.at(keyOf(reference->page, reference->id));
         // A reference to the text itself is in a circle of one.
         if (target == none)
             bad.push_back({*reference, false});

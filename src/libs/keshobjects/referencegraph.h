@@ -1,6 +1,7 @@
 // Which references between texts lead nowhere or in a circle.
 #pragma once
 
+#include "keshobjects/numberhash.h"
 #include "keshobjects/references.h"
 
 #include <cstdint>
@@ -51,7 +52,8 @@ private:
 
     TextLookup m_lookup;
     std::vector<Node> m_nodes;
-    std::unordered_map<std::uint64_t, std::uint32_t> m_nodeByKey; ///< `none`: there is no such text
+    std::unordered_map<std::uint64_t, std::uint32_t, NumberHash>
+        m_nodeByKey; ///< `none`: there is no such text
     std::vector<Step> m_way;
     std::vector<std::uint32_t> m_open; ///< nodes that may still be part of a circle
     std::uint32_t m_order = 0;

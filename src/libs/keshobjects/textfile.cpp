@@ -1,6 +1,7 @@
 #include "keshobjects/textfile.h"
 
 #include "keshobjects/keshtexts.h"
+#include "keshobjects/numberhash.h"
 #include "keshobjects/places.h"
 
 #include <algorithm>
@@ -8,17 +9,14 @@
 namespace keshobjects {
 namespace {
 
-std::uint64_t keyOf(std::int32_t page, std::int32_t id) noexcept {
-    return (std::uint64_t{static_cast<std::uint32_t>(page)} << 32U) |
-           static_cast<std::uint32_t>(id);
-}
-
+/// Any number of items have none (-1).
 template <typename Item>
 bool noneHas(const std::vector<std::unique_ptr<Item>>& items, std::int32_t id,
              const Item* except) noexcept {
-    return std::none_of(items.begin(), items.end(), [&](const std::unique_ptr<Item>& item) {
-        return item->id == id && item.get() != except;
-    });
+    return id == -1 ||
+           std::none_of(items.begin(), items.end(), [&](const std::unique_ptr<Item>& item) {
+               return item->id == id && item.get() != except;
+           });
 }
 
 template <typename Item>

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "keshobjects/languagereader.h"
+#include "keshobjects/numberhash.h"
 #include "keshobjects/textobjects.h"
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -73,7 +73,7 @@ public:
     [[nodiscard]] bool isFree(std::int32_t id, const TextPage* except) const noexcept;
     /// The last with that page and id; null if there is none.
     [[nodiscard]] const TextString* find(std::int32_t page, std::int32_t id) const;
-    /// To be called when ids change, and strings come or go.
+    /// To be called when an id changes, and strings come or go.
     void forgetIndex() noexcept { m_index.clear(); }
 
     /// The file with its changes, as UTF-8.
@@ -97,7 +97,7 @@ private:
     std::string m_name;
     SourceElement m_element;
     std::vector<SourceRange> m_removed; ///< with the white space in front
-    mutable std::unordered_map<std::uint64_t, const TextString*> m_index;
+    mutable std::unordered_map<std::uint64_t, const TextString*, NumberHash> m_index;
 };
 
 } // namespace keshobjects

@@ -6,6 +6,7 @@
 #include "keshobjects/xmltext.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace keshobjects {
 namespace {
@@ -49,7 +50,8 @@ std::string spelled(const Wanted& attribute) {
 std::string newTag(std::string_view name, const std::vector<Wanted>& attributes) {
     std::string tag = '<' + std::string(name);
     for (const Wanted& attribute : attributes)
-        tag += spelled(attribute);
+        if (attribute.name != "id" || !attribute.saysTheSame({}))
+            tag += spelled(attribute);
     return tag + '>';
 }
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <limits>
 
 namespace keshobjects {
 
@@ -37,9 +36,13 @@ void TextArena::goBack(const Mark& mark) noexcept {
 
 // --- Store
 
+namespace {
+std::uint64_t pageKey(std::int32_t page) noexcept {
+    return keyOf(page, 0);
+}
+} // namespace
+
 bool TextStore::load(std::string_view bytes, std::string_view file) {
-    if (bytes.size() > std::numeric_limits<std::uint32_t>::max())
-        return lastError().set(KESH_E_TOO_BIG, {std::string(file), {}, {}}) != 0;
     DecodedText decoded;
     if (!decodeLanguageFile(bytes, file, decoded))
         return false;
@@ -79,8 +82,6 @@ bool TextStore::read(LanguageReader& reader, std::vector<NewPage>& pages) {
         switch (reader.next()) {
         case Part::Page:
             page = reader.number("id");
-            if (m_pages.size() + pages.size() >= maxPages)
-                throw std::bad_alloc();
             if (page)
                 pages.push_back({*page, reader.number("voice"), reader.attribute("title"),
                                  reader.attribute("description")});
@@ -100,8 +101,6 @@ bool TextStore::read(LanguageReader& reader, std::vector<NewPage>& pages) {
 }
 
 void TextStore::append(std::int32_t page, std::int32_t id, std::string_view text) {
-    if (m_size == maxStrings)
-        throw std::bad_alloc();
     if (m_size / chunkSize == m_strings.size())
         m_strings.push_back(makeBigArray<StoredString>(chunkSize));
     at(m_size) = {m_texts.keep(text), static_cast<std::uint32_t>(text.size()), id, page, 0};
@@ -124,6 +123,7 @@ void TextStore::reserve(std::size_t strings) {
 
 /// Puts the strings read since `from` into table and pages. One that was there takes the new text.
 void TextStore::merge(std::uint32_t from, const std::vector<NewPage>& pages) {
+    m_pages.reserve(m_pages.size() + pages.size());
     for (const NewPage& page : pages)
         mergePage(page);
     const std::uint32_t end = m_size;
@@ -140,7 +140,7 @@ void TextStore::merge(std::uint32_t from, const std::vector<NewPage>& pages) {
         }
         at(m_size) = read;
         if (current == nullptr || current->id != read.page)
-            current = &m_pages[m_pageById.find(read.page)->second];
+            current = &m_pages[m_pageById.find(pageKey(read.page))->second];
         link(m_size, *current);
         slot = {read.page, read.id, ++m_size};
     }
@@ -148,7 +148,7 @@ void TextStore::merge(std::uint32_t from, const std::vector<NewPage>& pages) {
 
 void TextStore::mergePage(const NewPage& page) {
     const auto [known, isNew] =
-        m_pageById.try_emplace(page.id, static_cast<std::uint32_t>(m_pages.size()));
+        m_pageById.try_emplace(pageKey(page.id), static_cast<std::uint32_t>(m_pages.size()));
     if (isNew)
         m_pages.emplace_back().id = page.id;
     StoredPage& merged = m_pages[known->second];

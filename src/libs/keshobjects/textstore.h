@@ -2,12 +2,12 @@
 #pragma once
 
 #include "keshobjects/languagereader.h"
+#include "keshobjects/numberhash.h"
 #include "keshobjects/textarena.h"
 
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <random>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -37,10 +37,6 @@ struct StoredPage {
 
 class TextStore {
 public:
-    /// Positions of strings and pages stay below these.
-    static constexpr std::uint32_t maxStrings = 1U << 30U;
-    static constexpr std::uint32_t maxPages = 1U << 28U;
-
     /// Adds a file. False with the last error set, and nothing added, if it is broken.
     bool load(std::string_view bytes, std::string_view file);
     /// The language is kept, and the memory for the next load.
@@ -95,11 +91,8 @@ private:
     /// A power of 2 in number.
     Slots m_slots = Slots(1U << groupBits);
     unsigned m_shift = 64U - groupBits; ///< of a hash to a slot
-    /// Odd and of chance, so that no file can be made whose groups all fall on one place.
-    std::uint64_t m_multiplier =
-        std::uint64_t{std::random_device()()} << 32U | std::random_device()() | 1U;
     std::vector<StoredPage> m_pages;
-    std::unordered_map<std::int32_t, std::uint32_t> m_pageById;
+    std::unordered_map<std::uint64_t, std::uint32_t, NumberHash> m_pageById;
 };
 
 inline std::size_t TextStore::slotOf(std::int32_t page, std::int32_t id) const noexcept {
@@ -107,9 +100,8 @@ inline std::size_t TextStore::slotOf(std::int32_t page, std::int32_t id) const n
     constexpr std::uint32_t group = 1U << groupBits;
     constexpr std::size_t step = group + 1; // odd, so that it comes to every slot
     const auto number = static_cast<std::uint32_t>(id);
-    const std::uint64_t key =
-        (std::uint64_t{static_cast<std::uint32_t>(page)} << 32U) | number / group;
-    std::size_t slot = ((key ^ key >> 29U) * m_multiplier >> m_shift) ^ (number % group);
+    const std::uint64_t key = keyOf(page, static_cast<std::int32_t>(number / group));
+    std::size_t slot = (hashOf(key) >> m_shift) ^ (number % group);
     for (;; slot = (slot + step) & (~std::uint64_t{0} >> m_shift)) {
         const Slot& there = m_slots[slot];
         if ((there.id == id && there.page == page) || there.behind == 0)

@@ -29,8 +29,13 @@ bool is(char c, CharacterClass wanted) noexcept {
 }
 
 std::string quoted(std::string_view text) {
-    constexpr std::size_t shown = 40;
-    return '"' + std::string(text.substr(0, shown)) + (text.size() > shown ? "...\"" : "\"");
+    constexpr std::size_t most = 40;
+    if (text.size() <= most)
+        return '"' + std::string(text) + '"';
+    std::size_t shown = most;
+    while (shown > 0 && (static_cast<unsigned char>(text[shown]) & 0xC0U) == 0x80U)
+        --shown; // not inside a character
+    return '"' + std::string(text.substr(0, shown)) + "...\"";
 }
 
 } // namespace

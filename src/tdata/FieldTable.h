@@ -26,6 +26,8 @@ inline constexpr std::int32_t List = 2;   ///< one of a list of choices
 } // namespace translation
 
 /// One field. A panel's conversions become further members, so that a type stays one table.
+// The members stand in the order in which a row is read.
+// NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
 struct Field {
     std::int32_t Index = 0;     ///< in the record; counted from its size if negative
     std::string_view Name = {}; ///< empty: the common frame names it, or nothing does

@@ -17,7 +17,7 @@ float clsCockpit::Value(std::int32_t index) const {
 
 // By the shortest spelling of the single: as a double 0.1 would be written 0.10000000149011612.
 void clsCockpit::SetValue(std::int32_t index, float value) {
-    std::array<char, 32> spelling;
+    std::array<char, 32> spelling{};
     const auto end = std::to_chars(spelling.data(), spelling.data() + spelling.size(), value).ptr;
     Object->SetValue(index, keshobjects::readValue({spelling.data(), end}));
 }

@@ -68,7 +68,7 @@ void clsGunGroup::ShiftOffset(std::int32_t delta) {
 
 std::shared_ptr<clsGun> clsGunGroup::MakeNewGun() {
     ShipChange change(*m_ship);
-    const auto gun = std::make_shared<clsGun>(*this, ++m_gunIds, 0);
+    auto gun = std::make_shared<clsGun>(*this, ++m_gunIds, 0);
     m_ship->MakeNewGun(*this, *gun);
     m_guns.push_back(gun);
     m_ship->ReindexGuns();

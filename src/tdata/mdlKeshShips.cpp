@@ -111,7 +111,7 @@ const TextTable TurretPositionNames{1, TurretPositionRows};
 
 std::string GetShipClassName(const KeshValue& Value, std::int32_t Version) {
     const bool isKey = Version >= FirstSymbolicShips && std::holds_alternative<std::string>(Value);
-    const std::string spelling = keshobjects::spellValue(Value);
+    std::string spelling = keshobjects::spellValue(Value);
     std::int32_t position = -1;
     if (isKey) {
         if (!FindInList(spelling, ShipClassKeys, position))

@@ -58,7 +58,7 @@ public:
 private:
     /// A page of the file being loaded; what is missing does not change the page of the store.
     struct NewPage {
-        std::int32_t id;
+        std::int32_t id = 0;
         std::optional<std::int32_t> voice;
         std::optional<std::string> title;
         std::optional<std::string> description;

@@ -230,9 +230,13 @@ std::string hexByte(char byte) {
 std::string_view declaredEncoding(std::string_view text) noexcept {
     constexpr std::string_view opening = "<?xml";
     constexpr std::string_view attribute = "encoding";
-    // A declaration is a line; what is longer is none.
+    // A declaration is a line of ASCII, which has the same bytes before and behind a conversion;
+    // what is longer is none.
     constexpr std::size_t most = 1000;
-    const std::string_view start = text.substr(0, most);
+    const std::string_view line = text.substr(0, most);
+    const auto behindAscii = std::find_if(line.begin(), line.end(),
+                                          [](char c) { return static_cast<signed char>(c) < 0; });
+    const std::string_view start(line.begin(), behindAscii);
     const std::string_view declaration = start.substr(0, start.find("?>"));
     const std::size_t found = declaration.find(attribute);
     if (!declaration.starts_with(opening) || declaration.size() == start.size() ||

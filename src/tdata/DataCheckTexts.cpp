@@ -1,3 +1,4 @@
+#include "core/mdlCommon.h"
 #include "keshobjects/keshtexts.h"
 #include "keshobjects/numberhash.h"
 #include "tdata/DataCheck.h"
@@ -16,7 +17,8 @@ public:
     TextChecker(std::int32_t texts, std::string file) : m_texts(texts), m_file(std::move(file)) {}
 
     std::vector<Finding> Run() {
-        Kesh_TREFindBadReferences(m_texts, 0, m_bad);
+        if (Kesh_TREFindBadReferences(m_texts, 0, m_bad) == 0)
+            Add({}, "The references could not be checked: " + KeshErrorText());
         for (const std::int32_t page : EnumChildren(m_texts))
             CheckPage(page);
         return std::move(m_findings);

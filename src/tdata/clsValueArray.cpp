@@ -25,6 +25,16 @@ clsValueArray::clsValueArray(std::shared_ptr<const clsLoadedText> text, std::uin
 clsValueArray::clsValueArray(std::uint32_t size)
     : m_cells(std::make_shared<std::vector<Cell>>(size, Own{"0", false})), m_size(size) {}
 
+clsValueArray::clsValueArray(std::span<const SpelledValue> values)
+    : m_cells(std::make_shared<std::vector<Cell>>()),
+      m_size(static_cast<std::uint32_t>(values.size())) {
+    m_cells->reserve(values.size());
+    for (const auto& [spelling, kind] : values)
+        m_cells->push_back(kind == ValueKind::Unset
+                               ? Cell()
+                               : Own{std::string(spelling), kind == ValueKind::Text});
+}
+
 bool clsValueArray::IsTextPlace(std::uint32_t index) const noexcept {
     switch (m_form) {
     case ValueForm::AsShown:
@@ -50,11 +60,14 @@ std::string_view clsValueArray::PlaceSpelling(std::uint32_t index) const {
                                      : spelling;
 }
 
-bool clsValueArray::IsText(std::uint32_t index) const {
+ValueKind clsValueArray::Kind(std::uint32_t index) const {
     if (!m_cells)
-        return IsTextPlace(index);
-    const auto* own = std::get_if<Own>(&(*m_cells)[index]);
-    return own != nullptr && own->text;
+        return IsTextPlace(index) ? ValueKind::Text : ValueKind::AsSpelled;
+    const Cell& cell = (*m_cells)[index];
+    if (std::holds_alternative<std::monostate>(cell))
+        return ValueKind::Unset;
+    const auto* own = std::get_if<Own>(&cell);
+    return own != nullptr && own->text ? ValueKind::Text : ValueKind::AsSpelled;
 }
 
 std::string_view clsValueArray::Spelling(std::uint32_t index) const {
@@ -69,10 +82,12 @@ std::string_view clsValueArray::Spelling(std::uint32_t index) const {
 }
 
 KeshValue clsValueArray::Get(std::uint32_t index) const {
-    if (m_cells && std::holds_alternative<std::monostate>((*m_cells)[index]))
+    const ValueKind kind = Kind(index);
+    if (kind == ValueKind::Unset)
         return {};
     const auto spelling = Spelling(index);
-    return IsText(index) ? KeshValue(std::string(spelling)) : keshobjects::readValue(spelling);
+    return kind == ValueKind::Text ? KeshValue(std::string(spelling))
+                                   : keshobjects::readValue(spelling);
 }
 
 std::optional<double> clsValueArray::SpelledNumber(std::uint32_t index) const {
@@ -143,7 +158,7 @@ bool clsValueArray::SameAs(const clsValueArray& other) const {
     if (m_size != other.m_size)
         return false;
     for (std::uint32_t i = 0; i < m_size; ++i)
-        if (IsText(i) != other.IsText(i) || Spelling(i) != other.Spelling(i))
+        if (Kind(i) != other.Kind(i) || Spelling(i) != other.Spelling(i))
             return false;
     return true;
 }

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -26,6 +27,19 @@ enum class ValueForm : std::uint8_t {
     Sections, ///< the first two of each five values are text (the root of icons)
 };
 
+/// How one value reads.
+enum class ValueKind : std::uint8_t {
+    AsSpelled, ///< number or text by its spelling
+    Text,      ///< text, even if it spells a number
+    Unset,     ///< room without a value yet
+};
+
+/// What tells a value from another: enough to make the same one again.
+struct SpelledValue {
+    std::string_view Spelling;
+    ValueKind Kind = ValueKind::AsSpelled;
+};
+
 class clsValueArray {
 public:
     clsValueArray() = default;
@@ -35,11 +49,14 @@ public:
                   std::uint32_t size, ValueForm form, bool written);
     /// `size` cells, each the whole number 0.
     explicit clsValueArray(std::uint32_t size);
+    /// Copies of values that were told by Spelling and Kind; SameAs the array that told them.
+    explicit clsValueArray(std::span<const SpelledValue> values);
 
     [[nodiscard]] std::uint32_t Size() const noexcept { return m_size; }
     [[nodiscard]] KeshValue Get(std::uint32_t index) const;
     /// Valid until the next change; an unset cell spells the empty text.
     [[nodiscard]] std::string_view Spelling(std::uint32_t index) const;
+    [[nodiscard]] ValueKind Kind(std::uint32_t index) const;
     [[nodiscard]] std::optional<double> Number(std::uint32_t index) const {
         return !m_cells && m_form == ValueForm::AsShown
                    ? keshobjects::numberAt(m_text->Text(), PlaceAt(index))
@@ -73,7 +90,7 @@ private:
     [[nodiscard]] std::optional<double> SpelledNumber(std::uint32_t index) const;
     [[nodiscard]] bool IsTextPlace(std::uint32_t index) const noexcept;
     [[nodiscard]] std::string_view PlaceSpelling(std::uint32_t index) const;
-    [[nodiscard]] bool IsText(std::uint32_t index) const;
+    [[nodiscard]] bool IsText(std::uint32_t index) const { return Kind(index) == ValueKind::Text; }
     std::vector<Cell>& OwnCells(); ///< made, or copied from a shared one, before a change
 
     std::shared_ptr<const clsLoadedText> m_text;

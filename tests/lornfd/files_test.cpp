@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <libdeflate.h>
 #include <string>
 #include <sys/stat.h>
 #include <tuple>
@@ -62,6 +63,11 @@ TEST_P(Reading, GivesTheSameInEveryWay) {
     const std::string_view view = LornFD_ViewFile(file);
     ASSERT_NE(view.data(), nullptr);
     EXPECT_TRUE(view == content);
+    std::int64_t markedSize = -1;
+    std::uint32_t checksum = 0;
+    EXPECT_EQ(LornFD_Checksum(file, &markedSize, &checksum), 1);
+    EXPECT_EQ(markedSize, size);
+    EXPECT_EQ(checksum, libdeflate_crc32(0, content.data(), content.size()));
     const std::string_view name = std::get<0>(GetParam());
     EXPECT_EQ(LornFD_FileType(file), name.ends_with("gzip.pck")   ? LORNFD_GZIP
                                      : name.ends_with("zstd.pck") ? LORNFD_ZSTD

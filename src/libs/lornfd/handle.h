@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,6 +29,12 @@ struct FileName {
     [[nodiscard]] std::string shown() const;
 };
 
+/// What tells one content from another.
+struct ContentMark {
+    std::int64_t size = 0; ///< bytes
+    std::uint32_t crc = 0;
+};
+
 class OpenFile : public Handle {
 public:
     explicit OpenFile(std::string_view name) : m_name(name) {}
@@ -35,6 +42,8 @@ public:
     [[nodiscard]] std::string name() const { return FileName::parse(m_name).shown(); }
     [[nodiscard]] std::string_view givenName() const noexcept { return m_name; }
     [[nodiscard]] FileName parts() const { return FileName::parse(m_name); }
+    /// Of the unpacked content, or of what was written so far; none with the last error set.
+    virtual std::optional<ContentMark> contentMark() = 0;
 
 private:
     std::string m_name;

@@ -149,6 +149,15 @@ std::string_view LornFD_ViewFile(std::int32_t File) {
                               [](Reader& reader) { return reader.view(); });
 }
 
+std::int32_t LornFD_Checksum(std::int32_t File, std::int64_t* Size, std::uint32_t* Checksum) {
+    return withHandle<OpenFile>(File, 0, [&](OpenFile& file) {
+        const auto mark = file.contentMark();
+        *Size = mark ? mark->size : 0;
+        *Checksum = mark ? mark->crc : 0;
+        return mark ? 1 : 0;
+    });
+}
+
 // What is written is collected in order, so it ends at the write position anyway.
 std::int32_t LornFD_SetEndOfFile(std::int32_t File) {
     return withHandle<Writer>(File, 0, [](Writer&) { return 1; });

@@ -69,6 +69,9 @@ std::int64_t LornFD_FileSize(std::int32_t File);
 /// The whole unpacked content without a copy of a plain file (mapped); valid until the handle
 /// closes. A null data pointer on failure; an empty file gives a non-null one of size 0.
 std::string_view LornFD_ViewFile(std::int32_t File);
+/// Size and CRC-32 of the unpacked content: of all that a handle opened for reading has, of what
+/// was written so far to one opened for writing. Gives 1 on success.
+std::int32_t LornFD_Checksum(std::int32_t File, std::int64_t* Size, std::uint32_t* Checksum);
 /// Fixes the length of what is being written at the write position.
 std::int32_t LornFD_SetEndOfFile(std::int32_t File);
 /// The form in which a file opened for reading is stored: LORNFD_PLAIN, _GZIP or _ZSTD; 0 on

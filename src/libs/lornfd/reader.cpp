@@ -167,6 +167,14 @@ std::string_view Reader::view() {
     return loadContent() ? m_content : std::string_view();
 }
 
+std::optional<ContentMark> Reader::contentMark() {
+    const std::string_view content = view();
+    if (!content.data())
+        return {};
+    return ContentMark{.size = static_cast<std::int64_t>(content.size()),
+                       .crc = libdeflate_crc32(0, content.data(), content.size())};
+}
+
 /// Reads all stored bytes to where the caller wants them, without holding them.
 std::int64_t Reader::readWhole(char* buffer, std::int64_t count) {
     const std::string_view stored(buffer, static_cast<std::size_t>(m_part.size));

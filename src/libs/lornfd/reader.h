@@ -32,6 +32,7 @@ public:
     std::int64_t read(char* buffer, std::int64_t count);
     /// The whole unpacked content; null data with the last error set.
     std::string_view view();
+    std::optional<ContentMark> contentMark() override;
     /// LORNFD_PLAIN, LORNFD_GZIP or LORNFD_ZSTD; 0 with the last error set.
     std::int32_t form();
 

@@ -7,6 +7,7 @@
 #include "lornfd/reader.h"
 #include "lornfd/replacefile.h"
 
+#include <libdeflate.h>
 #include <string>
 #include <utility>
 
@@ -118,8 +119,12 @@ std::unique_ptr<Writer> Writer::open(std::string_view name, bool mustExist, std:
 bool Writer::write(std::string_view bytes) {
     if (m_failed)
         return failEarlier();
+    if (bytes.empty())
+        return true;
     m_failed = true; // also where taking them throws
     m_failed = !take(bytes);
+    m_mark.size += static_cast<std::int64_t>(bytes.size());
+    m_mark.crc = libdeflate_crc32(m_mark.crc, bytes.data(), bytes.size());
     return !m_failed;
 }
 

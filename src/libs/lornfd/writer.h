@@ -19,6 +19,7 @@ public:
     bool write(std::string_view bytes);
     /// Replaces the target, whole or not at all; false with the last error set.
     bool commit();
+    std::optional<ContentMark> contentMark() override { return m_mark; }
 
 protected:
     using OpenFile::OpenFile;
@@ -28,6 +29,7 @@ private:
     virtual bool replace() = 0;
     [[nodiscard]] bool failEarlier() const;
 
+    ContentMark m_mark;
     bool m_failed = false;
 };
 

@@ -4,6 +4,7 @@
 #include "core/mdlComFunctions.h"
 #include "core/mdlCommon.h"
 #include "lornfd/lornfd.h"
+#include "lornfd/paths.h"
 
 namespace {
 
@@ -11,11 +12,9 @@ QString tr(const char* text) {
     return QCoreApplication::translate("CommonBoxes", text);
 }
 
-/// A stored path as the platform writes it.
-QString nativePath(std::string path) {
-    if (QDir::separator() == u'/')
-        ReplaceAll(path, "\\", "/");
-    return QString::fromStdString(path);
+/// A stored path as the platform finds it.
+QString nativePath(const std::string& path) {
+    return QString::fromStdString(lornfd::resolvePath(path));
 }
 
 } // namespace
@@ -32,20 +31,34 @@ bool OverwriteQuestion(const std::string& Name, const QString& Shown, const QStr
     return Ui().ShowMessage(Owner, {Title, text, Icon, BoxButtons::YesNo}) == Answer::Yes;
 }
 
+bool RunProgram(const std::string& Path, const QStringList& Arguments) {
+    return !Path.empty() && Ui().RunProgram(nativePath(Path), Arguments);
+}
+
+QString NotStartedText(const std::string& Path) {
+    const QFileInfo program(nativePath(Path));
+    const QString reason = !program.isFile()         ? tr("%1\nThere is no such file.")
+                           : !program.isExecutable() ? tr("%1\nThe file is not a program.")
+                                                     : tr("%1\nThe system could not start it.");
+    return reason.arg(program.filePath());
+}
+
+bool StartProgram(QWidget* Owner, const std::string& Path) {
+    if (RunProgram(Path))
+        return true;
+    ShowBox(Owner, QString::fromStdString(ProgramTitle()),
+            tr("Error starting program: ") + NotStartedText(Path), BoxIcon::Exclamation);
+    return false;
+}
+
 bool RunGame(QWidget* Owner) {
-    const QString title = QString::fromStdString(ProgramTitle());
-    const QString game = nativePath(Settings->KeshEXEPath());
-    if (game.isEmpty()) {
-        ShowBox(
-            Owner, title,
+    const std::string game = Settings->KeshEXEPath();
+    if (!game.empty())
+        return StartProgram(Owner, game);
+    ShowBox(Owner, QString::fromStdString(ProgramTitle()),
             tr("Program cannot found registry entry of Kesh Origins. You will have to specify path "
                "to the game executable in the Settings window."),
             BoxIcon::Exclamation);
-        return false;
-    }
-    if (Ui().RunProgram(game, {}))
-        return true;
-    ShowBox(Owner, title, tr("Error starting program: ") + game, BoxIcon::Exclamation);
     return false;
 }
 

@@ -12,6 +12,12 @@ void ValueError(QWidget* Owner, const QString& Title, std::string_view Name, int
 [[nodiscard]] bool OverwriteQuestion(const std::string& Name, const QString& Shown,
                                      const QString& Title, QWidget* Owner,
                                      BoxIcon Icon = BoxIcon::Question);
+/// Starts a program, found without regard to case, in its own directory; false if it did not start.
+[[nodiscard]] bool RunProgram(const std::string& Path, const QStringList& Arguments = {});
+/// Why a program did not start, as far as can be seen.
+[[nodiscard]] QString NotStartedText(const std::string& Path);
+/// Starts a program and says so where that fails.
+bool StartProgram(QWidget* Owner, const std::string& Path);
 /// Starts the game; says what is missing where no path is set.
 bool RunGame(QWidget* Owner);
 /// Opens the help pages beside the program, at a topic ("ships.html") if one is given, in the

@@ -1,0 +1,54 @@
+// What windows ask of lists, combos and edits. Keys stand under Qt::UserRole and compare without
+// regard to case; reads of a list give an empty answer where there is nothing.
+#pragma once
+
+#include "core/KeshError.h"
+
+#include <QtWidgets>
+
+/// The top row with that key, invalid if there is none.
+[[nodiscard]] inline QModelIndex ListFindItem(const QAbstractItemModel& Model, const QString& Key) {
+    return Model.match(Model.index(0, 0), Qt::UserRole, Key, 1, Qt::MatchFixedString).value(0);
+}
+/// False if there is no such row, or the model keeps it.
+inline bool ListRemoveItem(QAbstractItemModel& Model, const QString& Key) {
+    const QModelIndex found = ListFindItem(Model, Key);
+    return found.isValid() && Model.removeRow(found.row());
+}
+/// The selected row; where none is, the first, which it selects. Invalid for an empty list.
+[[nodiscard]] inline QModelIndex ListSelectedOrFirst(QAbstractItemView& View) {
+    const QModelIndexList selected = View.selectionModel()->selectedIndexes();
+    if (!selected.isEmpty())
+        return selected.first();
+    View.setCurrentIndex(View.model()->index(0, 0));
+    return View.currentIndex();
+}
+/// Throws KeshError (errnum::Bounds) for an index outside the list.
+inline void ListIndexCheck(const QAbstractItemModel& Model, int Index) {
+    if (Index < 0 || Index >= Model.rowCount())
+        throw KeshError(errnum::Bounds, "ListIndexCheck", "List index out of bounds.");
+}
+
+/// Data of the selected row; -1 without one, which is also when an editable combo shows another
+/// text.
+[[nodiscard]] inline int ComboItemData(const QComboBox& Combo) {
+    const int row = Combo.currentIndex();
+    const bool selected = row >= 0 && Combo.currentText() == Combo.itemText(row);
+    return selected ? Combo.itemData(row).toInt() : -1;
+}
+/// Selects the row with that data; clears the selection and gives false if there is none.
+inline bool ComboSelectData(QComboBox& Combo, int Value) {
+    Combo.setCurrentIndex(Combo.findData(Value));
+    return Combo.currentIndex() >= 0;
+}
+
+inline void TextBoxSelectAll(QLineEdit& Edit, bool SetFocus) {
+    if (SetFocus)
+        Edit.setFocus();
+    Edit.selectAll();
+}
+/// Takes digits only.
+inline void NumbersOnly(QLineEdit& Edit) {
+    Edit.setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), &Edit));
+}

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 
 namespace {
@@ -27,20 +26,25 @@ double NumberOf(std::string_view id) {
 
 } // namespace
 
-std::string NewObjectName(const clsTxtParser& Parser) {
-    double highest = 0;
-    std::unordered_set<std::string> taken; // two IDs that differ by case only count as one
+NewNames::NewNames(const clsTxtParser& Parser) {
     const std::string base = lornfd::foldCase(BaseWord);
     for (const RecordPtr& record : Parser.ByIndex()) {
         std::string id = lornfd::foldCase(record->ObjectName());
         if (id.find(base) == id.npos)
             continue;
-        highest = std::max(highest, NumberOf(record->ObjectName()));
-        taken.insert(std::move(id));
+        m_highest = std::max(m_highest, NumberOf(record->ObjectName()));
+        m_taken.insert(std::move(id));
     }
+}
+
+std::string NewNames::Next() {
     std::string name;
     do
-        name = std::string(BaseWord) + "_" + keshobjects::spellNumber(++highest);
-    while (taken.contains(lornfd::foldCase(std::string_view(name))));
+        name = std::string(BaseWord) + "_" + keshobjects::spellNumber(++m_highest);
+    while (m_taken.contains(lornfd::foldCase(std::string_view(name))));
     return name;
+}
+
+std::string NewObjectName(const clsTxtParser& Parser) {
+    return Parser.m_bulk ? Parser.m_bulk->Names->Next() : NewNames(Parser).Next();
 }

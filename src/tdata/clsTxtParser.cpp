@@ -4,11 +4,13 @@
 #include "core/mdlCommon.h"
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
+#include "tdata/NewObjectName.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlTxtLoaders.h"
 
 #include <algorithm>
 #include <new>
+#include <unordered_set>
 #include <utility>
 
 namespace {
@@ -236,7 +238,13 @@ RecordPtr clsTxtParser::Find(std::int32_t ID) const {
         for (const auto& record : m_byIndex)
             m_byId.emplace(record->ID, record.get());
     const auto found = m_byId.find(ID);
-    return found == m_byId.end() ? RecordPtr() : FindIndex(found->second->Index);
+    if (found == m_byId.end())
+        return {};
+    const auto index = found->second->Index;
+    RecordPtr here = FindIndex(index);
+    return here.get() == found->second
+               ? here
+               : m_bulk->Tail[static_cast<std::size_t>(index) - m_bulk->From];
 }
 
 RecordPtr clsTxtParser::FindID(std::string_view Name) const {
@@ -280,6 +288,22 @@ bool clsTxtParser::RemoveObject(const RecordPtr& Record) {
     return true;
 }
 
+bool clsTxtParser::RemoveObjects(std::span<const RecordPtr> Records) {
+    std::unordered_set<const clsTXTObject*> gone;
+    for (const RecordPtr& record : Records)
+        if (!Holds(record) || !gone.insert(record.get()).second)
+            return false;
+    if (gone.empty())
+        return true;
+    std::erase_if(m_byName, [&](const clsTXTObject* record) { return gone.contains(record); });
+    for (const clsTXTObject* const record : gone)
+        m_byId.erase(record->ID);
+    std::erase_if(m_byIndex, [&](const RecordPtr& record) { return gone.contains(record.get()); });
+    Renumber(0);
+    m_dirty = true;
+    return true;
+}
+
 RecordPtr clsTxtParser::CreateObject(const RecordPtr& After) {
     return AddNew(PositionBehind(After));
 }
@@ -289,6 +313,8 @@ RecordPtr clsTxtParser::CreateObjectBefore(const RecordPtr& Before) {
 }
 
 RecordPtr clsTxtParser::AddNew(std::size_t Position) {
+    if (m_bulk)
+        Position = m_byIndex.size();
     auto record = std::make_shared<clsTXTObject>();
     record->ID = ++m_nextID;
     record->otype = m_otype;
@@ -304,6 +330,25 @@ void clsTxtParser::AddObjectP(RecordPtr Record, const RecordPtr& After) {
 void clsTxtParser::RestoreObject(RecordPtr Record, std::int32_t Index) {
     InsertAt(static_cast<std::size_t>(std::clamp<std::int64_t>(Index, 0, std::ssize(m_byIndex))),
              std::move(Record));
+    m_dirty = true;
+}
+
+void clsTxtParser::RestoreObjects(std::span<const RecordPtr> Records) {
+    std::vector<RecordPtr> merged;
+    merged.reserve(m_byIndex.size() + Records.size());
+    auto there = m_byIndex.begin();
+    for (const RecordPtr& record : Records) {
+        const auto before = static_cast<std::ptrdiff_t>(record->Index) - std::ssize(merged);
+        const auto stop = there + std::clamp<std::ptrdiff_t>(before, 0, m_byIndex.end() - there);
+        merged.insert(merged.end(), there, stop);
+        there = stop;
+        merged.push_back(record);
+    }
+    merged.insert(merged.end(), there, m_byIndex.end());
+    m_byIndex = std::move(merged);
+    m_byName.clear();
+    m_byId.clear();
+    Renumber(0);
     m_dirty = true;
 }
 
@@ -334,4 +379,29 @@ bool clsTxtParser::Holds(const RecordPtr& Record) const {
 
 std::size_t clsTxtParser::PositionBehind(const RecordPtr& Record) const {
     return Holds(Record) ? static_cast<std::size_t>(Record->Index) + 1 : m_byIndex.size();
+}
+
+// --- Many at once
+
+BulkInsert::BulkInsert(clsTxtParser& Parser, const RecordPtr& Before) : m_parser(Parser) {
+    auto bulk = std::make_unique<clsTxtParser::Bulk>();
+    bulk->Names = std::make_shared<NewNames>(Parser);
+    auto& records = Parser.m_byIndex;
+    if (Parser.Holds(Before)) {
+        const auto place = records.begin() + Before->Index;
+        bulk->Tail.assign(place, records.end());
+        static_cast<void>(Parser.Find(0)); // finding by ID goes on for those as well
+        records.erase(place, records.end());
+    }
+    bulk->From = records.size();
+    Parser.m_byName.clear();
+    Parser.m_bulk = std::move(bulk);
+}
+
+BulkInsert::~BulkInsert() {
+    auto& records = m_parser.m_byIndex;
+    const std::size_t end = records.size();
+    records.insert(records.end(), m_parser.m_bulk->Tail.begin(), m_parser.m_bulk->Tail.end());
+    m_parser.m_bulk.reset();
+    m_parser.Renumber(end);
 }

@@ -5,12 +5,15 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 using RecordPtr = std::shared_ptr<clsTXTObject>;
+
+class NewNames;
 
 class clsTxtParser {
 public:
@@ -44,6 +47,8 @@ public:
 
     /// False, and nothing changed, unless the record under that key is this very one.
     [[nodiscard]] bool RemoveObject(const RecordPtr& Record);
+    /// The same for all of them at once, or none.
+    [[nodiscard]] bool RemoveObjects(std::span<const RecordPtr> Records);
     [[nodiscard]] bool CheckDirty() const;
     /// A new record without values, behind `After`, or at the end if that is no record
     /// here.
@@ -55,6 +60,8 @@ public:
     /// Puts a removed record back at its place in file order; it keeps its ID. Throws as
     /// AddObjectP.
     void RestoreObject(RecordPtr Record, std::int32_t Index);
+    /// Puts records back at the Index that each has, in ascending order.
+    void RestoreObjects(std::span<const RecordPtr> Records);
 
     [[nodiscard]] const std::vector<RecordPtr>& ByIndex() const noexcept { return m_byIndex; }
     /// By ObjectName without regard to case, equal names in their order of arrival. Sorted when
@@ -65,6 +72,15 @@ public:
     void SetDirty(bool dirty) noexcept { m_dirty = dirty; }
 
 private:
+    friend class BulkInsert;
+    friend std::string NewObjectName(const clsTxtParser& Parser);
+    /// While many records are added at one place.
+    struct Bulk {
+        std::size_t From = 0;        ///< that place
+        std::vector<RecordPtr> Tail; ///< the records behind it, with the Index that they had
+        std::shared_ptr<NewNames> Names;
+    };
+
     void Reset();
     bool SetError(std::string Text);
     RecordPtr AddNew(std::size_t Position);
@@ -78,6 +94,7 @@ private:
 
     std::shared_ptr<clsLoadedText> m_text;
     std::vector<RecordPtr> m_byIndex;
+    std::unique_ptr<Bulk> m_bulk;
     mutable std::vector<clsTXTObject*> m_byName;                    ///< empty until asked for
     mutable std::unordered_map<std::int32_t, clsTXTObject*> m_byId; ///< the same
     std::string m_lastError;
@@ -87,4 +104,19 @@ private:
     std::int32_t m_nextID = 0;
     bool m_dirty = false;
     bool m_parsed = false;
+};
+
+/// While it lives, every record that is created goes to one place, one behind the other, and at a
+/// cost that does not depend on how many there are. Until then the records behind that place are
+/// not in ByIndex, and new names are not looked for anew in those that were there.
+class BulkInsert {
+public:
+    /// In front of `Before`, or at the end.
+    BulkInsert(clsTxtParser& Parser, const RecordPtr& Before);
+    BulkInsert(const BulkInsert&) = delete;
+    BulkInsert& operator=(const BulkInsert&) = delete;
+    ~BulkInsert();
+
+private:
+    clsTxtParser& m_parser;
 };

@@ -483,3 +483,48 @@ TEST(Container, RandomChangesKeepOrdersAndNumbers) {
         }
     }
 }
+
+// Many at once must leave what one by one leaves.
+TEST(Container, BulkOperationsAgreeWithSingleOnes) {
+    std::mt19937 random(5);
+    clsTxtParser parser;
+    ASSERT_TRUE(load(parser, wares({"d", "NEW_OBJECT_7", "C", "a", "e", "b"}), otype::Ware));
+    for (int round = 0; round < 50; ++round) {
+        std::vector<RecordPtr> model = parser.ByIndex();
+        const std::size_t at = random() % (model.size() + 1);
+        const RecordPtr before = at < model.size() ? model[at] : RecordPtr();
+        std::vector<RecordPtr> made;
+        {
+            const BulkInsert bulk(parser, before);
+            for (int i = 0; i < 5; ++i) {
+                made.push_back(parser.CreateObjectBefore(i % 2 == 0 ? before : RecordPtr()));
+                made.back()->Construct(3);
+                made.back()->SetObjectName(NewObjectName(parser));
+                if (before) {
+                    EXPECT_EQ(parser.Find(before->ID), before);
+                }
+            }
+        }
+        EXPECT_EQ(made[0]->ObjectName(), "NEW_OBJECT_" + std::to_string(8 + round * 5));
+        model.insert(model.begin() + static_cast<std::ptrdiff_t>(at), made.begin(), made.end());
+        ASSERT_EQ(parser.ByIndex(), model);
+        ASSERT_EQ(parser.Find(made[2]->ID), made[2]);
+
+        std::vector<RecordPtr> gone;
+        for (const RecordPtr& record : model)
+            if (random() % 3 == 0)
+                gone.push_back(record);
+        std::vector<RecordPtr> twice = gone;
+        twice.insert(twice.end(), gone.begin(), gone.end());
+        EXPECT_EQ(parser.RemoveObjects(twice), gone.empty());
+        ASSERT_EQ(parser.ByIndex(), model);
+        ASSERT_TRUE(parser.RemoveObjects(gone));
+        EXPECT_EQ(parser.ByIndex().size() + gone.size(), model.size());
+        for (int i = 0; const RecordPtr& record : parser.ByIndex())
+            EXPECT_EQ(record->Index, i++);
+        parser.RestoreObjects(gone);
+        ASSERT_EQ(parser.ByIndex(), model);
+        EXPECT_EQ(parser.ByName().size(), model.size());
+        EXPECT_EQ(parser.Find(model.back()->ID), model.back());
+    }
+}

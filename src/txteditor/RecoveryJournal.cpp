@@ -33,7 +33,8 @@ QString lockName(const QString& journal) {
 
 QByteArray bytesOf(const QString& path) {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(mostBytes) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.read(std::min(file.size(), mostBytes))
+                                          : QByteArray();
 }
 
 /// The part that goes on from what the disk has; none if it has nothing of them.

@@ -1,0 +1,12 @@
+# kesh_translations(TARGET): puts the translations of the program into the target's resources.
+find_program(LRELEASE lrelease HINTS /usr/lib/qt6/bin REQUIRED)
+function(kesh_translations target)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/translations/*.ts)
+  foreach(source IN LISTS sources)
+    cmake_path(GET source STEM name)
+    set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${name}.qm)
+    add_custom_command(OUTPUT ${compiled} COMMAND ${LRELEASE} -silent -nounfinished ${source} -qm ${compiled} DEPENDS ${source})
+    list(APPEND files ${compiled})
+  endforeach()
+  qt_add_resources(${target} translations PREFIX /translations BASE ${CMAKE_CURRENT_BINARY_DIR} FILES ${files})
+endfunction()

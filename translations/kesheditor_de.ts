@@ -1,0 +1,916 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CatalogModel</name>
+    <message>
+        <source>Directory</source>
+        <translation>Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LauncherItems</name>
+    <message>
+        <source>TXT Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kesh Outfitter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kesh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LornFileDialog</name>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Files (*.*)|*.*</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Catalog &quot;%1&quot; does not exist.
+
+Do you want to create it?</source>
+        <translation>Den Katalog „%1“ gibt es nicht.
+
+Soll er angelegt werden?</translation>
+    </message>
+    <message>
+        <source>Error opening file </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source> - Starting up...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error starting program: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RecordDataModel</name>
+    <message>
+        <source>[off]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RecordListModel</name>
+    <message>
+        <source>Name/ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RecordUndo</name>
+    <message>
+        <source>change of %1</source>
+        <translation>Änderung an %1</translation>
+    </message>
+</context>
+<context>
+    <name>Show</name>
+    <message>
+        <source>TXT Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UserInterface</name>
+    <message>
+        <source>File name</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmAbout</name>
+    <message>
+        <source>files, packed files and catalogs</source>
+        <translation>Dateien, gepackte Dateien und Kataloge</translation>
+    </message>
+    <message>
+        <source>merged view of the game&apos;s files</source>
+        <translation>gemeinsame Sicht auf die Dateien des Spiels</translation>
+    </message>
+    <message>
+        <source>texts of the game&apos;s files</source>
+        <translation>Texte in den Dateien des Spiels</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Qt %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>windows and platform services</source>
+        <translation>Fenster und Dienste des Systems</translation>
+    </message>
+    <message>
+        <source>Free software under the MIT licence.</source>
+        <translation>Freie Software unter der MIT-Lizenz.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmCATDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File &amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Directory</source>
+        <translation>Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Catalog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up one level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up out of the catalog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> - </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Catalog </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look &amp;in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as &amp;type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files of &amp;type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error opening file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be a name in a catalog.</source>
+        <translation>„%1“ kann kein Name in einem Katalog sein.</translation>
+    </message>
+</context>
+<context>
+    <name>frmEdit</name>
+    <message>
+        <source>Value Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Property name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Translated value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the value with its unit instead of as it is stored</source>
+        <translation>Zeigt den Wert mit seiner Einheit statt so, wie er gespeichert ist</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error loading property.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (offset %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> [%1]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This object ID is already used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value holds a character that this file cannot hold.</source>
+        <translation>Der Wert enthält ein Zeichen, das in dieser Datei nicht stehen kann.</translation>
+    </message>
+    <message>
+        <source>Value cannot contain semicolon (;)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value cannot contain slash (/)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmFind</name>
+    <message>
+        <source>&amp;Find Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Match &amp;whole words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find w&amp;hat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No more occurencies found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmMain</name>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show &amp;loaded files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reload files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kesh Editor was unable to find Kesh path in your registry. Do you want to set it now manually?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid command line parameters.
+
+Usage: [file type] &lt;file name&gt;
+File type:
+-TFile - TFiles
+-Map - galaxy map
+-xml - xml text file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Galaxy Editor is not available in this version.</source>
+        <translation>Der Galaxy Editor ist in dieser Version nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>The Text Resource Editor is not available in this version.</source>
+        <translation>Der Text Resource Editor ist in dieser Version nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t know how to open file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select directory containing game data files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error reloading files: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmSettings</name>
+    <message>
+        <source>Executable Files (*.exe)|*.exe|All Files (*.*)|*.*</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path to Kesh &amp;executable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the game&apos;s program</source>
+        <translation>Das Programm des Spiels wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Program to run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the program</source>
+        <translation>Das Programm wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Path to 3D viewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the viewer&apos;s program</source>
+        <translation>Das Programm des Betrachters wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Direcotory with data files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the game&apos;s directory</source>
+        <translation>Das Verzeichnis des Spiels wählen</translation>
+    </message>
+    <message>
+        <source>       &amp;Load object descriptions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Direct&amp;Draw (better performance)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use double &amp;buffer (no flickering)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Viewer supports LornFD paths (catalog.cat::file.txt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3D Viewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>* You can rename the icon by right clicking it and selecting Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use this language &amp;ID for descriptions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>* You can write the code  directly if your language is not listed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1 for file name, %2 for actual T file data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select directory containing game data files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading resource strings...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmTXTEditor</name>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List the records by the names of the text resources</source>
+        <translation>Listet die Datensätze mit den Namen aus den Textressourcen</translation>
+    </message>
+    <message>
+        <source>List the records by their race</source>
+        <translation>Listet die Datensätze mit ihrem Volk</translation>
+    </message>
+    <message>
+        <source>List the records by their ID</source>
+        <translation>Listet die Datensätze mit ihrer ID</translation>
+    </message>
+    <message>
+        <source>Sorted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sort by ID instead of the order in the file</source>
+        <translation>Sortiert nach der ID statt nach der Reihenfolge in der Datei</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Datensätze</translation>
+    </message>
+    <message>
+        <source>Raw data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ship info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields of the record</source>
+        <translation>Felder des Datensatzes</translation>
+    </message>
+    <message>
+        <source>Index of the first field to watch</source>
+        <translation>Index des ersten beobachteten Feldes</translation>
+    </message>
+    <message>
+        <source>Index of the last field to watch</source>
+        <translation>Index des letzten beobachteten Feldes</translation>
+    </message>
+    <message>
+        <source>Watch from offset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watched fields</source>
+        <translation>Beobachtete Felder</translation>
+    </message>
+    <message>
+        <source>Error in TXT Editor Init: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a T file</source>
+        <translation>Öffnet eine T-Datei</translation>
+    </message>
+    <message>
+        <source>Open from &amp;VFS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a T file of the merged game data</source>
+        <translation>Öffnet eine T-Datei aus den gesamten Spieldaten</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the file</source>
+        <translation>Speichert die Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export the objects as text</source>
+        <translation>Exportiert die Objekte als Text</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close this window</source>
+        <translation>Schließt dieses Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Take back the last change</source>
+        <translation>Nimmt die letzte Änderung zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Make the change again</source>
+        <translation>Macht die Änderung noch einmal</translation>
+    </message>
+    <message>
+        <source>Edit &amp;value...</source>
+        <translation>Wert &amp;bearbeiten...</translation>
+    </message>
+    <message>
+        <source>Change the selected field</source>
+        <translation>Ändert das gewählte Feld</translation>
+    </message>
+    <message>
+        <source>Run the &amp;game</source>
+        <translation>&amp;Spiel starten</translation>
+    </message>
+    <message>
+        <source>Run the game</source>
+        <translation>Startet das Spiel</translation>
+    </message>
+    <message>
+        <source>&amp;Text resources</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the Text Resource Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the help</source>
+        <translation>Zeigt die Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About this program</source>
+        <translation>Über dieses Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Recent files</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Main toolbar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This type of file cannot be exported.</source>
+        <translation>Dateien dieser Art lassen sich nicht exportieren.</translation>
+    </message>
+    <message>
+        <source>The Text Resource Editor is not available in this version.</source>
+        <translation>Der Text Resource Editor ist in dieser Version nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>TXT Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You have changed data in file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to save your changes?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading %1</source>
+        <translation>%1 wird geladen</translation>
+    </message>
+    <message>
+        <source>File </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error opening file: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error loading from file: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>%1 wird gespeichert</translation>
+    </message>
+    <message>
+        <source>Error writing data to file: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed by another program since it was opened here.
+
+Do you want to replace it, so that those changes are lost?</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert, seit die Datei hier geöffnet wurde.
+
+Soll sie ersetzt werden, sodass jene Änderungen verloren gehen?</translation>
+    </message>
+    <message>
+        <source>Do you want to save the file without it?</source>
+        <translation>Soll die Datei ohne das gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>Do you want to save the file anyway?</source>
+        <translation>Soll die Datei trotzdem gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>Catalog &quot;%1&quot; does not exist.
+
+Do you want to create it?</source>
+        <translation>Den Katalog „%1“ gibt es nicht.
+
+Soll er angelegt werden?</translation>
+    </message>
+    <message>
+        <source>Error in SelectFileType: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors in file data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[error getting class]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[error getting object type]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[error getting description]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[error getting race]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[error getting name]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name/ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorting the records</source>
+        <translation>Die Datensätze werden sortiert</translation>
+    </message>
+    <message>
+        <source>%1 objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error showing object: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected object index: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmText</name>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmWait</name>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading resources, please wait...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+</context>
+</TS>

@@ -23,5 +23,6 @@ std::vector<Row> listRows(const Options& options);
 std::vector<Row> shipRows(const Options& options);
 std::vector<Row> textRows(const Options& options);
 std::vector<Row> checkRows(const Options& options);
+std::vector<Row> windowRows(const Options& options);
 
 } // namespace bench

@@ -1,0 +1,187 @@
+// kesh_shots: takes a picture of each window over the sample game, in a light or dark theme. The
+// script ./shots runs it for each theme, scale and font.
+#include "app/Main.h"
+#include "app/frmMain.h"
+#include "app/frmSettings.h"
+#include "core/clsSettings.h"
+#include "files/frmCATDialog.h"
+#include "txteditor/frmEdit.h"
+#include "txteditor/frmTXTEditor.h"
+#include "ui/frmAbout.h"
+#include "ui/frmFind.h"
+#include "ui/frmText.h"
+#include "ui/frmWait.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+namespace {
+
+constexpr int settleTime = 150; // milliseconds until a window has laid itself out
+
+/// How one picture comes about: a window is opened, found by its class, made ready, and closed.
+struct Shot {
+    QString Name;
+    const char* Class;
+    std::function<void()> Open; ///< may return at once, or when the window is closed
+    std::function<void(QWidget&)> Prepare = [](QWidget&) {};
+};
+
+QWidget* visibleWindow(const char* className) {
+    for (QWidget* top : QApplication::topLevelWidgets())
+        if (top->isVisible() && std::strcmp(top->metaObject()->className(), className) == 0)
+            return top;
+    return nullptr;
+}
+
+void settle() {
+    QEventLoop loop;
+    QTimer::singleShot(settleTime, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// False if the window did not show, or the picture could not be written.
+bool take(const Shot& shot, const QString& file) {
+    bool done = false;
+    bool good = false;
+    QTimer::singleShot(settleTime, qApp, [&] {
+        if (QWidget* window = visibleWindow(shot.Class)) {
+            shot.Prepare(*window);
+            settle();
+            good = window->grab().save(file);
+            window->close();
+        }
+        done = true;
+    });
+    shot.Open();
+    while (!done)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return good;
+}
+
+void setDark() {
+    QPalette palette(QColor(45, 45, 48));
+    palette.setColor(QPalette::Base, QColor(30, 30, 30));
+    palette.setColor(QPalette::AlternateBase, QColor(38, 38, 40));
+    palette.setColor(QPalette::Highlight, QColor(38, 79, 120));
+    palette.setColor(QPalette::Link, QColor(100, 170, 255));
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(128, 128, 128));
+    QApplication::setPalette(palette);
+}
+
+frmTXTEditor* openEditor() {
+    auto* editor = new frmTXTEditor;
+    editor->setAttribute(Qt::WA_DeleteOnClose);
+    editor->MyShow();
+    editor->OpenFile("vfs://types\\TShips.pck");
+    return editor;
+}
+
+Shot editorShot(const QString& name, QSize size) {
+    return {name, "frmTXTEditor", [] { openEditor(); },
+            [size](QWidget& window) {
+                window.resize(size);
+                auto* records = window.findChild<QAbstractItemView*>(QStringLiteral("ObjectView"));
+                records->setCurrentIndex(records->model()->index(2, 0));
+            }};
+}
+
+void openValue() {
+    const std::unique_ptr<frmTXTEditor> editor(openEditor());
+    editor->setAttribute(Qt::WA_DeleteOnClose, false);
+    frmEdit(editor.get()).ShowProperty(nullptr, editor->Parser().FindIndex(0), 0);
+}
+
+std::vector<Shot> shots(const std::string& sample) {
+    std::vector<Shot> all;
+    for (const int tab : {0, 1, 2, 3})
+        all.push_back(
+            {QStringLiteral("settings%1").arg(tab), "frmSettings",
+             [] { frmSettings().ShowSettings(); },
+             [tab](QWidget& window) { window.findChild<QTabWidget*>()->setCurrentIndex(tab); }});
+    all.push_back({QStringLiteral("about"), "frmAbout", [] { frmAbout().exec(); }});
+    all.push_back(editorShot(QStringLiteral("txteditor"), {1000, 700}));
+    all.push_back(editorShot(QStringLiteral("txteditor-small"), {800, 600}));
+    all.push_back(editorShot(QStringLiteral("txteditor-large"), {2560, 1440}));
+    all.push_back({QStringLiteral("value"), "frmEdit", openValue});
+    all.push_back({QStringLiteral("find"), "frmFind", [] {
+                       frmFind find;
+                       find.ShowFindResEditor(QStringLiteral("Falcon"), true, nullptr);
+                       settle();
+                       settle();
+                   }});
+    all.push_back({QStringLiteral("catalog"), "frmCATDialog", [sample] {
+                       frmCATDialog dialog;
+                       dialog.Filter = QStringLiteral("All files (*.*)|*.*");
+                       dialog.InitDir = "types";
+                       dialog.ShowOpen(sample + "\\01.cat", nullptr);
+                   }});
+    all.push_back({QStringLiteral("report"), "frmText", [] {
+                       frmText text;
+                       text.setWindowTitle(QStringLiteral("Errors in file data"));
+                       text.SetText(QStringLiteral(
+                           "Ship 3: \"TurretCount\" is 4, but there are 3 turrets.\n"));
+                       text.MyShow();
+                   }});
+    all.push_back({QStringLiteral("wait"), "frmWait",
+                   [] { ShowWait(QStringLiteral("Loading resource strings...")); }});
+    return all;
+}
+
+/// Settings of its own that lead to the sample; the path in the program's form.
+std::string useSample(const QTemporaryDir& place, const QString& sample) {
+    qputenv("KESH_CONFIG_DIR", place.filePath(QStringLiteral("config")).toUtf8());
+    qputenv("KESH_STATE_DIR", place.filePath(QStringLiteral("state")).toUtf8());
+    QDir(place.path()).mkdir(QStringLiteral("config"));
+    const std::string root = QDir(sample).absolutePath().replace(u'/', u'\\').toStdString();
+    clsSettings().SetDataRoot(root);
+    return root;
+}
+
+int takeAll(const QDir& target, const std::string& sample, const QString& suffix) {
+    Program program;
+    if (!StartUp(StartUpPhases(program, {})))
+        return EXIT_FAILURE;
+    settle();
+    int result = program.Launcher->grab().save(target.filePath(QStringLiteral("launcher") + suffix))
+                     ? EXIT_SUCCESS
+                     : EXIT_FAILURE;
+    for (const Shot& shot : shots(sample))
+        if (!take(shot, target.filePath(shot.Name + suffix))) {
+            std::cerr << "No picture of \"" << shot.Name.toStdString() << "\".\n";
+            result = EXIT_FAILURE;
+        }
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    CLI::App app("Takes a picture of each window.");
+    std::string target;
+    std::string sample;
+    std::string suffix;
+    bool dark = false;
+    double font = 1;
+    app.add_option("DIR", target, "Where the pictures go")->required();
+    app.add_option("SAMPLE", sample, "Sample game")->required();
+    app.add_option("--suffix", suffix, "Behind the name of each picture");
+    app.add_option("--font", font, "How many times as large the font is");
+    app.add_flag("--dark", dark, "Dark theme");
+    CLI11_PARSE(app, argc, argv);
+
+    if (dark)
+        setDark();
+    QFont larger = QApplication::font();
+    larger.setPointSizeF(larger.pointSizeF() * font);
+    QApplication::setFont(larger);
+    const QTemporaryDir place;
+    const std::string root = useSample(place, QString::fromStdString(sample));
+    return takeAll(QDir(QString::fromStdString(target)), root,
+                   QString::fromStdString(suffix + ".png"));
+}

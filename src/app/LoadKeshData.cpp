@@ -71,3 +71,15 @@ void LoadKeshData(QWidget* Owner) {
     RunPhases(phases, "LoadKeshData");
     CloseWait(Owner);
 }
+
+bool ReloadKeshData(QWidget* Owner) {
+    try {
+        LoadKeshData(Owner);
+        return true;
+    } catch (const std::exception& failure) {
+        CloseWait(Owner);
+        ShowBox(Owner, title(), tr("Error reloading files: ") + ToScreen(failure.what()),
+                BoxIcon::Critical);
+        return false;
+    }
+}

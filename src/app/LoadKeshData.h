@@ -7,3 +7,5 @@ class QWidget;
 /// else is missing is said in a box. Unexpected failures leave as KeshError, with the wait window
 /// still shown.
 void LoadKeshData(QWidget* Owner = nullptr);
+/// The same on demand: an unexpected failure is said in a box, and gives false.
+bool ReloadKeshData(QWidget* Owner);

@@ -1,7 +1,10 @@
 #include "app/frmMain.h"
 
+#include "app/IconView.h"
 #include "app/LoadKeshData.h"
 #include "app/Requests.h"
+#include "app/frmFiles.h"
+#include "app/frmSettings.h"
 #include "core/clsSettings.h"
 #include "core/mdlCommon.h"
 #include "files/mdlPaths.h"
@@ -10,14 +13,14 @@
 #include "ui/CommonBoxes.h"
 #include "ui/WindowPos.h"
 #include "ui/frmAbout.h"
-#include "ui/frmWait.h"
 
 namespace {
 
 constexpr auto settingsKey = "main";
 constexpr int defaultWidth = 375;
 constexpr int defaultHeight = 143;
-constexpr int iconSide = 48;
+constexpr int firstColumns = 4; ///< that show at first, however large the font
+constexpr int firstRows = 2;
 
 QString programTitle() {
     return QString::fromStdString(ProgramTitle());
@@ -43,27 +46,23 @@ frmMain::frmMain() {
     setObjectName(QStringLiteral("frmMain"));
     BuildView();
     BuildMenus();
+    BuildPopup();
     HelpOnF1(this, "launcher.html");
-    LoadWindowPos(*this, settingsKey, defaultWidth, defaultHeight);
+    const QSize cell = m_view->sizeHintForIndex(m_items.index(0, 0));
+    LoadWindowPos(*this, settingsKey,
+                  std::max(defaultWidth, (2 * firstColumns + 1) * cell.width() / 2),
+                  std::max(defaultHeight, menuBar()->sizeHint().height() +
+                                              (4 * firstRows + 1) * cell.height() / 4));
     m_items.LoadIcons();
 }
 
 void frmMain::BuildView() {
-    m_view = new QListView(this);
+    m_view = new IconView(this);
     m_view->setObjectName(QStringLiteral("View"));
     m_view->setAccessibleName(tr("Tools"));
-    m_view->setViewMode(QListView::IconMode);
-    m_view->setMovement(QListView::Static);
-    m_view->setResizeMode(QListView::Adjust);
-    m_view->setIconSize({iconSide, iconSide});
-    m_view->setGridSize(
-        {14 * fontMetrics().averageCharWidth(), iconSide + 3 * fontMetrics().height()});
-    m_view->setWordWrap(true);
-    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed);
     m_view->setModel(&m_items);
     m_view->setCurrentIndex(m_items.index(0, 0));
-    m_view->installEventFilter(this);
-    connect(m_view, &QListView::doubleClicked, this, &frmMain::ActivateIcon);
+    connect(m_view, &IconView::Activated, this, &frmMain::ActivateIcon);
     setCentralWidget(m_view);
 }
 
@@ -73,7 +72,8 @@ void frmMain::BuildMenus() {
         {"mnuSettings", QT_TR_NOOP("&Settings"), "mnuConfig", QT_TR_NOOP("&Configuration"), "",
          &frmMain::ShowConfiguration},
         {"mnuSettings", "", "mnuSep", "", "", nullptr},
-        {"mnuSettings", "", "mnuShowVFS", QT_TR_NOOP("Show &loaded files"), "", nullptr},
+        {"mnuSettings", "", "mnuShowVFS", QT_TR_NOOP("Show &loaded files"), "Ctrl+L",
+         &frmMain::ShowVFS},
         {"mnuSettings", "", "mnuReload", QT_TR_NOOP("&Reload files"), "F5", &frmMain::Reload},
         {"mnuHelp", QT_TR_NOOP("&Help"), "mnuHelpContent", QT_TR_NOOP("&Content"), "",
          &frmMain::Help},
@@ -95,6 +95,45 @@ void frmMain::BuildMenus() {
     }
 }
 
+void frmMain::BuildPopup() {
+    m_popup = new QMenu(this);
+    m_popup->setObjectName(QStringLiteral("mnuPopup"));
+    QMenu* icons = m_popup->addMenu(tr("&Icons"));
+    icons->menuAction()->setObjectName(QStringLiteral("mnuPopIcons"));
+    QAction* arrange = icons->addAction(tr("&Auto Arrange"));
+    arrange->setObjectName(QStringLiteral("mnuPopAutoArrange"));
+    arrange->setCheckable(true);
+    arrange->setChecked(Settings->AutoArrangeIcons());
+    connect(arrange, &QAction::triggered, this, &frmMain::SetAutoArrange);
+    QAction* rename = m_popup->addAction(tr("&Rename"));
+    rename->setObjectName(QStringLiteral("mnuPopRename"));
+    rename->setShortcut(QKeySequence(Qt::Key_F2)); // shown; the list itself knows the key
+    connect(rename, &QAction::triggered, this, [this] { m_view->edit(m_view->Selected()); });
+    connect(m_popup, &QMenu::aboutToShow, this, [this, arrange, rename] {
+        arrange->setChecked(Settings->AutoArrangeIcons());
+        rename->setEnabled(m_view->Selected().isValid());
+    });
+}
+
+void frmMain::SetAutoArrange(bool On) {
+    Settings->SetAutoArrangeIcons(On);
+    m_view->SetAutoArrange(On);
+}
+
+void frmMain::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QPoint icon = m_view->visualRect(m_view->Selected()).center();
+    m_popup->popup(byKey ? m_view->viewport()->mapToGlobal(icon) : event->globalPos());
+}
+
+bool frmMain::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && !m_view->Cell().isValid()) {
+        m_view->MeasureCell();
+        m_view->SetAutoArrange(Settings->AutoArrangeIcons());
+    }
+    return QMainWindow::event(event);
+}
+
 void frmMain::MyShow(const std::string& CommandLine) {
     setWindowTitle(programTitle() +
                    QStringLiteral(" (%1)").arg(QString::fromStdString(ProgramVersion())));
@@ -110,30 +149,22 @@ void frmMain::MyShow(const std::string& CommandLine) {
     show();
 }
 
-bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_view && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        const QModelIndex item = m_view->currentIndex();
-        const bool renaming = m_view->isPersistentEditorOpen(item); // passes its Enter on
-        if (!renaming && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
-            ActivateIcon(item);
-            return true;
-        }
-    }
-    return QMainWindow::eventFilter(watched, event);
-}
-
 void frmMain::ActivateIcon(const QModelIndex& Index) {
     static constexpr std::array actions = {
         IconAction{"te", &frmMain::OpenEmptyTFile},
+        IconAction{"lorn", &frmMain::StartGame},
         IconAction{"settings", &frmMain::ShowConfiguration},
         IconAction{"help", &frmMain::Help},
         IconAction{"about", &frmMain::About},
     };
     const QString key = LauncherItems::KeyOf(Index);
-    for (const IconAction& action : actions)
-        if (key == QLatin1String(action.Key))
-            (this->*action.Run)();
+    const auto* const action = std::find_if(actions.begin(), actions.end(), [&](const auto& one) {
+        return key == QLatin1String(one.Key);
+    });
+    if (action != actions.end())
+        (this->*action->Run)();
+    else
+        StartProgram(this, LauncherItems::ProgramOf(key));
 }
 
 bool frmMain::ProcessRequest(const std::string& Request) {
@@ -200,24 +231,40 @@ void frmMain::OpenTFile(const std::string& File) {
         editor->OpenFile(FromPlatform(File));
 }
 
+void frmMain::StartGame() {
+    RunGame(this);
+}
+
 void frmMain::ShowConfiguration() {
-    const auto directory =
-        Ui().PickDirectory(this, tr("Select directory containing game data files."),
-                           QString::fromStdString(ShownPath(Settings->DataRoot())));
-    if (!directory)
+    frmSettings window(this);
+    window.ShowSettings();
+    if (window.ModalResult == 0)
         return;
-    Settings->SetDataRoot(FromPlatform(directory->toStdString()));
-    Reload();
+    for (const char* key : {"lorn", "custom", "3Dviwer"})
+        m_view->PlaceIcon(m_items.Update(QString::fromLatin1(key)));
+    RefreshFiles();
+}
+
+void frmMain::ShowVFS() {
+    if (!m_files) {
+        m_files = new frmFiles(this);
+        m_files->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_files, &frmFiles::OpenRequested, this,
+                [this](const QString& name) { OpenByType("vfs://" + name.toStdString(), {}); });
+        m_files->ShowFiles();
+    }
+    m_files->raise();
+    m_files->activateWindow();
 }
 
 void frmMain::Reload() {
-    try {
-        LoadKeshData(this);
-    } catch (const std::exception& failure) {
-        CloseWait(this);
-        ShowBox(this, programTitle(), tr("Error reloading files: ") + ToScreen(failure.what()),
-                BoxIcon::Critical);
-    }
+    ReloadKeshData(this);
+    RefreshFiles();
+}
+
+void frmMain::RefreshFiles() {
+    if (m_files)
+        m_files->Refresh();
 }
 
 void frmMain::Help() {
@@ -251,5 +298,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     if (IsNormal(*this))
         SaveWindowPos(*this, settingsKey);
     m_items.SaveIcons();
+    if (m_files)
+        m_files->close();
     event->accept();
 }

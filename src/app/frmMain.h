@@ -5,6 +5,8 @@
 
 #include <string>
 
+class IconView;
+class frmFiles;
 class frmTXTEditor;
 
 class frmMain : public QMainWindow {
@@ -21,7 +23,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     struct IconAction;
@@ -29,20 +32,27 @@ private:
 
     void BuildView();
     void BuildMenus();
+    void BuildPopup();
+    void SetAutoArrange(bool On);
     void ActivateIcon(const QModelIndex& Index);
 
     void ProcessCommandLine(const std::string& CommandLine);
     void OpenByType(const std::string& File, const std::string& Type);
     void OpenTFile(const std::string& File);
     void OpenEmptyTFile() { OpenTFile({}); }
+    void StartGame();
     void ShowConfiguration();
+    void ShowVFS();
     void Reload();
+    void RefreshFiles();
     void Help();
     void About();
     void Exit() { close(); }
     [[nodiscard]] bool CloseEditors();
 
     LauncherItems m_items;
-    QListView* m_view = nullptr;
+    IconView* m_view = nullptr;
+    QMenu* m_popup = nullptr;
+    QPointer<frmFiles> m_files;
     QList<QPointer<frmTXTEditor>> m_editors;
 };

@@ -1,8 +1,11 @@
 #include "files/mdlPaths.h"
 
+#include "core/mdlComFunctions.h"
 #include "core/mdlCommon.h"
 #include "keshvfs/keshvfs.h"
 #include "lornfd/paths.h"
+
+#include <algorithm>
 
 std::string FromPlatform(std::string_view Path) {
     return WithBackslashes(Path);
@@ -23,6 +26,25 @@ std::optional<std::string> FindInVFS(std::string_view NameInView) {
 
 std::optional<std::string> RealPath(std::string_view Path) {
     return IsVFSPath(Path) ? FindInVFS(Path) : std::optional<std::string>(Path);
+}
+
+std::string BuildCatalogPath(std::string_view Entry, std::string_view Catalog) {
+    return std::string(Catalog).append(IsVFSPath(Catalog) ? "" : "::").append(Entry);
+}
+
+std::string EntryFromTyped(std::string_view Directory, std::string_view Typed) {
+    std::string rest = WithBackslashes(Typed);
+    std::string entry(rest.starts_with('\\') ? std::string_view() : Directory);
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find('\\'), rest.size());
+        const std::string part = rest.substr(0, end);
+        rest.erase(0, end + 1);
+        if (part == "..")
+            entry = ParentDir(entry);
+        else if (part != ".")
+            AppendLine(entry, part, "\\");
+    }
+    return entry;
 }
 
 namespace {

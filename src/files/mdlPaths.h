@@ -17,6 +17,12 @@
 /// Plain and catalog paths as they are, "vfs://" paths found in the view; none if nowhere.
 [[nodiscard]] std::optional<std::string> RealPath(std::string_view Path);
 
+/// "Catalog::Entry"; in the merged view, the catalog "vfs://", "vfs://Entry".
+[[nodiscard]] std::string BuildCatalogPath(std::string_view Entry, std::string_view Catalog);
+/// What a typed name means in a directory of a catalog: "\" and "/" separate and lead at the start
+/// to the top, "." and ".." are followed, the latter at most up to the top. Empty for the top.
+[[nodiscard]] std::string EntryFromTyped(std::string_view Directory, std::string_view Typed);
+
 /// Walks the entries that a mask matches in the view, with whole names; closes its handle.
 class VfsSearch {
 public:

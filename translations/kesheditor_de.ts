@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>FilesModel</name>
+    <message>
+        <source>VFS name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Real name</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>LauncherItems</name>
     <message>
         <source>TXT Editor</source>
@@ -147,24 +158,32 @@ Soll er angelegt werden?</translation>
         <translation>Version %1</translation>
     </message>
     <message>
-        <source>%1 %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Qt %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>windows and platform services</source>
         <translation>Fenster und Dienste des Systems</translation>
     </message>
     <message>
-        <source>Free software under the MIT licence.</source>
-        <translation>Freie Software unter der MIT-Lizenz.</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>older packed files</source>
+        <translation>ältere gepackte Dateien</translation>
+    </message>
+    <message>
+        <source>newer packed files</source>
+        <translation>neuere gepackte Dateien</translation>
+    </message>
+    <message>
+        <source>Made by the Kesh Editor authors. Pictures: our own.</source>
+        <translation>Von den Autoren des Kesh Editors. Bilder: eigene.</translation>
+    </message>
+    <message>
+        <source>Free software under the MIT licence:</source>
+        <translation>Freie Software unter der MIT-Lizenz:</translation>
+    </message>
+    <message>
+        <source>Libraries and licences</source>
+        <translation>Bibliotheken und Lizenzen</translation>
     </message>
 </context>
 <context>
@@ -318,6 +337,53 @@ Soll er angelegt werden?</translation>
     </message>
 </context>
 <context>
+    <name>frmFiles</name>
+    <message>
+        <source>Loaded Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of a name with * and ?, level by level: types\TShips*. Enter lists the files.</source>
+        <translation>Teile eines Namens mit * und ?, Ebene für Ebene: types\TShips*. Enter listet die Dateien.</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;Active mod file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Listing... Files: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>frmFind</name>
     <message>
         <source>&amp;Find Next</source>
@@ -429,11 +495,15 @@ File type:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Select directory containing game data files.</source>
+        <source>&amp;Icons</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Error reloading files: </source>
+        <source>&amp;Auto Arrange</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -885,6 +955,191 @@ Soll er angelegt werden?</translation>
     <message>
         <source>Selected object index: %1</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter by name or ID</source>
+        <translation>Nach Name oder ID filtern</translation>
+    </message>
+    <message>
+        <source>List only the records whose name or ID contains this text</source>
+        <translation>Listet nur die Datensätze, deren Name oder ID diesen Text enthält</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a new object</source>
+        <translation>Fügt ein neues Objekt hinzu</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the selected objects</source>
+        <translation>Kopiert die gewählten Objekte</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the selected objects, and delete them where they are pasted</source>
+        <translation>Kopiert die gewählten Objekte und löscht sie, sobald sie eingefügt werden</translation>
+    </message>
+    <message>
+        <source>&amp;Paste...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the objects that were copied or cut</source>
+        <translation>Fügt die kopierten oder ausgeschnittenen Objekte ein</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete the selected objects</source>
+        <translation>Löscht die gewählten Objekte</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find a text in the list</source>
+        <translation>Sucht einen Text in der Liste</translation>
+    </message>
+    <message>
+        <source>Find &amp;next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find the same text again</source>
+        <translation>Sucht denselben Text noch einmal</translation>
+    </message>
+    <message>
+        <source>Filter the &amp;list</source>
+        <translation>&amp;Liste filtern</translation>
+    </message>
+    <message>
+        <source>Go to the filter of the list</source>
+        <translation>Geht zum Filter der Liste</translation>
+    </message>
+    <message>
+        <source>Copy val&amp;ues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the selected fields as text</source>
+        <translation>Kopiert die gewählten Felder als Text</translation>
+    </message>
+    <message>
+        <source>Pasting records: %1 of %2</source>
+        <translation>Datensätze werden eingefügt: %1 von %2</translation>
+    </message>
+    <message>
+        <source>new object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paste of %1</source>
+        <translation>Einfügen von %1</translation>
+    </message>
+    <message>
+        <source>The text on the clipboard holds no objects of this file&apos;s type.</source>
+        <translation>Der Text in der Zwischenablage enthält keine Objekte vom Typ dieser Datei.</translation>
+    </message>
+    <message>
+        <source>This type of file is not recognized. You cannot add objects to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot insert: object types are different.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to insert new object before currenty selected object?
+Press Yes to insert object before the current one.
+Press No to add object at the end.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You cannot insert object into sorted list.
+Uncheck the Sort checkbox and insert the object again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pasting records</source>
+        <translation>Datensätze werden eingefügt</translation>
+    </message>
+    <message>
+        <source>Error creating object: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot delete object from source window - maybe it was closed?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the selected object </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the %1 selected objects ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error removing object from control.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>deletion of %1</source>
+        <translation>Löschen von %1</translation>
+    </message>
+    <message>
+        <source>Error removing object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No more occurencies found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File %1 is not as it was when it was changed. The changes cannot be brought back into it.</source>
+        <translation>Die Datei %1 ist nicht mehr so wie zur Zeit der Änderungen. Sie lassen sich nicht mehr in sie zurückholen.</translation>
+    </message>
+    <message>
+        <source>recovered changes</source>
+        <translation>wiederhergestellte Änderungen</translation>
+    </message>
+    <message>
+        <source>Not all changes of file %1 could be brought back.</source>
+        <translation>Nicht alle Änderungen an der Datei %1 ließen sich zurückholen.</translation>
+    </message>
+    <message>
+        <source>File %1 was changed by another program.
+Do you want to load it again?</source>
+        <translation>Die Datei %1 wurde von einem anderen Programm geändert.
+Soll sie neu geladen werden?</translation>
+    </message>
+    <message>
+        <source>Your changes are lost then.</source>
+        <translation>Ihre Änderungen gehen dann verloren.</translation>
     </message>
 </context>
 <context>

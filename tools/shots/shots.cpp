@@ -1,6 +1,7 @@
 // kesh_shots: takes a picture of each window over the sample game, in a light or dark theme. The
 // script ./shots runs it for each theme, scale and font.
 #include "app/Main.h"
+#include "app/frmFiles.h"
 #include "app/frmMain.h"
 #include "app/frmSettings.h"
 #include "core/clsSettings.h"
@@ -101,6 +102,7 @@ std::vector<Shot> shots(const std::string& sample) {
             {QStringLiteral("settings%1").arg(tab), "frmSettings",
              [] { frmSettings().ShowSettings(); },
              [tab](QWidget& window) { window.findChild<QTabWidget*>()->setCurrentIndex(tab); }});
+    all.push_back({QStringLiteral("files"), "frmFiles", [] { frmFiles().ShowFiles(true); }});
     all.push_back({QStringLiteral("about"), "frmAbout", [] { frmAbout().exec(); }});
     all.push_back(editorShot(QStringLiteral("txteditor"), {1000, 700}));
     all.push_back(editorShot(QStringLiteral("txteditor-small"), {800, 600}));

@@ -1,0 +1,115 @@
+// Every window by keyboard and screen reader: each control has a name and is reached by Tab.
+#include "app/frmFiles.h"
+#include "app/frmSettings.h"
+#include "apptest.h"
+#include "txteditor/frmEdit.h"
+#include "ui/frmAbout.h"
+#include "ui/frmFind.h"
+#include "ui/frmText.h"
+#include "ui/frmWait.h"
+
+namespace {
+
+using Maker = std::unique_ptr<QWidget> (*)();
+
+template <class Window>
+std::unique_ptr<QWidget> make() {
+    return std::make_unique<Window>();
+}
+
+const std::map<const char*, Maker> makers = {
+    {"launcher", make<frmMain>}, {"editor", make<frmTXTEditor>}, {"settings", make<frmSettings>},
+    {"value", make<frmEdit>},    {"find", make<frmFind>},        {"report", make<frmText>},
+    {"files", make<frmFiles>},   {"about", make<frmAbout>},      {"wait", make<frmWait>}};
+
+/// What a screen reader has to say of a control.
+QString spoken(const QWidget& control) {
+    if (!control.accessibleName().isEmpty())
+        return control.accessibleName();
+    for (const QLabel* label : control.window()->findChildren<QLabel*>())
+        if (label->buddy() == &control)
+            return label->text();
+    const auto* interface = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control));
+    return interface ? interface->text(QAccessible::Name) : QString();
+}
+
+/// Made by the toolkit inside another control, which speaks for it.
+bool isPart(const QWidget& control) {
+    return control.objectName().startsWith(QStringLiteral("qt_")) ||
+           qobject_cast<QComboBox*>(control.parentWidget()) ||
+           qobject_cast<QAbstractItemView*>(control.parentWidget()) ||
+           qobject_cast<const QTabBar*>(&control) || qobject_cast<const QTabWidget*>(&control) ||
+           qobject_cast<const QHeaderView*>(&control);
+}
+
+class Accessible : public AppTest {
+protected:
+    static QList<QWidget*> Controls(const QWidget& window) {
+        QList<QWidget*> controls;
+        for (QWidget* control : window.findChildren<QWidget*>())
+            if (control->window() == &window && control->focusPolicy() != Qt::NoFocus &&
+                !isPart(*control))
+                controls.append(control);
+        return controls;
+    }
+};
+
+TEST_F(Accessible, EveryControlHasAName) {
+    for (const auto& [name, maker] : makers) {
+        const std::unique_ptr<QWidget> window = maker();
+        for (const QWidget* control : Controls(*window))
+            EXPECT_FALSE(spoken(*control).isEmpty())
+                << name << ": " << control->metaObject()->className() << ' '
+                << control->objectName().toStdString();
+        for (const QToolBar* bar : window->findChildren<QToolBar*>())
+            for (const QAction* action : bar->actions())
+                EXPECT_TRUE(action->isSeparator() || !action->toolTip().isEmpty())
+                    << name << ": " << action->objectName().toStdString();
+    }
+}
+
+/// True if Tab should stop there, as the window stands: of a group of radio buttons, at one.
+bool isStop(const QWidget& control) {
+    const auto* radio = qobject_cast<const QRadioButton*>(&control);
+    return control.isVisible() && control.isEnabled() && (control.focusPolicy() & Qt::TabFocus) &&
+           (!radio || radio->isChecked());
+}
+
+TEST_F(Accessible, TabReachesEveryControl) {
+    for (const auto& [name, maker] : makers) {
+        const std::unique_ptr<QWidget> window = maker();
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get())) << name;
+        const QList<QWidget*> controls = Controls(*window);
+        QSet<const QWidget*> reached;
+        for (qsizetype i = 0; i < 2 * controls.size(); ++i) {
+            reached.insert(QApplication::focusWidget());
+            QTest::keyClick(window->focusWidget() ? window->focusWidget() : window.get(),
+                            Qt::Key_Tab);
+        }
+        for (const QWidget* control : controls)
+            EXPECT_TRUE(!isStop(*control) || reached.contains(control))
+                << name << ": " << control->metaObject()->className() << ' '
+                << control->objectName().toStdString();
+    }
+}
+
+TEST_F(Accessible, MnemonicsDoNotCollide) {
+    const QRegularExpression mnemonic(QStringLiteral("(?:^|[^&])&([^&\\s])"));
+    for (const auto& [name, maker] : makers) {
+        const std::unique_ptr<QWidget> window = maker();
+        for (const QMenu* menu : window->findChildren<QMenu*>()) {
+            QMap<QString, QString> taken;
+            for (const QAction* action : menu->actions()) {
+                const QString letter = mnemonic.match(action->text()).captured(1).toLower();
+                EXPECT_FALSE(!letter.isEmpty() && taken.contains(letter))
+                    << name << ": " << action->text().toStdString() << " and "
+                    << taken.value(letter).toStdString();
+                taken.insert(letter, action->text());
+            }
+        }
+    }
+}
+
+} // namespace

@@ -79,13 +79,6 @@ public:
     std::optional<QString> PickDirectory(QWidget*, const QString&, const QString&) override {
         return {};
     }
-    std::optional<QString> PickItem(QWidget*, const QString&, const QStringList&) override {
-        return {};
-    }
-    std::optional<QString> AskText(QWidget*, const QString&, const QString&,
-                                   const QString&) override {
-        return {};
-    }
     bool RunProgram(const QString&, const QStringList&) override { return false; }
     bool OpenUrl(const QUrl&) override { return false; }
 };

@@ -87,34 +87,6 @@ public:
         return dialog.selectedFiles().value(0);
     }
 
-    std::optional<QString> PickItem(QWidget* Owner, const QString& Title,
-                                    const QStringList& Items) override {
-        QInputDialog dialog(Owner);
-        dialog.setObjectName(QStringLiteral("ItemDialog"));
-        dialog.setWindowTitle(Title);
-        dialog.setLabelText(QCoreApplication::translate("UserInterface", "File name"));
-        dialog.setOption(QInputDialog::UseListViewForComboBoxItems);
-        dialog.setComboBoxItems(Items);
-        dialog.setTextValue(Items.value(0));
-        if (const auto* list = dialog.findChild<QListView*>())
-            QObject::connect(list, &QListView::doubleClicked, &dialog, &QDialog::accept);
-        if (dialog.exec() != QDialog::Accepted)
-            return {};
-        return dialog.textValue();
-    }
-
-    std::optional<QString> AskText(QWidget* Owner, const QString& Title, const QString& Label,
-                                   const QString& Text) override {
-        QInputDialog dialog(Owner);
-        dialog.setObjectName(QStringLiteral("TextDialog"));
-        dialog.setWindowTitle(Title);
-        dialog.setLabelText(Label);
-        dialog.setTextValue(Text);
-        if (dialog.exec() != QDialog::Accepted)
-            return {};
-        return dialog.textValue();
-    }
-
     bool RunProgram(const QString& Path, const QStringList& Arguments) override {
         return QProcess::startDetached(Path, Arguments, QFileInfo(Path).absolutePath());
     }

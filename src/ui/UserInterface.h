@@ -45,10 +45,6 @@ public:
     virtual std::optional<FileChoice> ShowSave(QWidget* Owner, const FileRequest& Request) = 0;
     virtual std::optional<QString> PickDirectory(QWidget* Owner, const QString& Title,
                                                  const QString& Start) = 0;
-    virtual std::optional<QString> PickItem(QWidget* Owner, const QString& Title,
-                                            const QStringList& Items) = 0;
-    virtual std::optional<QString> AskText(QWidget* Owner, const QString& Title,
-                                           const QString& Label, const QString& Text) = 0;
     /// Starts a program in its own directory and lets it go; false if it did not start.
     [[nodiscard]] virtual bool RunProgram(const QString& Path, const QStringList& Arguments) = 0;
     /// Hands an address to the user's browser.

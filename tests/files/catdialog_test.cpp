@@ -158,6 +158,7 @@ TEST_F(CatalogWindow, IsWalkedByMouseAndKeys) {
         click(0, true);
         EXPECT_EQ(levels(), QStringLiteral("mod.cat|    types|        old"));
         QTest::keyClick(&window, Qt::Key_Up, Qt::AltModifier);
+        EXPECT_EQ(levels(), QStringLiteral("mod.cat|    types"));
         choose("cmbDir", 0);
         EXPECT_EQ(levels(), QStringLiteral("mod.cat"));
 

@@ -54,6 +54,7 @@ private:
         } else {
             const Use use = std::move(m_uses.front());
             m_uses.pop_front();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&window)) << "for its shortcuts";
             use(window);
         }
         window.close();

@@ -41,16 +41,17 @@ public:
     void Save(std::optional<FileChoice> choice) {
         m_steps.push_back({"save", {}, {}, choice, {}, {}});
     }
-    /// A directory, an item of a list or a text.
+    /// A "directory".
     void Text(const char* kind, std::optional<QString> text) {
         m_steps.push_back({kind, {}, {}, {}, text, {}});
     }
 
     std::vector<MessageRequest> Boxes; ///< what was said
     std::vector<FileRequest> Files;    ///< what was chosen from
-    QStringList Items;                 ///< of the last list
-    QString Offered;                   ///< text or directory last offered
+    QString Offered;                   ///< directory last offered
     QStringList Started;               ///< programs and addresses
+    QStringList Arguments;             ///< of the last program
+    bool Starts = true;                ///< whether programs do
 
     [[nodiscard]] QString LastText() const { return Boxes.empty() ? QString() : Boxes.back().Text; }
 
@@ -99,19 +100,10 @@ private:
             m_script.Offered = Start;
             return m_script.Next("directory", Title).Words;
         }
-        std::optional<QString> PickItem(QWidget*, const QString& Title,
-                                        const QStringList& Items) override {
-            m_script.Items = Items;
-            return m_script.Next("item", Title).Words;
-        }
-        std::optional<QString> AskText(QWidget*, const QString& Title, const QString&,
-                                       const QString& Text) override {
-            m_script.Offered = Text;
-            return m_script.Next("text", Title).Words;
-        }
-        bool RunProgram(const QString& Path, const QStringList&) override {
+        bool RunProgram(const QString& Path, const QStringList& Arguments) override {
             m_script.Started.append(Path);
-            return true;
+            m_script.Arguments = Arguments;
+            return m_script.Starts;
         }
         bool OpenUrl(const QUrl& Url) override {
             m_script.Started.append(Url.toString());

@@ -1,11 +1,15 @@
 // Opening files, the list of records, and what is shown of one.
+#include "support/cataloguser.h"
 #include "txteditor/editortest.h"
 
 #include <QMimeData>
 
 namespace {
 
-class Opening : public EditorTest {};
+class Opening : public EditorTest {
+protected:
+    support::CatalogUser user;
+};
 
 TEST_F(Opening, ShowsTheRecordsAndTheSelectedOne) {
     startWithWares();
@@ -69,15 +73,21 @@ TEST_F(Opening, AsksForAFileAndTakesOneFromACatalogOrTheView) {
     script.Box(QStringLiteral("does not exist"), Answer::Yes);
     trigger("save");
     script.Open(FileChoice{native("data/01.cat"), 2});
-    script.Text("item", QStringLiteral("types\\TWareT.pck"));
+    user.ThenType({QStringLiteral("types"), QStringLiteral("TWareT.pck")});
     trigger("open");
-    EXPECT_EQ(script.Items, QStringList(QStringLiteral("types\\TWareT.pck")));
     EXPECT_EQ(caption(), caption("data/01.cat::types\\TWareT.pck"));
 
     KeshVFS_CreateVFS(program("data"));
-    script.Text("item", QStringLiteral("types\\TWareT.pck"));
+    user.ThenType({QStringLiteral("types"), QStringLiteral("TWareT")});
     trigger("vfs://");
     EXPECT_EQ(caption(), QStringLiteral("TXT Editor - [vfs://types\\TWareT.pck (unknown)]"));
+    user.Then([](frmCATDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Select file - Catalog vfs://"));
+        EXPECT_EQ(dialog.findChild<QComboBox*>(QStringLiteral("cmbDir"))->currentText(),
+                  QStringLiteral("    types"))
+            << "the last directory";
+    });
+    trigger("vfs://");
 }
 
 struct FailureCase {

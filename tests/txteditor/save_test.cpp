@@ -1,4 +1,5 @@
 // Saving in each form, and what a failure leaves behind.
+#include "support/cataloguser.h"
 #include "txteditor/editortest.h"
 
 #include <cerrno>
@@ -7,8 +8,18 @@ namespace {
 
 class Saving : public EditorTest {
 protected:
+    /// Answers the save dialog; for a file of a catalog that is the catalog's window.
+    void choose(const char* name, int filter) {
+        if (!caption().contains(QStringLiteral("::")))
+            return script.Save(FileChoice{native(name), filter});
+        user.Then([name, filter](frmCATDialog& dialog) {
+            dialog.findChild<QComboBox*>(QStringLiteral("cmbFilter"))->setCurrentIndex(filter - 1);
+            support::CatalogUser::Type(
+                dialog, u'\\' + QString::fromLatin1(name).section(QStringLiteral("::"), 1));
+        });
+    }
     void saveTo(const char* name, int filter, std::optional<Answer> overwrite) {
-        script.Save(FileChoice{native(name), filter});
+        choose(name, filter);
         if (overwrite)
             script.Box(QStringLiteral("\"%1\" already exists.\n\nDo you want to overwrite it?")
                            .arg(native(name)),
@@ -35,6 +46,7 @@ protected:
                            .replace("0;100;0;0.50;007;5;1e3;7;8;9;10;11;12;13;14;15;WARE_B",
                                     "0;100;0;0.50;12;5;1e3;7;8;9;10;11;12;13;14;15;WARE_B"));
     }
+    support::CatalogUser user;
 };
 
 struct FormCase {
@@ -83,10 +95,13 @@ TEST_F(Saving, ProposesTheOwnPlaceAndItsFilter) {
     EXPECT_EQ(script.Files[2].FilterIndex, 2);
 
     script.Save(FileChoice{native("mod.cat"), 3});
-    script.Text("text", QStringLiteral("types/TWareT.pck"));
-    script.Box(QStringLiteral("does not exist"), Answer::No);
+    script.Box(QStringLiteral("does not exist"), Answer::Yes);
+    user.Then([](frmCATDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QComboBox*>(QStringLiteral("cmbFileName"))->currentText(),
+                  QStringLiteral("types\\plain.pck"));
+        dialog.reject();
+    });
     trigger("save");
-    EXPECT_EQ(script.Offered, QStringLiteral("types\\plain.pck"));
     EXPECT_EQ(caption(), caption("plain.pck"));
 }
 
@@ -211,7 +226,7 @@ TEST_F(Saving, AsksBeforeItReplacesWhatAnotherProgramWrote) {
         const char* target = catalog ? "mod.cat::types\\TWareT.txt" : "TWareT.txt";
         startWithWares();
         if (catalog) {
-            script.Save(FileChoice{native(target), 1});
+            choose(target, 1);
             script.Box(QStringLiteral("does not exist"), Answer::Yes);
             trigger("save");
         }
@@ -221,13 +236,13 @@ TEST_F(Saving, AsksBeforeItReplacesWhatAnotherProgramWrote) {
         ASSERT_EQ(other.Save(program(target), LORNFD_PLAIN).Kind, clsTFile::Outcome::Done);
         const std::string theirs = unpacked(program(target));
 
-        script.Save(FileChoice{native(target), 1});
+        choose(target, 1);
         script.Box(QStringLiteral("already exists"), Answer::Yes);
         script.Box(QStringLiteral("was changed by another program"), Answer::No);
         trigger("save");
         EXPECT_EQ(unpacked(program(target)), theirs);
 
-        script.Save(FileChoice{native(target), 1});
+        choose(target, 1);
         script.Box(QStringLiteral("already exists"), Answer::Yes);
         script.Box(QStringLiteral("was changed by another program"), Answer::Yes);
         trigger("save");
@@ -240,7 +255,7 @@ TEST_F(Saving, AsksBeforeItReplacesWhatAnotherProgramWrote) {
 TEST_F(Saving, AnotherEntryOfTheCatalogIsNoChange) {
     const char* target = "mod.cat::types\\TWareT.txt";
     startWithWares();
-    script.Save(FileChoice{native(target), 1});
+    choose(target, 1);
     script.Box(QStringLiteral("does not exist"), Answer::Yes);
     trigger("save");
     clsTFile other;

@@ -182,20 +182,6 @@ TEST_F(Windows, TheRealFileDialogGivesNameAndFilter) {
     EXPECT_EQ(kept->FilterIndex, 3);
 }
 
-TEST_F(Windows, AnItemIsChosenByDoubleClick) {
-    const QStringList items{QStringLiteral("a"), QStringLiteral("b")};
-    QTimer::singleShot(0, qApp, [] {
-        auto* list = QApplication::activeModalWidget()->findChild<QListView*>();
-        EXPECT_EQ(list->currentIndex().row(), 0) << "the first can be taken by Enter";
-        const QPoint second = list->visualRect(list->model()->index(1, 0)).center();
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, second);
-        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, second);
-        if (QWidget* stays = QApplication::activeModalWidget())
-            stays->close();
-    });
-    EXPECT_EQ(Ui().PickItem(nullptr, QStringLiteral("Select file"), items), items[1]);
-}
-
 TEST_F(Windows, AboutTellsVersionAndLibraries) {
     frmAbout about;
     QString all;

@@ -15,6 +15,8 @@
 #include "ui/UserInterface.h"
 #include "ui/frmWait.h"
 
+#include <csignal>
+
 namespace {
 
 constexpr std::array viewMasks = {"types\\*",    "t\\*",       "dds\\*",
@@ -42,7 +44,22 @@ void createServices() {
     Archive = std::make_unique<clsArchive>();
 }
 
-int runMessageLoop() {
+constexpr int lookTime = 500; ///< milliseconds between looks at a wish to end
+volatile std::sig_atomic_t endWished = 0;
+
+/// A program that is told to end ends as if its window were closed: unsaved work asks first.
+void closeWhenTold(frmMain& launcher) {
+    std::signal(SIGTERM, [](int) { endWished = 1; });
+    auto* look = new QTimer(&launcher);
+    QObject::connect(look, &QTimer::timeout, &launcher, [&launcher] {
+        if (std::exchange(endWished, 0) != 0)
+            launcher.close();
+    });
+    look->start(lookTime);
+}
+
+int runMessageLoop(frmMain& launcher) {
+    closeWhenTold(launcher);
     QGuiApplication::setQuitOnLastWindowClosed(true);
     return QCoreApplication::exec();
 }
@@ -105,7 +122,7 @@ int Main() {
         Program started;
         QGuiApplication::setQuitOnLastWindowClosed(false); // boxes come and go before the launcher
         if (StartUp(StartUpPhases(started, arguments)))
-            result = runMessageLoop();
+            result = runMessageLoop(*started.Launcher);
         CloseWait();
     }
     Archive.reset();

@@ -1,6 +1,7 @@
 #include "ui/frmAbout.h"
 
 #include "core/mdlCommon.h"
+#include "ui/CommonBoxes.h"
 #include "ui/Icons.h"
 
 namespace {
@@ -8,54 +9,88 @@ namespace {
 struct Library {
     const char* Name;
     const char* Purpose;
+    const char* Licence; ///< empty for the program's own
 };
 
 constexpr std::array libraries = {
-    Library{"lornfd", QT_TRANSLATE_NOOP("frmAbout", "files, packed files and catalogs")},
-    Library{"keshvfs", QT_TRANSLATE_NOOP("frmAbout", "merged view of the game's files")},
-    Library{"keshobjects", QT_TRANSLATE_NOOP("frmAbout", "texts of the game's files")},
+    Library{"lornfd", QT_TRANSLATE_NOOP("frmAbout", "files, packed files and catalogs"), ""},
+    Library{"keshvfs", QT_TRANSLATE_NOOP("frmAbout", "merged view of the game's files"), ""},
+    Library{"keshobjects", QT_TRANSLATE_NOOP("frmAbout", "texts of the game's files"), ""},
+    Library{"Qt %1", QT_TRANSLATE_NOOP("frmAbout", "windows and platform services"), "LGPL 3"},
+    Library{"libdeflate", QT_TRANSLATE_NOOP("frmAbout", "older packed files"), "MIT"},
+    Library{"Zstandard", QT_TRANSLATE_NOOP("frmAbout", "newer packed files"), "BSD"},
 };
+
+QString licence() {
+    QFile file(QStringLiteral(":/icons/LICENSE"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString paragraph(const QString& text) {
+    return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+}
+
+QString libraryTable() {
+    QString rows;
+    for (const Library& library : libraries) {
+        const bool own = *library.Licence == '\0';
+        const QString version = QString::fromStdString(ProgramVersion());
+        const QString name = QString::fromLatin1(library.Name);
+        const QString shown =
+            own ? name + u' ' + version
+                : QString(name).replace(QStringLiteral("%1"), QString::fromLatin1(qVersion()));
+        const QString terms = own ? QStringLiteral("MIT") : QString::fromLatin1(library.Licence);
+        rows += QStringLiteral("<tr><td>%1</td><td>%2</td><td>%3</td></tr>")
+                    .arg(shown, frmAbout::tr(library.Purpose).toHtmlEscaped(), terms);
+    }
+    return QStringLiteral("<table cellpadding=\"3\">%1</table>").arg(rows);
+}
+
+QString aboutText() {
+    QString text = paragraph(frmAbout::tr("Made by the Kesh Editor authors. Pictures: our own."));
+    text += libraryTable() + paragraph(frmAbout::tr("Free software under the MIT licence."));
+    for (const QString& part : licence().split(QStringLiteral("\n\n")))
+        text += paragraph(part);
+    return text;
+}
 
 } // namespace
 
 frmAbout::frmAbout(QWidget* Owner) : QDialog(Owner) {
     setObjectName(QStringLiteral("frmAbout"));
     const QString title = QString::fromStdString(ProgramTitle());
-    const QString version = QString::fromStdString(ProgramVersion());
     setWindowTitle(tr("About %1").arg(title));
+    HelpOnF1(this, "about.html");
 
     auto* picture = new QLabel(this);
-    const int side = 4 * fontMetrics().height();
-    picture->setPixmap(ToolIcon("about").pixmap(side, side));
+    const int side = 3 * fontMetrics().height();
+    picture->setPixmap(ToolIcon("kesh").pixmap(side, side));
     auto* name = new QLabel(title, this);
     name->setObjectName(QStringLiteral("lblTitle"));
     QFont large = name->font();
     large.setPointSizeF(large.pointSizeF() * 1.6);
     name->setFont(large);
-    auto* versionLabel = new QLabel(tr("Version %1").arg(version), this);
-    versionLabel->setObjectName(QStringLiteral("lblVersion"));
-
-    auto* table = new QFormLayout;
-    table->setHorizontalSpacing(2 * fontMetrics().height());
-    for (const Library& library : libraries)
-        table->addRow(tr("%1 %2").arg(QString::fromLatin1(library.Name), version),
-                      new QLabel(tr(library.Purpose), this));
-    table->addRow(tr("Qt %1").arg(QString::fromLatin1(qVersion())),
-                  new QLabel(tr("windows and platform services"), this));
-    auto* licence = new QLabel(tr("Free software under the MIT licence."), this);
-    licence->setObjectName(QStringLiteral("lblLicence"));
+    auto* version =
+        new QLabel(tr("Version %1").arg(QString::fromStdString(ProgramVersion())), this);
+    version->setObjectName(QStringLiteral("lblVersion"));
+    auto* text = new QTextBrowser(this);
+    text->setObjectName(QStringLiteral("txtLicences"));
+    text->setAccessibleName(tr("Libraries and licences"));
+    text->setHtml(aboutText());
     auto* buttons = new QDialogButtonBox(this);
     auto* close = buttons->addButton(tr("Close"), QDialogButtonBox::AcceptRole);
     close->setObjectName(QStringLiteral("btnOK"));
+    close->setDefault(true);
+    close->setFocus();
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
 
     auto* grid = new QGridLayout(this);
+    grid->setColumnStretch(1, 1);
     grid->setHorizontalSpacing(fontMetrics().height());
     grid->addWidget(picture, 0, 0, 2, 1, Qt::AlignTop);
     grid->addWidget(name, 0, 1);
-    grid->addWidget(versionLabel, 1, 1);
-    grid->addLayout(table, 2, 1);
-    grid->addWidget(licence, 3, 1);
-    grid->addWidget(buttons, 4, 0, 1, 2);
-    grid->setSizeConstraint(QLayout::SetFixedSize);
+    grid->addWidget(version, 1, 1);
+    grid->addWidget(text, 2, 0, 1, 2);
+    grid->addWidget(buttons, 3, 0, 1, 2);
+    resize(72 * fontMetrics().averageCharWidth(), 24 * fontMetrics().height());
 }

@@ -15,6 +15,19 @@
 
 #include <QTest>
 
+#include <functional>
+
+/// Runs in the modal window that the next action opens.
+template <class Window>
+void meanwhile(std::function<void(Window&)> use) {
+    QTimer::singleShot(0, qApp, [use] {
+        auto* window = qobject_cast<Window*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(window);
+        use(*window);
+        window->reject(); // harmless after OK
+    });
+}
+
 class AppTest : public Surroundings {
 protected:
     AppTest() {

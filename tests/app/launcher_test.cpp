@@ -1,7 +1,12 @@
 // The launcher: what its icons, menus and requests do.
+#include "app/IconView.h"
 #include "app/apptest.h"
+#include "app/frmFiles.h"
+#include "app/frmSettings.h"
 #include "txteditor/frmEdit.h"
 #include "ui/CommonBoxes.h"
+#include "ui/ListHelpers.h"
+#include "ui/frmAbout.h"
 
 namespace {
 
@@ -10,13 +15,40 @@ protected:
     [[nodiscard]] static QAbstractItemView* view(const frmMain& launcher) {
         return launcher.findChild<QAbstractItemView*>(QStringLiteral("View"));
     }
+    [[nodiscard]] static QModelIndex icon(const frmMain& launcher, const char* key) {
+        return ListFindItem(*view(launcher)->model(), QString::fromLatin1(key));
+    }
     static void activate(const frmMain& launcher, const char* key) {
         QAbstractItemView* icons = view(launcher);
-        const auto found = icons->model()->match(icons->model()->index(0, 0), Qt::UserRole,
-                                                 QString::fromLatin1(key), 1, Qt::MatchExactly);
-        ASSERT_EQ(found.size(), 1) << key;
-        icons->setCurrentIndex(found[0]);
+        ASSERT_TRUE(icon(launcher, key).isValid()) << key;
+        icons->setCurrentIndex(icon(launcher, key));
         QTest::keyClick(icons, Qt::Key_Return);
+    }
+    [[nodiscard]] static QString icons(const frmMain& launcher) {
+        QStringList keys;
+        const QAbstractItemModel& model = *view(launcher)->model();
+        for (int row = 0; row < model.rowCount(); ++row)
+            keys.append(LauncherItems::KeyOf(model.index(row, 0)));
+        return keys.join(u' ');
+    }
+    [[nodiscard]] static QAction* action(const frmMain& launcher, const char* name) {
+        return launcher.findChild<QAction*>(QString::fromLatin1(name));
+    }
+    /// The launcher as it is once it was active: its icons are measured.
+    static void show(frmMain& launcher) {
+        launcher.MyShow({});
+        launcher.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&launcher));
+    }
+    static void drag(QAbstractItemView& icons, QPoint from, QPoint to) {
+        QWidget* area = icons.viewport();
+        QTest::mousePress(area, Qt::LeftButton, {}, from);
+        for (const QPoint& at : {(from + to) / 2, to}) { // with the button held down
+            QMouseEvent move(QEvent::MouseMove, at, area->mapToGlobal(at), Qt::NoButton,
+                             Qt::LeftButton, {});
+            QCoreApplication::sendEvent(area, &move);
+        }
+        QTest::mouseRelease(area, Qt::LeftButton, {}, to);
     }
     /// A record of the editor's file changes.
     static void change(frmTXTEditor& editor) { editor.Parser().FindIndex(0)->SetValue(1, 5); }
@@ -33,11 +65,10 @@ TEST_F(Launcher, ShowsItsIconsAndVersion) {
     EXPECT_EQ(editors()[0]->windowTitle(), QStringLiteral("TXT Editor"));
     activate(launcher, "te");
     EXPECT_EQ(editors().size(), 2);
-    QTimer::singleShot(0, qApp, [] {
-        auto* about = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_TRUE(about);
-        EXPECT_EQ(about->objectName(), QStringLiteral("frmAbout"));
-        about->accept();
+    meanwhile<frmAbout>([](frmAbout& about) {
+        const auto* text = about.findChild<QTextBrowser*>();
+        EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("lornfd 0.1.0")));
+        EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("Permission is hereby granted")));
     });
     activate(launcher, "about");
 }
@@ -56,11 +87,135 @@ TEST_F(Launcher, AsksForTheDataDirectoryIfThereIsNone) {
     write("data/types/TWareT.txt", wares);
     frmMain launcher;
     script.Box(question, Answer::Yes);
-    script.Text("directory", native("data"));
+    meanwhile<frmSettings>([&](frmSettings& window) {
+        auto* directory = window.findChild<QLineEdit*>(QStringLiteral("DataDir"));
+        EXPECT_TRUE(directory->isVisible()); // what has to be said first
+        directory->setText(native("data"));
+        window.findChild<QPushButton*>(QStringLiteral("btnOK"))->click();
+    });
     launcher.MyShow({});
     EXPECT_EQ(Settings->DataRoot(), program("data"));
     launcher.ProcessRequest("keshe://vfs://types\\TWareT"); // the view was built at once
     EXPECT_EQ(editors().size(), 1);
+}
+
+TEST_F(Launcher, HasAnIconForEachProgramThatIsSet) {
+    {
+        frmMain launcher;
+        EXPECT_EQ(icons(launcher), QStringLiteral("te lorn settings help about"));
+    }
+    write("config/outfitter.ini", "path=" + native("tool").toUtf8() + "\n");
+    Settings->SetCustomProgram(program("my.tool.exe"));
+    Settings->SetExt3DViewerPath(program("viewer"));
+    frmMain launcher;
+    launcher.MyShow({});
+    EXPECT_EQ(icons(launcher), QStringLiteral("te lornof lorn custom 3Dviwer settings help about"));
+    EXPECT_EQ(icon(launcher, "custom").data().toString(), QStringLiteral("my.tool"));
+    EXPECT_EQ(icon(launcher, "3Dviwer").data().toString(), QStringLiteral("viewer"));
+    for (const char* key : {"lornof", "lorn", "custom", "3Dviwer"})
+        activate(launcher, key);
+    EXPECT_EQ(script.Started,
+              (QStringList{native("tool/KeshOutfitter.exe"), native("data/kesh.exe"),
+                           native("my.tool.exe"), native("viewer")}));
+    script.Starts = false;
+    for (const char* key : {"lorn", "custom"}) {
+        script.Box(QStringLiteral("Error starting program: "));
+        activate(launcher, key);
+    }
+    Settings->SetDataRoot({});
+    script.Box(QStringLiteral("Program cannot found registry entry of Kesh Origins."));
+    activate(launcher, "lorn");
+}
+
+TEST_F(Launcher, FollowsTheSettings) {
+    frmMain launcher;
+    launcher.MyShow({});
+    const auto configure = [&](const char* edit, const char* text) {
+        meanwhile<frmSettings>([=](frmSettings& window) {
+            window.findChild<QLineEdit*>(QString::fromLatin1(edit))
+                ->setText(QString::fromLatin1(text));
+            window.findChild<QPushButton*>(QStringLiteral("btnOK"))->click();
+        });
+        activate(launcher, "settings");
+    };
+    configure("EditorEdit", "/tools/one.exe");
+    configure("Ext3DViewerEdit", "/tools/viewer.exe");
+    EXPECT_EQ(icons(launcher), QStringLiteral("te lorn custom 3Dviwer settings help about"));
+    view(launcher)->model()->setData(icon(launcher, "custom"), QStringLiteral("Mine"));
+    configure("Ext3DViewerEdit", "/tools/viewer.exe");
+    EXPECT_EQ(icon(launcher, "custom").data().toString(), QStringLiteral("Mine"));
+    configure("EditorEdit", "/tools/two.exe");
+    EXPECT_EQ(icon(launcher, "custom").data().toString(), QStringLiteral("two"));
+    configure("EditorEdit", "");
+    EXPECT_EQ(icons(launcher), QStringLiteral("te lorn 3Dviwer settings help about"));
+}
+
+TEST_F(Launcher, ArrangesIconsInCellsOfOneSize) {
+    frmMain launcher;
+    show(launcher);
+    const auto* list = launcher.findChild<IconView*>();
+    const QSize cell = list->Cell();
+    launcher.resize(3 * cell.width() + 20, 400);
+    QCoreApplication::processEvents();
+    const QRect first = list->visualRect(icon(launcher, "te"));
+    EXPECT_EQ(list->visualRect(icon(launcher, "settings")).top(), first.top());
+    EXPECT_GT(list->visualRect(icon(launcher, "help")).top(), first.top()); // wrapped
+    EXPECT_EQ(list->visualRect(icon(launcher, "help")).left(), first.left());
+    EXPECT_EQ(list->visualRect(icon(launcher, "about")).size(), first.size());
+}
+
+TEST_F(Launcher, SnapsAndKeepsIconsThatAreMoved) {
+    QPoint corner;
+    {
+        frmMain launcher;
+        show(launcher);
+        launcher.resize(600, 500);
+        auto* list = launcher.findChild<IconView*>();
+        const QPoint before = list->visualRect(icon(launcher, "te")).center();
+        drag(*list, before, before + QPoint(100, 150));
+        EXPECT_EQ(list->visualRect(icon(launcher, "te")).center(), before); // arranged: stays
+        action(launcher, "mnuPopAutoArrange")->trigger();
+        EXPECT_FALSE(Settings->AutoArrangeIcons());
+        EXPECT_EQ(list->visualRect(icon(launcher, "te")).center(), before); // all stay in place
+        const QSize cell = list->Cell();
+        drag(*list, before, before + QPoint(cell.width() + 20, 2 * cell.height() + 30));
+        corner = list->visualRect(icon(launcher, "te")).topLeft();
+        EXPECT_EQ(corner, QPoint(cell.width() + 5, 2 * cell.height() + 5));
+        drag(*list, list->visualRect(icon(launcher, "lorn")).center(), QPoint(-50, -50));
+        EXPECT_EQ(list->visualRect(icon(launcher, "lorn")).topLeft(), QPoint(5, 5));
+        EXPECT_TRUE(editors().isEmpty());
+        launcher.close();
+    }
+    frmMain launcher;
+    show(launcher);
+    EXPECT_EQ(view(launcher)->visualRect(icon(launcher, "te")).topLeft(), corner);
+    action(launcher, "mnuPopAutoArrange")->trigger();
+    EXPECT_TRUE(Settings->AutoArrangeIcons());
+    EXPECT_LT(view(launcher)->visualRect(icon(launcher, "te")).top(), corner.y());
+}
+
+TEST_F(Launcher, PopsUpForTheSelectedIcon) {
+    frmMain launcher;
+    show(launcher);
+    auto* menu = launcher.findChild<QMenu*>(QStringLiteral("mnuPopup"));
+    QAbstractItemView* list = view(launcher);
+    const auto popUp = [&](QContextMenuEvent::Reason reason) {
+        QContextMenuEvent event(reason, QPoint(5, 5), list->mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(list->viewport(), &event);
+        EXPECT_TRUE(menu->isVisible());
+        EXPECT_TRUE(action(launcher, "mnuPopAutoArrange")->isChecked());
+        menu->close();
+        return action(launcher, "mnuPopRename")->isEnabled();
+    };
+    EXPECT_TRUE(popUp(QContextMenuEvent::Keyboard));
+    action(launcher, "mnuPopRename")->trigger();
+    auto* caption = list->findChild<QLineEdit*>();
+    ASSERT_TRUE(caption);
+    QTest::keyClick(caption, Qt::Key_Escape);
+    list->clearSelection();
+    EXPECT_FALSE(popUp(QContextMenuEvent::Mouse));
+    QTest::keyClick(list, Qt::Key_Return); // nothing is selected
+    EXPECT_TRUE(editors().isEmpty());
 }
 
 struct RequestCase {
@@ -136,7 +291,7 @@ TEST_F(Launcher, KeepsCaptionsButNoEmptyOne) {
     }
     frmMain launcher;
     EXPECT_EQ(view(launcher)->model()->index(0, 0).data(), QVariant(QStringLiteral("Objects")));
-    EXPECT_EQ(view(launcher)->model()->index(1, 0).data(), QVariant(QStringLiteral("Settings")));
+    EXPECT_EQ(view(launcher)->model()->index(1, 0).data(), QVariant(QStringLiteral("Kesh")));
 }
 
 TEST_F(Launcher, EnterEndsARenameAndStartsNothing) {
@@ -187,10 +342,15 @@ TEST_F(Launcher, HelpShowsThePageOfTheWindow) {
     activate(launcher, "te");
     pressF1(editors()[0]);
     EXPECT_TRUE(page().endsWith(QStringLiteral("/help/txteditor.html"))) << page().toStdString();
-    frmEdit value;
-    value.show();
-    pressF1(&value);
-    EXPECT_TRUE(page().endsWith(QStringLiteral("/help/valueedit.html"))) << page().toStdString();
+    const auto check = [&](QWidget&& window, const char* name) {
+        window.show();
+        pressF1(&window);
+        EXPECT_TRUE(page().endsWith(QLatin1String(name))) << page().toStdString();
+    };
+    check(frmEdit(), "/help/valueedit.html");
+    check(frmSettings(), "/help/settings.html");
+    check(frmFiles(), "/help/loadedfiles.html");
+    check(frmAbout(), "/help/about.html");
     script.Box(QStringLiteral("Help is not installed"));
     ShowHelp(&launcher, "nothing.html");
 }
@@ -219,7 +379,6 @@ TEST_F(Launcher, ReloadsTheFilesOnDemand) {
     launcher.findChild<QAction*>(QStringLiteral("mnuReload"))->trigger();
     EXPECT_TRUE(Archive->GetFile("TWareT"));
     EXPECT_EQ(launcher.cursor().shape(), Qt::ArrowCursor);
-    EXPECT_FALSE(launcher.findChild<QAction*>(QStringLiteral("mnuShowVFS"))->isEnabled());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The real program, started twice.
 #include "core/clsSettings.h"
 #include "core/surroundings.h"
+#include "lornfd/lornfd.h"
 
 #include <QtTest>
 
@@ -61,6 +62,27 @@ TEST_F(Processes, ASecondStartOpensItsFileInTheFirst) {
     EXPECT_EQ(handOver({}), 0);
     EXPECT_EQ(first->state(), QProcess::Running);
     stop(*first);
+}
+
+TEST_F(Processes, OpensAnEntryOfACatalogAndEndsCleanly) {
+    const std::string wares = read("TWareE.txt");
+    write("01.cat", "KESHCAT 1 01.dat\n");
+    write("01.dat", "");
+    const std::int32_t file = LornFD_OpenFileConvert(program("01.cat::types\\TWareT.txt"),
+                                                     LORNFD_WRITE, LORNFD_CREATE, LORNFD_ZSTD);
+    LornFD_WriteFile(file, wares.data(), std::ssize(wares));
+    ASSERT_EQ(LornFD_CloseFile(file), 1);
+    const auto first = start({});
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return QFileInfo::exists(native("tmp/Lorn Editor")); }, 30000));
+    EXPECT_EQ(handOver({QStringLiteral("01.cat::types\\TWareT.txt")}), 0);
+    EXPECT_TRUE(opened("01.cat::types\\TWareT.txt"));
+    first->terminate();
+    ASSERT_TRUE(first->waitForFinished(30000));
+    EXPECT_EQ(first->exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(first->exitCode(), 0);
+    EXPECT_FALSE(QFileInfo::exists(native("tmp/Lorn Editor")));
+    EXPECT_NE(read("config/user.ini").find("[main]"), std::string::npos);
 }
 
 TEST_F(Processes, TheSocketOfADeadInstanceIsTakenOver) {

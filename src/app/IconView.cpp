@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int iconSide = 40;
+constexpr int iconLines = 3;     ///< side of an icon, in lines of text
 constexpr int gridMargin = 5;    ///< pixels between a cell's corner and its icon
 constexpr int captionWidth = 13; ///< characters in a line at least
 constexpr int captionLines = 2;
@@ -19,10 +19,19 @@ public:
         if (m_view->Cell().isValid())
             return m_view->Cell() - QSize(gridMargin, gridMargin);
         const QSize least(captionWidth * option.fontMetrics.averageCharWidth() + iconGap,
-                          iconSide + iconGap + captionLines * option.fontMetrics.height());
+                          option.decorationSize.height() + iconGap +
+                              captionLines * option.fontMetrics.height());
         QStyleOptionViewItem wrapped = option;
         wrapped.rect = QRect(QPoint(), least); // as wide as text may be before it wraps
-        return QStyledItemDelegate::sizeHint(wrapped, index).expandedTo(least);
+        const QSize own = QStyledItemDelegate::sizeHint(wrapped, index) + QSize(0, iconGap);
+        return own.expandedTo(least);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->displayAlignment = Qt::AlignHCenter | Qt::AlignTop;
+        option->rect.adjust(0, iconGap, 0, 0);
     }
 
 private:
@@ -37,7 +46,7 @@ IconView::IconView(QWidget* parent) : QListView(parent) {
     setDragEnabled(false); // icons are moved here, not carried to other windows
     setAcceptDrops(false);
     setResizeMode(QListView::Adjust);
-    setIconSize({iconSide, iconSide});
+    setIconSize(QSize(1, 1) * (iconLines * fontMetrics().height()));
     setWordWrap(true);
     setEditTriggers(QAbstractItemView::EditKeyPressed);
     setItemDelegate(new CellDelegate(this));

@@ -101,6 +101,11 @@ void frmFiles::ShowFiles(bool Modal) {
     Refresh();
     setWindowModality(Modal ? Qt::ApplicationModal : Qt::NonModal);
     show();
+    if (!Modal)
+        return;
+    QEventLoop untilClosed;
+    connect(this, &frmFiles::Closed, &untilClosed, &QEventLoop::quit);
+    untilClosed.exec();
 }
 
 void frmFiles::Refresh() {
@@ -112,8 +117,8 @@ void frmFiles::Refresh() {
 void frmFiles::FillFiles(const QString& Filter) {
     m_model.Clear();
     m_walk.emplace(Filter.toStdString());
-    m_timer.start(0, this);
-    ReadSlice();
+    m_timer.start(0, this); // the window is painted first
+    m_count->setText(tr("Listing... Files: %1").arg(0));
 }
 
 void frmFiles::ReadSlice() {
@@ -184,4 +189,5 @@ void frmFiles::closeEvent(QCloseEvent* event) {
     if (IsNormal(*this))
         SaveWindowPos(*this, settingsKey);
     QMainWindow::closeEvent(event);
+    Q_EMIT Closed();
 }

@@ -14,13 +14,14 @@ class frmFiles : public QMainWindow {
 public:
     explicit frmFiles(QWidget* Owner = nullptr);
 
-    /// Lists everything and shows the window.
+    /// Lists everything and shows the window; a modal one returns when it is closed.
     void ShowFiles(bool Modal = false);
     /// Lists anew, with the filter that stands in its box: the view was built again.
     void Refresh();
 
 Q_SIGNALS:
     void OpenRequested(const QString& Name); ///< a name of the view, without "vfs://"
+    void Closed();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

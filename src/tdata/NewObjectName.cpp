@@ -26,9 +26,9 @@ double NumberOf(std::string_view id) {
 
 } // namespace
 
-NewNames::NewNames(const clsTxtParser& Parser) {
+void NewNames::Add(std::span<const RecordPtr> Records) {
     const std::string base = lornfd::foldCase(BaseWord);
-    for (const RecordPtr& record : Parser.ByIndex()) {
+    for (const RecordPtr& record : Records) {
         std::string id = lornfd::foldCase(record->ObjectName());
         if (id.find(base) == id.npos)
             continue;
@@ -46,5 +46,13 @@ std::string NewNames::Next() {
 }
 
 std::string NewObjectName(const clsTxtParser& Parser) {
-    return Parser.m_bulk ? Parser.m_bulk->Names->Next() : NewNames(Parser).Next();
+    if (Parser.m_bulk && Parser.m_bulk->Names)
+        return Parser.m_bulk->Names->Next();
+    auto names = std::make_shared<NewNames>();
+    names->Add(Parser.ByIndex());
+    if (Parser.m_bulk) {
+        names->Add(Parser.m_bulk->Tail);
+        Parser.m_bulk->Names = names;
+    }
+    return names->Next();
 }

@@ -3,6 +3,7 @@
 
 #include "tdata/clsTxtParser.h"
 
+#include <span>
 #include <string>
 #include <unordered_set>
 
@@ -12,7 +13,8 @@
 /// Gives such names one after the other, each of them new.
 class NewNames {
 public:
-    explicit NewNames(const clsTxtParser& Parser);
+    /// Names of these are taken.
+    void Add(std::span<const RecordPtr> Records);
     [[nodiscard]] std::string Next();
 
 private:

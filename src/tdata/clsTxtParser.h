@@ -78,7 +78,7 @@ private:
     struct Bulk {
         std::size_t From = 0;        ///< that place
         std::vector<RecordPtr> Tail; ///< the records behind it, with the Index that they had
-        std::shared_ptr<NewNames> Names;
+        std::shared_ptr<NewNames> Names; ///< once one was asked for
     };
 
     void Reset();
@@ -108,7 +108,7 @@ private:
 
 /// While it lives, every record that is created goes to one place, one behind the other, and at a
 /// cost that does not depend on how many there are. Until then the records behind that place are
-/// not in ByIndex, and new names are not looked for anew in those that were there.
+/// not in ByIndex, and only the first new name is looked for among those that are there.
 class BulkInsert {
 public:
     /// In front of `Before`, or at the end.

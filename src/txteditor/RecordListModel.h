@@ -1,4 +1,5 @@
-// The records of a file as rows; texts are asked for when a row is painted.
+// The records of a file as rows, all or those that a filter lets through. Texts are asked for when
+// a row is painted or searched, and kept.
 //
 // A row's key is under Qt::UserRole.
 #pragma once
@@ -18,8 +19,17 @@ public:
 
     explicit RecordListModel(QObject* parent = nullptr);
 
-    /// Replaces all rows.
+    /// Replaces all rows; a filter that is set goes through them again.
     void SetRecords(std::vector<RecordPtr> Records);
+    /// Adds rows in front of a row, or at the end for the number of rows. Only without a filter.
+    void Insert(int At, const std::vector<RecordPtr>& Records);
+    void Remove(const std::vector<RecordPtr>& Records);
+    /// Lets those rows through whose text or ID contains this, in any case; all if it is empty.
+    /// Works in slices of a few milliseconds; Filtered tells when it is done.
+    void SetFilter(const QString& Text);
+    [[nodiscard]] bool HasFilter() const { return !m_filter.isEmpty(); }
+    [[nodiscard]] int RecordCount() const { return static_cast<int>(m_rows.size()); } ///< of all
+
     /// What the first column shows, and its header. All rows count as changed.
     void SetNameColumn(TextOf Text, const QString& Header);
     /// Adds the "Class" column, or takes it away if Text is empty.
@@ -38,8 +48,31 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role = Qt::DisplayRole) const override;
 
+Q_SIGNALS:
+    /// Other rows are shown than before; the model was reset.
+    void Filtered();
+
 private:
-    std::vector<RecordPtr> m_records;
+    struct Row {
+        RecordPtr Record;
+        QString Text;       ///< null until it is asked for
+        QString SearchText; ///< the same, folded, with the ID
+    };
+
+    const QString& TextOfRow(Row& row) const;
+    const QString& SearchTextOf(Row& row) const;
+    void ForgetTexts();
+    void ShowAll();
+    void StartFilter();
+    void FilterSlice();
+    void RemoveShown(const std::vector<int>& rows);
+
+    mutable std::vector<Row> m_rows;
+    std::vector<int> m_shown; ///< positions in m_rows
+    std::vector<int> m_found; ///< of the filter's pass so far
+    std::size_t m_next = 0;   ///< where the pass goes on
+    QString m_filter;         ///< folded
+    QTimer m_slice;
     TextOf m_name;
     TextOf m_class;
     QString m_header;

@@ -6,6 +6,7 @@
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
 #include "tdata/mdlKeshConst.h"
+#include "txteditor/RecoveryJournal.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -15,8 +16,12 @@
 
 namespace {
 
+std::string containerPath(const std::string& path) {
+    return lornfd::resolvePath(CatalogPart(path));
+}
+
 QFileInfo containerOf(const std::string& path) {
-    return QFileInfo(QString::fromStdString(lornfd::resolvePath(CatalogPart(path))));
+    return QFileInfo(QString::fromStdString(containerPath(path)));
 }
 
 /// A hash of what an entry holds: its catalog changes whenever any entry does.
@@ -70,35 +75,48 @@ clsTFile::Result clsTFile::Open(const std::string& Name) {
     if (file == 0)
         return {Outcome::NotOpened, LornFDErrorText()};
     const bool loaded = Parser.Load(file, ObjectTypeFromFile(nameInside(Name)));
+    m_base = {Name, *real, MarkOf(file), Parser.otype()};
     LornFD_CloseFile(file);
     if (!loaded) {
         Result failed{Outcome::NotLoaded, Parser.GetLastError()};
         Parser = clsTxtParser();
-        m_stamp = {};
+        SetStamp({});
         return failed;
     }
     Parser.FileName = Name;
-    m_stamp = std::move(stamp);
+    SetStamp(std::move(stamp));
     return {};
 }
 
-clsTFile::Result clsTFile::Save(const std::string& Name, std::int32_t FileType) {
+void clsTFile::SetStamp(Stamp Now) {
+    m_noticed = Now;
+    m_stamp = std::move(Now);
+}
+
+clsTFile::Result clsTFile::Save(const std::string& Name, std::int32_t FileType,
+                                const std::function<void(const JournalBase&)>& Announce) {
     const std::int32_t file =
         LornFD_OpenFileConvert(Name, LORNFD_WRITE, LORNFD_OPEN_EXISTING, FileType);
     if (file == 0)
         return {Outcome::NotOpened, LornFDErrorText()};
     const std::vector<bool> flags = dirtyFlags(Parser);
-    Result written = Write(file);
+    JournalBase base;
+    Result written = Write(file, [&] {
+        base = {Name, Name, MarkOf(file), Parser.otype()};
+        if (Announce)
+            Announce(base);
+    });
     if (written.Kind != Outcome::Done) {
         putBack(Parser, flags);
         return written;
     }
     Parser.FileName = Name;
-    m_stamp = StampOf(Name);
+    m_base = std::move(base);
+    SetStamp(StampOf(Name));
     return {};
 }
 
-clsTFile::Result clsTFile::Write(std::int32_t File) {
+clsTFile::Result clsTFile::Write(std::int32_t File, const std::function<void()>& Announce) {
     if (!Parser.Save(File)) {
         LornFD_AbandonFile(File);
         return {Outcome::NotSaved, Parser.GetLastError()};
@@ -107,6 +125,7 @@ clsTFile::Result clsTFile::Write(std::int32_t File) {
         LornFD_AbandonFile(File);
         return {Outcome::NotSaved, "There is no object to save."};
     }
+    Announce();
     if (LornFD_CloseFile(File) == 0)
         return {Outcome::NotSaved, LornFDErrorText()};
     return {};
@@ -116,6 +135,10 @@ std::string clsTFile::StoredPath() const {
     return RealPath(Parser.FileName).value_or(std::string());
 }
 
+std::string clsTFile::ContainerPath() const {
+    return containerPath(m_base.StoredPath);
+}
+
 bool clsTFile::ChangedOnDisk(const std::string& Target) const {
     if (m_stamp.Path.empty() || lornfd::foldCase(Target) != m_stamp.Path)
         return false;
@@ -123,6 +146,16 @@ bool clsTFile::ChangedOnDisk(const std::string& Target) const {
     if (IsCatalogPath(Target))
         return now.Content != m_stamp.Content;
     return now.Size != m_stamp.Size || now.Modified != m_stamp.Modified;
+}
+
+bool clsTFile::NoticeChange() {
+    const QFileInfo info = containerOf(m_base.StoredPath);
+    const bool sameFile = info.size() == m_noticed.Size &&
+                          info.lastModified().toMSecsSinceEpoch() == m_noticed.Modified;
+    if (m_stamp.Path.empty() || !info.exists() || sameFile)
+        return false;
+    m_noticed = StampOf(m_base.StoredPath);
+    return ChangedOnDisk(m_base.StoredPath);
 }
 
 std::int64_t FileSizeHint(const std::string& Path) {

@@ -3,8 +3,10 @@
 #pragma once
 
 #include "tdata/clsTxtParser.h"
+#include "txteditor/JournalFormat.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 class clsTFile {
@@ -27,12 +29,19 @@ public:
 
     Result Open(const std::string& Name);
     /// Writes to a plain or catalog path in a form of the file driver; that path is the document's
-    /// name then.
-    Result Save(const std::string& Name, std::int32_t FileType);
+    /// name then. `Announce` is told what will stand there, just before it does.
+    Result Save(const std::string& Name, std::int32_t FileType,
+                const std::function<void(const JournalBase&)>& Announce = {});
+    /// What the document was opened from or saved as.
+    [[nodiscard]] const JournalBase& Base() const noexcept { return m_base; }
     /// Where the document is really stored; empty if a "vfs://" name is nowhere now.
     [[nodiscard]] std::string StoredPath() const;
+    /// Native path of the file on disk that it was read from or saved to, the catalog of an entry.
+    [[nodiscard]] std::string ContainerPath() const;
     /// True if `Target` is what this document was read from, and another program changed it since.
     [[nodiscard]] bool ChangedOnDisk(const std::string& Target) const;
+    /// True once for each state that another program gave to what this document was read from.
+    [[nodiscard]] bool NoticeChange();
 
 private:
     /// What tells a file from a later state of it.
@@ -43,9 +52,12 @@ private:
         std::size_t Content = 0; ///< hash of the unpacked bytes of a catalog entry
     };
     static Stamp StampOf(const std::string& Path);
-    Result Write(std::int32_t File);
+    Result Write(std::int32_t File, const std::function<void()>& Announce);
+    void SetStamp(Stamp Now);
 
     Stamp m_stamp;
+    Stamp m_noticed; ///< the state that was noticed last
+    JournalBase m_base;
 };
 
 /// Size in bytes of the file on disk that holds a path; 0 if it cannot be told.

@@ -4,11 +4,14 @@
 #include "txteditor/RecordDataModel.h"
 #include "txteditor/RecordListModel.h"
 #include "ui/WindowPos.h"
+#include "ui/frmWait.h"
 
 namespace {
 
 constexpr auto settingsKey = "TE";
-constexpr int minimumSide = 133; ///< of each pane, in pixels
+constexpr int minimumSide = 133;       ///< of each pane, in pixels
+constexpr int defaultClassWidth = 133; ///< pixels
+constexpr int flushTime = 500;         ///< milliseconds from a change until it is on the disk
 constexpr int rawTab = 0;
 
 /// A view of many rows: none is measured.
@@ -37,6 +40,7 @@ QWidget* rowOf(std::initializer_list<QWidget*> widgets, QWidget* parent) {
 frmTXTEditor::frmTXTEditor(const Panels& Editors, QWidget* Owner)
     : QMainWindow(Owner),
       m_editors(Editors),
+      m_journal(Settings->StateDirectory() + "\\recovery"),
       m_list(new RecordListModel(this)),
       m_data(new RecordDataModel(this)),
       m_watch(new WatchModel(this)) {
@@ -46,7 +50,10 @@ frmTXTEditor::frmTXTEditor(const Panels& Editors, QWidget* Owner)
     BuildActions();
     BuildMenus();
     BuildToolbar();
+    BuildPopup();
     ConnectControls();
+    ConnectList();
+    ConnectUndo();
     UpdateRecentActions();
 }
 
@@ -73,31 +80,52 @@ void frmTXTEditor::BuildControls() {
 QWidget* frmTXTEditor::BuildListSide() {
     auto* side = new QWidget(m_splitter);
     side->setMinimumWidth(minimumSide);
+    QWidget* options = BuildListOptions(side);
+    BuildFilter(side);
+    BuildObjectView(side);
+    auto* layout = new QVBoxLayout(side);
+    for (QWidget* row : std::initializer_list<QWidget*>{options, m_filter, m_objectView})
+        layout->addWidget(row);
+    return side;
+}
+
+QWidget* frmTXTEditor::BuildListOptions(QWidget* Side) {
     const QStringList texts = {tr("Name"), tr("Race"), tr("ID")};
     for (std::size_t i = 0; i < m_names.size(); ++i) {
-        m_names[i] = new QRadioButton(texts[static_cast<qsizetype>(i)], side);
+        m_names[i] = new QRadioButton(texts[static_cast<qsizetype>(i)], Side);
         m_names[i]->setObjectName(QStringLiteral("rbName%1").arg(i));
     }
     m_names[0]->setToolTip(tr("List the records by the names of the text resources"));
     m_names[1]->setToolTip(tr("List the records by their race"));
     m_names[2]->setToolTip(tr("List the records by their ID"));
     m_names[0]->setChecked(true);
-    m_sort = new QCheckBox(tr("Sorted"), side);
+    m_sort = new QCheckBox(tr("Sorted"), Side);
     m_sort->setObjectName(QStringLiteral("chkSort"));
     m_sort->setToolTip(tr("Sort by ID instead of the order in the file"));
+    return rowOf({m_names[0], m_names[1], m_names[2], m_sort}, Side);
+}
 
-    m_objectView = new QTreeView(side);
+void frmTXTEditor::BuildFilter(QWidget* Side) {
+    m_filter = new QLineEdit(Side);
+    m_filter->setObjectName(QStringLiteral("FilterEdit"));
+    m_filter->setPlaceholderText(tr("Filter by name or ID"));
+    m_filter->setAccessibleName(m_filter->placeholderText());
+    m_filter->setToolTip(tr("List only the records whose name or ID contains this text"));
+    m_filter->setClearButtonEnabled(true);
+    m_filter->installEventFilter(this);
+}
+
+void frmTXTEditor::BuildObjectView(QWidget* Side) {
+    m_objectView = new QTreeView(Side);
     m_objectView->setObjectName(QStringLiteral("ObjectView"));
     m_objectView->setAccessibleName(tr("Records"));
     prepareRows(m_objectView);
+    m_objectView->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_objectView->setContextMenuPolicy(Qt::PreventContextMenu); // ours comes at the release
     m_objectView->setModel(m_list);
     m_objectView->setAcceptDrops(true);
+    m_objectView->installEventFilter(this);
     m_objectView->viewport()->installEventFilter(this);
-
-    auto* layout = new QVBoxLayout(side);
-    layout->addWidget(rowOf({m_names[0], m_names[1], m_names[2], m_sort}, side));
-    layout->addWidget(m_objectView);
-    return side;
 }
 
 QWidget* frmTXTEditor::BuildObjectSide() {
@@ -122,13 +150,16 @@ QWidget* frmTXTEditor::BuildObjectSide() {
 
 QWidget* frmTXTEditor::BuildRawPage() {
     auto* page = new QSplitter(this);
+    page->setObjectName(QStringLiteral("RawSplitter"));
     page->setChildrenCollapsible(false);
+    m_rawSplitter = page;
     m_dataView = new QTreeView(page);
     m_dataView->setObjectName(QStringLiteral("ObjectDataView"));
     m_dataView->setAccessibleName(tr("Fields of the record"));
     prepareRows(m_dataView);
     m_dataView->setModel(m_data);
     m_dataView->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_dataView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_dataView->header()->setStretchLastSection(true);
     m_dataView->setColumnWidth(0, 8 * fontMetrics().averageCharWidth());
     m_dataView->installEventFilter(this);
@@ -195,10 +226,6 @@ void frmTXTEditor::BuildStatusBar() {
 }
 
 void frmTXTEditor::ConnectControls() {
-    connect(m_objectView->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        TakeChanges();
-        ShowObject(m_list->Record(m_objectView->selectionModel()->selectedRows().value(0)));
-    });
     connect(m_dataView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &frmTXTEditor::UpdateActions);
     connect(m_dataView, &QTreeView::doubleClicked, this, &frmTXTEditor::OnEditField);
@@ -210,16 +237,53 @@ void frmTXTEditor::ConnectControls() {
             if (on)
                 UpdateNameColumn();
         });
+    connect(&RecordClipboard::Instance(), &RecordClipboard::Changed, this,
+            &frmTXTEditor::UpdateActions);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &frmTXTEditor::LookAtDisk,
+            Qt::QueuedConnection);
+}
+
+void frmTXTEditor::ConnectList() {
+    // A click tells of the selection before, a key after, the current row is another.
+    const QItemSelectionModel* selection = m_objectView->selectionModel();
+    connect(selection, &QItemSelectionModel::selectionChanged, this, &frmTXTEditor::OnSelection);
+    connect(selection, &QItemSelectionModel::currentRowChanged, this, &frmTXTEditor::OnSelection);
+    connect(m_filter, &QLineEdit::textChanged, m_list, &RecordListModel::SetFilter);
+    connect(m_list, &RecordListModel::Filtered, this, &frmTXTEditor::OnFiltered);
+}
+
+void frmTXTEditor::ConnectUndo() {
     connect(&m_undo, &RecordUndo::RecordReset, this, &frmTXTEditor::OnRecordReset);
+    connect(&m_undo, &RecordUndo::RecordsAdded, this, &frmTXTEditor::OnRecordsAdded);
+    connect(&m_undo, &RecordUndo::RecordsLeaving, this, [this](const RecordUndo::Records& leaving) {
+        static_cast<void>(ForgetInPanel(leaving));
+    });
+    connect(&m_undo, &RecordUndo::RecordsRemoved, this, &frmTXTEditor::OnRecordsRemoved);
     connect(&m_undo.Stack(), &QUndoStack::indexChanged, this, &frmTXTEditor::UpdateActions);
+    connect(&m_undo, &RecordUndo::Stepped, this, [this](const RecordSteps& steps) {
+        if (m_replaying)
+            return; // the journal has them
+        m_journal.Append(steps);
+        if (!m_flush.isActive())
+            m_flush.start();
+    });
+    m_flush.setSingleShot(true);
+    m_flush.setInterval(flushTime);
+    connect(&m_flush, &QTimer::timeout, this, &frmTXTEditor::FlushJournal);
 }
 
 void frmTXTEditor::MyShow() {
     try {
-        LoadSettings();
         m_tab->setCurrentIndex(rawTab);
+        LoadSettings();
         ShowFile();
         show();
+        {
+            const Busy busy(tr("Loading %1").arg(tr("TXT Editor")), this, true);
+            m_names[0]->setEnabled(Settings->LoadDescriptions());
+        }
+        activateWindow(); // again, after the wait window
+        RecordClipboard::Instance().SetSource(this); // the newest window gives what was taken
         m_objectView->setFocus();
     } catch (const std::exception& failure) {
         Say(tr("Error in TXT Editor Init: ") + ToScreen(failure.what()), BoxIcon::Critical);
@@ -233,6 +297,16 @@ void frmTXTEditor::LoadSettings() {
     m_sort->setChecked(Settings->ReadRegValue(settingsKey, "Sort", 0) != 0);
     const auto mode = Settings->ReadRegValue(settingsKey, "NameIdx", 0);
     m_names[static_cast<std::size_t>(std::clamp(mode, 0, 2))]->setChecked(true);
+    for (const auto& [name, splitter] : KeptSplitters())
+        splitter->restoreState(
+            QByteArray::fromHex(ToScreen(Settings->ReadRegValue(settingsKey, name)).toLatin1()));
+    m_classWidth = Settings->ReadRegValue(settingsKey, "ClassWidth", defaultClassWidth);
+    m_dataView->setColumnWidth(
+        0, Settings->ReadRegValue(settingsKey, "OffsetWidth", 8 * font.averageCharWidth()));
+}
+
+std::array<std::pair<const char*, QSplitter*>, 2> frmTXTEditor::KeptSplitters() const {
+    return {{{"Splitter", m_splitter}, {"RawSplitter", m_rawSplitter}}};
 }
 
 void frmTXTEditor::SaveSettings() {
@@ -240,6 +314,12 @@ void frmTXTEditor::SaveSettings() {
         SaveWindowPos(*this, settingsKey);
     Settings->SaveRegValue(settingsKey, "Sort", m_sort->isChecked() ? 1 : 0);
     Settings->SaveRegValue(settingsKey, "NameIdx", static_cast<std::int32_t>(PickedMode()));
+    for (const auto& [name, splitter] : KeptSplitters())
+        Settings->SaveRegValue(settingsKey, name, splitter->saveState().toHex().toStdString(),
+                               false);
+    KeepClassWidth();
+    Settings->SaveRegValue(settingsKey, "ClassWidth", m_classWidth);
+    Settings->SaveRegValue(settingsKey, "OffsetWidth", m_dataView->columnWidth(0));
 }
 
 void frmTXTEditor::closeEvent(QCloseEvent* event) {
@@ -248,27 +328,74 @@ void frmTXTEditor::closeEvent(QCloseEvent* event) {
         return;
     }
     SaveSettings();
+    m_flush.stop();
+    m_journal.Discard();
+    if (RecordClipboard::Instance().ClipboardSource() == this)
+        RecordClipboard::Instance().SetSource(nullptr);
     event->accept();
 }
 
 bool frmTXTEditor::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_dataView && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key != Qt::Key_Return && key != Qt::Key_Enter)
-            return false;
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return OnKey(watched, static_cast<QKeyEvent*>(event)->key());
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return DropFile(static_cast<QDropEvent*>(event)); // the two others derive from it
+    case QEvent::MouseButtonRelease:
+    case QEvent::ContextMenu:
+        return watched != m_dataView && watched != m_filter && PopupWanted(event);
+    default:
+        return QMainWindow::eventFilter(watched, event);
+    }
+}
+
+bool frmTXTEditor::OnKey(const QObject* Watched, int Key) {
+    const bool enter = Key == Qt::Key_Return || Key == Qt::Key_Enter;
+    if (Watched == m_dataView && enter) {
         OnEditField();
         return true;
     }
-    if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove &&
-        event->type() != QEvent::Drop)
-        return QMainWindow::eventFilter(watched, event);
-    auto* drop = static_cast<QDropEvent*>(event); // the two others derive from it
-    const QList<QUrl> urls = drop->mimeData()->urls();
+    if (Watched != m_filter)
+        return false;
+    if (Key == Qt::Key_Escape)
+        m_filter->clear();
+    else if (enter || Key == Qt::Key_Down)
+        m_objectView->setFocus();
+    else
+        return false;
+    return true;
+}
+
+bool frmTXTEditor::DropFile(QDropEvent* Drop) {
+    const QList<QUrl> urls = Drop->mimeData()->urls();
     if (urls.isEmpty() || !urls.constFirst().isLocalFile())
         return false;
-    drop->setDropAction(Qt::CopyAction); // after a move its giver might delete the file
-    drop->accept();
-    if (event->type() == QEvent::Drop)
+    Drop->setDropAction(Qt::CopyAction); // after a move its giver might delete the file
+    Drop->accept();
+    if (Drop->type() == QEvent::Drop)
         OpenDropped(urls.constFirst().toLocalFile());
     return true;
+}
+
+/// By the right button's release, or the menu key.
+bool frmTXTEditor::PopupWanted(QEvent* Event) {
+    if (Event->type() == QEvent::MouseButtonRelease) {
+        const auto* mouse = static_cast<QMouseEvent*>(Event);
+        if (mouse->button() != Qt::RightButton)
+            return false;
+        ShowPopup(mouse->globalPosition().toPoint());
+        return true;
+    }
+    if (static_cast<QContextMenuEvent*>(Event)->reason() != QContextMenuEvent::Keyboard)
+        return false;
+    const QRect row = m_objectView->visualRect(m_objectView->currentIndex());
+    ShowPopup(m_objectView->viewport()->mapToGlobal(row.bottomLeft()));
+    return true;
+}
+
+void frmTXTEditor::ShowPopup(const QPoint& Place) {
+    UpdateActions();
+    m_popup->popup(Place);
 }

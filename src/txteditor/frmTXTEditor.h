@@ -2,18 +2,22 @@
 #pragma once
 
 #include "txteditor/ObjectEditor.h"
+#include "txteditor/RecordClipboard.h"
 #include "txteditor/RecordUndo.h"
+#include "txteditor/RecoveryJournal.h"
 #include "txteditor/clsTFile.h"
 #include "ui/TextCodec.h"
 #include "ui/UserInterface.h"
 
 #include <array>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 class RecordDataModel;
 class RecordListModel;
 class WatchModel;
+class frmFind;
 
 /// Which text the record list shows.
 enum class NameMode { Name, Race, ID };
@@ -35,12 +39,24 @@ public:
     void OpenFile(std::string Name);
     /// Asks where to, and saves there; false if nothing was saved.
     bool SaveFile();
+    /// Removes a record, as another window's paste does to finish a cut. Failures are said in a
+    /// box.
+    void DeleteObj(const RecordPtr& Object) { DeleteObjects({Object}); }
+    void DeleteObjects(const std::vector<RecordPtr>& Objects);
+    /// Opens the file of a journal that a crash left, and brings its changes back; says what does
+    /// not fit, and leaves the journal then.
+    void Recover(LeftJournal Left);
+
+    // The find dialog's events
+    void m_find_OnFindNext(bool WholeWords, bool ByID, QString& Text, QVariant& Tag, bool& Found);
+    void m_find_OnClose();
 
     [[nodiscard]] const clsTxtParser& Parser() const noexcept { return m_file.Parser; }
     [[nodiscard]] RecordPtr SelectedObject() const { return m_selected; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -50,6 +66,9 @@ private:
     // Setting up
     void BuildControls();
     QWidget* BuildListSide();
+    QWidget* BuildListOptions(QWidget* Side);
+    void BuildObjectView(QWidget* Side);
+    void BuildFilter(QWidget* Side);
     QWidget* BuildObjectSide();
     QWidget* BuildRawPage();
     QWidget* BuildWatch();
@@ -58,9 +77,16 @@ private:
     void BuildActions();
     void BuildMenus();
     void BuildToolbar();
+    void BuildPopup();
     void ConnectControls();
+    void ConnectList();
+    void ConnectUndo();
+    void FollowDisk();
     void LoadSettings();
     void SaveSettings();
+    [[nodiscard]] std::array<std::pair<const char*, QSplitter*>, 2> KeptSplitters() const;
+    void KeepClassWidth();
+    [[nodiscard]] bool OnKey(const QObject* Watched, int Key);
 
     // Actions
     [[nodiscard]] QAction* Action(const char* Id) const;
@@ -69,8 +95,12 @@ private:
     [[nodiscard]] bool HasFile() const { return !m_file.Parser.FileName.empty(); }
     [[nodiscard]] bool HasPanel() const { return m_activeEditor != nullptr; }
     [[nodiscard]] bool HasField() const;
+    [[nodiscard]] bool CanPaste() const;
     [[nodiscard]] bool CanUndo() const;
     [[nodiscard]] bool CanRedo() const;
+    [[nodiscard]] bool DropFile(QDropEvent* Drop);
+    void ShowPopup(const QPoint& Place);
+    [[nodiscard]] bool PopupWanted(QEvent* Event);
     void OpenDropped(const QString& Path);
     void OnOpen() { OpenFile({}); }
     void OnOpenFromView();
@@ -80,6 +110,15 @@ private:
     void OnUndo();
     void OnRedo();
     void OnEditField();
+    void OnCopyFields();
+    void OnNew();
+    void OnCopy() { Take(RecordClipboard::Mode::Copied); }
+    void OnCut() { Take(RecordClipboard::Mode::Cut); }
+    void OnPaste();
+    void OnDelete();
+    void OnFind();
+    void OnFindNext();
+    void OnFilter();
     void OnKesh();
     void OnDesc();
     void OnHelp();
@@ -102,6 +141,38 @@ private:
     [[nodiscard]] TextEncoding FileEncoding() const;
     void Say(const QString& Text, BoxIcon Icon);
 
+    // Copy, cut, paste, delete
+    /// What is to be put into the file.
+    struct Paste {
+        std::vector<RecordPtr> Sources; ///< none: one new record
+        bool FinishCut = false;
+        QString Name; ///< of the action
+    };
+    void Take(RecordClipboard::Mode HowTaken);
+    void PasteText(const QString& Text);
+    void InsertRecords(const Paste& What);
+    /// The record to insert before, or none for the end; nothing if it is not to be.
+    [[nodiscard]] std::optional<RecordPtr> AskPlace();
+    [[nodiscard]] std::optional<std::vector<RecordPtr>> MakeRecords(const Paste& What,
+                                                                    const RecordPtr& Before);
+    [[nodiscard]] RecordPtr MakeRecord(const RecordPtr& Source, const RecordPtr& Before);
+    void NameRecords(const std::vector<RecordPtr>& Made, std::unordered_set<std::string> Taken);
+    void Forget(const std::vector<RecordPtr>& Made);
+    void ListRecords(const std::vector<RecordPtr>& Made, const RecordPtr& Before);
+    void FinishCut(const std::vector<RecordPtr>& Objects);
+    [[nodiscard]] bool ForgetInPanel(const std::vector<RecordPtr>& Objects);
+    [[nodiscard]] std::vector<RecordPtr> SelectedRecords() const;
+
+    // Find and filter
+    bool FindNext(const QString& Text, bool WholeWords, QVariant& Tag);
+    void OnFiltered();
+
+    // Crashes, and other programs
+    void FlushJournal();
+    void BeginJournal();
+    void AnnounceSave(const JournalBase& Base);
+    void LookAtDisk();
+
     // Records
     void SelectFileType(std::int32_t OType);
     void PickPanel(std::int32_t OType);
@@ -114,13 +185,18 @@ private:
     void UpdateNameColumn();
     [[nodiscard]] std::vector<RecordPtr> ListedRecords();
     void FillList();
+    void UpdateCount();
     void SelectRecord(const RecordPtr& Record);
+    void SelectRecords(const std::vector<RecordPtr>& Records);
+    void OnSelection();
     void ShowObject(const RecordPtr& Record);
     void UpdateObjectViews();
     void UpdateWatch();
     void TakeChanges();
     void OnObjectChanged(const RecordPtr& Record);
     void OnRecordReset(const RecordPtr& Record);
+    void OnRecordsAdded(const std::vector<RecordPtr>& Added);
+    void OnRecordsRemoved(const std::vector<RecordPtr>& Removed);
 
     clsTFile m_file;
     RecordUndo m_undo{m_file.Parser};
@@ -129,6 +205,14 @@ private:
     static constexpr std::int32_t noType = -1; ///< served by no panel
     std::int32_t m_objectType = noType;
     RecordPtr m_selected;
+    RecordPtr m_hidden; ///< was on view until the filter took its row
+    RecoveryJournal m_journal;
+    QTimer m_flush;
+    bool m_replaying = false;
+    QFileSystemWatcher m_watcher;
+    bool m_asking = false; ///< about a file that another program changed
+    frmFind* m_find = nullptr;
+    QVariant m_findTag; ///< of finding without the dialog
     std::vector<std::string> m_recent;
     std::vector<QAction*> m_actions; ///< in the order of ActionTable
     QList<QAction*> m_recentActions;
@@ -137,6 +221,7 @@ private:
     RecordDataModel* m_data;
     WatchModel* m_watch;
     QTreeView* m_objectView = nullptr;
+    QLineEdit* m_filter = nullptr;
     QTreeView* m_dataView = nullptr;
     QListView* m_watchList = nullptr;
     QLineEdit* m_watchFrom = nullptr;
@@ -146,8 +231,11 @@ private:
     QLabel* m_objectName = nullptr;
     QTabWidget* m_tab = nullptr;
     QSplitter* m_splitter = nullptr;
+    QSplitter* m_rawSplitter = nullptr;
+    int m_classWidth = 0; ///< of the class column, pixels
     QLabel* m_barObject = nullptr;
     QLabel* m_barCount = nullptr;
     QMenu* m_openMenu = nullptr;
     QMenu* m_recentMenu = nullptr;
+    QMenu* m_popup = nullptr;
 };

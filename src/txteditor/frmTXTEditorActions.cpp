@@ -33,12 +33,15 @@ const std::vector<MenuEntry>& menuTable() {
          {"open", "vfs://", "mnuRecent", separator, "save", "export", separator, "close"}},
         {"mnuEdit",
          QT_TRANSLATE_NOOP("frmTXTEditor", "&Edit"),
-         {"undo", "redo", separator, "edit"}},
+         {"undo", "redo", separator, "mnuNew", "mnuCopy", "mnuCut", "mnuPaste", "mnuDel", separator,
+          "find", "findNext", "filter", separator, "edit", "copyFields"}},
         {"mnuTools", QT_TRANSLATE_NOOP("frmTXTEditor", "&Tools"), {"kesh", "desc"}},
         {"mnuHelp", QT_TRANSLATE_NOOP("frmTXTEditor", "&Help"), {"help", "about"}},
     };
     return menus;
 }
+
+constexpr std::array popupActions = {"mnuNew", "mnuCopy", "mnuCut", "mnuPaste", "mnuDel"};
 
 constexpr std::array toolbarActions = {"open", "save",    separator, "kesh",
                                        "desc", separator, "about"};
@@ -68,8 +71,27 @@ const std::vector<frmTXTEditor::ActionEntry>& frmTXTEditor::ActionTable() {
          &Window::CanUndo, &Window::OnUndo},
         {"redo", QT_TR_NOOP("&Redo"), QT_TR_NOOP("Make the change again"), "Ctrl+Shift+Z; Ctrl+Y",
          &Window::CanRedo, &Window::OnRedo},
+        {"mnuNew", QT_TR_NOOP("&Add..."), QT_TR_NOOP("Add a new object"), "Ins", &Window::HasFile,
+         &Window::OnNew},
+        {"mnuCopy", QT_TR_NOOP("&Copy"), QT_TR_NOOP("Copy the selected objects"), "Ctrl+C",
+         &Window::HasFile, &Window::OnCopy},
+        {"mnuCut", QT_TR_NOOP("Cu&t"),
+         QT_TR_NOOP("Copy the selected objects, and delete them where they are pasted"), "Ctrl+X",
+         &Window::HasFile, &Window::OnCut},
+        {"mnuPaste", QT_TR_NOOP("&Paste..."), QT_TR_NOOP("Add the objects that were copied or cut"),
+         "Ctrl+V", &Window::CanPaste, &Window::OnPaste},
+        {"mnuDel", QT_TR_NOOP("&Delete..."), QT_TR_NOOP("Delete the selected objects"), "Del",
+         &Window::HasFile, &Window::OnDelete},
+        {"find", QT_TR_NOOP("&Find..."), QT_TR_NOOP("Find a text in the list"), "Ctrl+F",
+         &Window::Always, &Window::OnFind},
+        {"findNext", QT_TR_NOOP("Find &next"), QT_TR_NOOP("Find the same text again"), "F3",
+         &Window::HasFile, &Window::OnFindNext},
+        {"filter", QT_TR_NOOP("Filter the &list"), QT_TR_NOOP("Go to the filter of the list"),
+         "Ctrl+L", &Window::Always, &Window::OnFilter},
         {"edit", QT_TR_NOOP("Edit &value..."), QT_TR_NOOP("Change the selected field"), "F2",
          &Window::HasField, &Window::OnEditField},
+        {"copyFields", QT_TR_NOOP("C&opy values"), QT_TR_NOOP("Copy the selected fields as text"),
+         "Ctrl+C", &Window::HasField, &Window::OnCopyFields},
         {"kesh", QT_TR_NOOP("Run the &game"), QT_TR_NOOP("Run the game"), "", &Window::Always,
          &Window::OnKesh},
         {"desc", QT_TR_NOOP("&Text resources"), QT_TR_NOOP("Show the Text Resource Editor"), "",
@@ -149,6 +171,21 @@ void frmTXTEditor::BuildToolbar() {
     dropDown("save", saveMenu);
 }
 
+/// What the list's keys mean belongs to the list: elsewhere they mean something else.
+void frmTXTEditor::BuildPopup() {
+    m_popup = new QMenu(this);
+    m_popup->setObjectName(QStringLiteral("mnuPopup"));
+    const auto only = [this](QWidget* widget, const char* id) {
+        QAction* action = Action(id);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        widget->addAction(action);
+        return action;
+    };
+    for (const char* id : popupActions)
+        m_popup->addAction(only(m_objectView, id));
+    only(m_dataView, "copyFields");
+}
+
 void frmTXTEditor::UpdateActions() {
     const auto& table = ActionTable();
     for (std::size_t i = 0; i < table.size(); ++i)
@@ -189,6 +226,15 @@ bool frmTXTEditor::CanUndo() const {
 
 bool frmTXTEditor::CanRedo() const {
     return m_undo.Stack().canRedo();
+}
+
+void frmTXTEditor::OnCopyFields() {
+    QModelIndexList rows = m_dataView->selectionModel()->selectedRows(1);
+    std::sort(rows.begin(), rows.end());
+    QStringList values;
+    for (const QModelIndex& row : rows)
+        values.append(row.data().toString());
+    QGuiApplication::clipboard()->setText(values.join(u'\n'));
 }
 
 void frmTXTEditor::OnOpenFromView() {

@@ -5,10 +5,12 @@
 #include "files/mdlPaths.h"
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
+#include "tdata/mdlKeshConst.h"
 #include "txteditor/RecordListModel.h"
 #include "txteditor/TFileDialog.h"
 #include "txteditor/frmTXTEditor.h"
 #include "ui/CommonBoxes.h"
+#include "ui/frmFind.h"
 #include "ui/frmWait.h"
 
 namespace {
@@ -33,6 +35,15 @@ std::int32_t fileTypeOf(int filterIndex) {
     default:
         return LORNFD_AS_IS;
     }
+}
+
+/// What is to be known before a save of a type whose written form is not its own; empty for the
+/// others.
+std::string notReadBack(std::int32_t type) {
+    return type >= otype::JobWings && type <= otype::IconData
+               ? "Files of this type have a form of their own. They are written as plain records, "
+                 "which are not read back as this file was read."
+               : std::string();
 }
 
 } // namespace
@@ -94,7 +105,14 @@ void frmTXTEditor::LoadFile(const std::string& Name) {
 
 void frmTXTEditor::ShowFile() {
     m_undo.Clear();
+    BeginJournal();
+    FollowDisk();
     m_selected.reset();
+    m_hidden.reset();
+    m_filter->clear();
+    m_findTag.clear();
+    if (m_find)
+        m_find->ClearTag();
     m_list->SetRecords({});
     SelectFileType(HasFile() ? m_file.Parser.otype() : noType);
     FillList();
@@ -139,7 +157,8 @@ bool frmTXTEditor::SaveFile() {
     {
         const Busy busy(tr("Saving %1").arg(shown(*name)), this,
                         FileSizeHint(m_file.Parser.FileName) > longWork);
-        result = m_file.Save(*name, fileTypeOf(choice->FilterIndex));
+        result = m_file.Save(*name, fileTypeOf(choice->FilterIndex),
+                             [this](const JournalBase& base) { AnnounceSave(base); });
     }
     if (result.Kind != clsTFile::Outcome::Done) {
         const QString what = result.Kind == clsTFile::Outcome::NotOpened
@@ -149,6 +168,8 @@ bool frmTXTEditor::SaveFile() {
         return false;
     }
     m_undo.MarkSaved();
+    BeginJournal();
+    FollowDisk();
     AddRecent(*name);
     UpdateCaption();
     return true;
@@ -179,8 +200,10 @@ bool frmTXTEditor::MayLoseData() {
                                 {tr("TXT Editor"), lines({ToScreen(finding), QString(), question}),
                                  BoxIcon::Exclamation, BoxButtons::YesNo}) == Answer::Yes;
     };
-    return may(m_file.Parser.LeftOut(), tr("Do you want to save the file without it?")) &&
-           may(m_file.Parser.Misfit(), tr("Do you want to save the file anyway?"));
+    const QString anyway = tr("Do you want to save the file anyway?");
+    return may(notReadBack(m_objectType), anyway) &&
+           may(m_file.Parser.LeftOut(), tr("Do you want to save the file without it?")) &&
+           may(m_file.Parser.Misfit(), anyway);
 }
 
 bool frmTXTEditor::MakeCatalog(const std::string& Name) {

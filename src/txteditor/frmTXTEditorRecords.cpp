@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr int classWidth = 133;           ///< pixels
 constexpr std::size_t longSort = 100'000; ///< records from which the wait window shows
 constexpr int rawTab = 0;
 constexpr int panelTab = 1;
@@ -77,13 +76,19 @@ void frmTXTEditor::ApplyPanelInfo(std::int32_t Info) {
         });
         m_objectView->header()->setStretchLastSection(false);
         m_objectView->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-        m_objectView->setColumnWidth(1, classWidth);
+        m_objectView->setColumnWidth(1, m_classWidth);
     } else {
+        KeepClassWidth();
         m_list->SetClassColumn({});
         m_objectView->header()->setStretchLastSection(true);
     }
     m_names[0]->setEnabled((Info & panelinfo::HasNames) != 0 && Settings->LoadDescriptions());
     m_names[1]->setEnabled((Info & panelinfo::HasRaces) != 0);
+}
+
+void frmTXTEditor::KeepClassWidth() {
+    if (m_list->columnCount() > 1)
+        m_classWidth = m_objectView->columnWidth(1);
 }
 
 void frmTXTEditor::UpdateCaption() {
@@ -146,15 +151,22 @@ std::vector<RecordPtr> frmTXTEditor::ListedRecords() {
     std::vector<RecordPtr> records;
     records.reserve(parser.ByName().size());
     for (const clsTXTObject* record : parser.ByName())
-        records.push_back(parser.Find(record->ID));
+        records.push_back(parser.FindIndex(record->Index));
     return records;
 }
 
 void frmTXTEditor::FillList() {
     const RecordPtr selected = m_selected;
     m_list->SetRecords(ListedRecords());
-    m_barCount->setText(tr("%1 objects").arg(m_list->rowCount()));
+    UpdateCount();
     SelectRecord(selected);
+}
+
+void frmTXTEditor::UpdateCount() {
+    const int all = m_list->RecordCount();
+    m_barCount->setText(m_list->HasFilter()
+                            ? tr("%1 of %2 objects").arg(m_list->rowCount()).arg(all)
+                            : tr("%1 objects").arg(all));
 }
 
 void frmTXTEditor::SelectRecord(const RecordPtr& Record) {
@@ -168,6 +180,42 @@ void frmTXTEditor::SelectRecord(const RecordPtr& Record) {
     else
         m_objectView->setCurrentIndex(row); // shows it
     m_objectView->scrollTo(row);
+}
+
+/// Selects their rows and shows the first; a filter that hides it is taken away.
+void frmTXTEditor::SelectRecords(const std::vector<RecordPtr>& Records) {
+    if (m_list->HasFilter() && !m_list->IndexOf(Records.front().get()).isValid())
+        m_filter->clear();
+    SelectRecord(Records.front());
+    if (Records.size() == 1)
+        return;
+    std::unordered_set<const clsTXTObject*> wanted;
+    for (const RecordPtr& record : Records)
+        wanted.insert(record.get());
+    QItemSelection rows;
+    for (int row = 0; row < m_list->rowCount(); ++row) {
+        const QModelIndex index = m_list->index(row, 0);
+        if (!wanted.contains(m_list->Record(index).get()))
+            continue;
+        if (!rows.isEmpty() && rows.last().bottom() == row - 1)
+            rows.last() = QItemSelectionRange(rows.last().topLeft(), index);
+        else
+            rows.append(QItemSelectionRange(index));
+    }
+    m_objectView->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect |
+                                                     QItemSelectionModel::Rows);
+}
+
+void frmTXTEditor::OnSelection() {
+    const QItemSelectionModel* selection = m_objectView->selectionModel();
+    QModelIndex row = selection->currentIndex();
+    if (!selection->isSelected(row))
+        row = selection->selection().value(0).topLeft();
+    const RecordPtr record = m_list->Record(row);
+    if (record == m_selected)
+        return;
+    TakeChanges();
+    ShowObject(record);
 }
 
 void frmTXTEditor::ShowObject(const RecordPtr& Record) {
@@ -227,7 +275,9 @@ void frmTXTEditor::OnObjectChanged(const RecordPtr& Record) {
 void frmTXTEditor::OnRecordReset(const RecordPtr& Record) {
     if (m_activeEditor)
         m_activeEditor->ObjectReset(Record);
+    if (m_replaying)
+        return;
     m_list->Refresh(Record.get());
-    SelectRecord(Record);
+    SelectRecords({Record});
     UpdateCaption();
 }

@@ -25,6 +25,8 @@ protected:
     ~EditorTest() override {
         lornfd::setFaultHook({});
         delete window.data();
+        RecordClipboard::Instance().Clear();
+        QGuiApplication::clipboard()->clear();
         KeshVFS_CreateVFS({});
         Settings.reset();
     }
@@ -47,6 +49,7 @@ protected:
     void start(const char* name = nullptr, const frmTXTEditor::Panels& panels = {}) {
         window = new frmTXTEditor(panels);
         window->MyShow();
+        QApplication::setActiveWindow(window); // no window manager does it here
         if (name)
             window->OpenFile(program(name));
     }
@@ -96,6 +99,21 @@ protected:
             if (dialog->isVisible())
                 dialog->findChild<QPushButton*>(QStringLiteral("btnCancel"))->click();
         });
+    }
+    /// The records' names in file order.
+    [[nodiscard]] static QString names(const frmTXTEditor& editor) {
+        QStringList found;
+        for (const RecordPtr& record : editor.Parser().ByIndex())
+            found.append(QString::fromStdString(std::string(record->ObjectName())));
+        return found.join(u' ');
+    }
+    [[nodiscard]] QString names() const { return names(*window); }
+    /// Selects rows from one to another.
+    void pickRows(int first, int last) {
+        pick("ObjectView", first);
+        QAbstractItemView* list = view("ObjectView");
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ShiftModifier,
+                          list->visualRect(list->model()->index(last, 0)).center());
     }
     /// Changes a field of a record in the raw view.
     void editField(int record, int field, const QString& text) {

@@ -1,8 +1,10 @@
 // A panel whose answers a test sets.
 #pragma once
 
+#include "tdata/NewObjectName.h"
 #include "txteditor/ObjectEditor.h"
 
+#include <set>
 #include <stdexcept>
 
 class FakePanel : public ObjectEditor {
@@ -18,13 +20,24 @@ public:
     std::optional<KeshValue> Back; ///< of any text; none refuses
     std::vector<std::string> Choices;
 
+    clsTxtParser* Parser = nullptr;
+    std::set<const clsTXTObject*> Known; ///< the records of which it has views
+    const clsTXTObject* Keeps = nullptr; ///< it does not let this record go
+    int Creations = 1000000;             ///< before it fails
+
     RecordPtr Shown;
     RecordPtr Reset;
 
     std::string GetLastError() const override { return "no laser file"; }
     bool LornQueryInterface(std::int32_t OType) const override { return OType == Serves; }
     bool LornQueryInterfaceEx(std::int32_t& OType) override { return OType == Serves; }
-    bool Init(clsTxtParser&) override { return InitResult; }
+    bool Init(clsTxtParser& File) override {
+        Parser = &File;
+        Known.clear();
+        for (const RecordPtr& record : File.ByIndex())
+            Known.insert(record.get());
+        return InitResult;
+    }
     std::string ObjectTypeName(std::int32_t) const override { return Text("Things v.1"); }
     std::string PageName(std::int32_t) const override { return "Thing info"; }
     std::int32_t LornQueryInfo(std::int32_t) const override { return Info; }
@@ -43,10 +56,24 @@ public:
         return Text(Object->Index == 0 ? "First" : "");
     }
     void ShowObject(const RecordPtr& Object, std::int32_t) override { Shown = Object; }
-    RecordPtr CreateObject(std::int32_t, clsTxtParser&, const RecordPtr&) override { return {}; }
-    bool InitObject(const RecordPtr&) override { return true; }
-    bool RemoveObject(const RecordPtr&) override { return true; }
-    bool LornAssignUniqueObjectName(const RecordPtr&) override { return true; }
+    RecordPtr CreateObject(std::int32_t, clsTxtParser& Target, const RecordPtr& Before) override {
+        if (Creations == 0)
+            return {};
+        --Creations;
+        const RecordPtr made = Target.CreateObjectBefore(Before);
+        made->Construct(17);
+        Known.insert(made.get());
+        return made;
+    }
+    bool InitObject(const RecordPtr& Object) override { return Known.contains(Object.get()); }
+    bool RemoveObject(const RecordPtr& Object) override {
+        return Object.get() != Keeps && Known.erase(Object.get()) == 1;
+    }
+    void RestoreObject(const RecordPtr& Object) override { Known.insert(Object.get()); }
+    bool LornAssignUniqueObjectName(const RecordPtr& Object) override {
+        Object->SetObjectName(NewObjectName(*Parser));
+        return true;
+    }
     std::string LornGetPropertyName(const RecordPtr&, std::int32_t) const override {
         return "Speed";
     }

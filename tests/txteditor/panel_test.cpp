@@ -72,6 +72,8 @@ TEST_F(PanelWindow, GoesOnWithoutAPanelThatFails) {
 
 TEST_F(PanelWindow, ReportsErrorsInTheFileAndStaysOpen) {
     panel->Report = "ship 3 has no hull";
+    write("TWareT.txt", wares({"A", "B"}));
+    start({}, {panel});
     QString shown;
     QTimer::singleShot(0, qApp, [&] {
         auto* report = qobject_cast<frmText*>(QApplication::activeModalWidget());
@@ -79,7 +81,7 @@ TEST_F(PanelWindow, ReportsErrorsInTheFileAndStaysOpen) {
         shown = report->windowTitle() + u'|' + report->Text();
         report->findChild<QPushButton*>(QStringLiteral("btnOK"))->click();
     });
-    startWithWares({panel});
+    window->OpenFile(program("TWareT.txt"));
     EXPECT_EQ(shown, QStringLiteral("Errors in file data|ship 3 has no hull"));
     EXPECT_EQ(label("Bar1"), QStringLiteral("2 objects"));
 }

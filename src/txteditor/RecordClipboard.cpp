@@ -1,0 +1,68 @@
+#include "txteditor/RecordClipboard.h"
+
+#include "txteditor/frmTXTEditor.h"
+
+namespace {
+
+/// Marks the text as this program's, whose records are at hand themselves.
+constexpr auto ownFormat = "application/x-kesh-records";
+
+} // namespace
+
+RecordClipboard& RecordClipboard::Instance() {
+    static QPointer<RecordClipboard> instance;
+    if (!instance) {
+        instance = new RecordClipboard;
+        instance->setParent(qApp);
+    }
+    return *instance;
+}
+
+RecordClipboard::RecordClipboard() {
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
+            &RecordClipboard::LookAtSystem);
+    LookAtSystem();
+}
+
+RecordPtr RecordClipboard::ClipboardObject() const {
+    return m_objects.empty() ? RecordPtr() : m_objects.front();
+}
+
+frmTXTEditor* RecordClipboard::ClipboardSource() const {
+    return qobject_cast<frmTXTEditor*>(m_source.data());
+}
+
+bool RecordClipboard::HasObjects() const {
+    return !m_objects.empty() && m_mode != Mode::Nothing;
+}
+
+void RecordClipboard::Set(std::vector<RecordPtr> Objects, Mode HowTaken, frmTXTEditor* Source,
+                          const QString& Text) {
+    m_objects = std::move(Objects);
+    m_mode = HowTaken;
+    m_source = m_objects.empty() ? nullptr : Source;
+    auto data = std::make_unique<QMimeData>();
+    data->setText(Text);
+    data->setData(QString::fromLatin1(ownFormat), {});
+    QGuiApplication::clipboard()->setMimeData(data.release());
+    Q_EMIT Changed();
+}
+
+void RecordClipboard::SetSource(frmTXTEditor* Source) {
+    m_source = m_objects.empty() ? nullptr : Source;
+    Q_EMIT Changed();
+}
+
+void RecordClipboard::Clear() {
+    m_objects.clear();
+    m_mode = Mode::Nothing;
+    m_source = nullptr;
+    Q_EMIT Changed();
+}
+
+void RecordClipboard::LookAtSystem() {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    m_foreignText = data && data->hasText() && !data->hasFormat(QString::fromLatin1(ownFormat)) &&
+                    data->text().contains(u';');
+    Q_EMIT Changed();
+}

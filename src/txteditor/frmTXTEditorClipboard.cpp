@@ -1,0 +1,279 @@
+// Adding, copying, cutting, pasting and deleting records in the TXT Editor.
+#include "core/KeshError.h"
+#include "txteditor/RecordListModel.h"
+#include "txteditor/RecordText.h"
+#include "txteditor/frmTXTEditor.h"
+#include "ui/frmWait.h"
+
+namespace {
+
+constexpr std::size_t longPaste = 500; ///< records from which the wait window shows
+constexpr int progressTime = 100;      ///< milliseconds between two progress texts
+
+/// Says how far a long work is, now and then.
+class Progress {
+public:
+    explicit Progress(std::size_t all) : m_all(all) {}
+    void Done() {
+        ++m_done;
+        if (!m_next.hasExpired())
+            return;
+        UpdateWait(frmTXTEditor::tr("Pasting records: %1 of %2").arg(m_done).arg(m_all));
+        m_next.setRemainingTime(progressTime);
+    }
+
+private:
+    std::size_t m_all;
+    std::size_t m_done = 0;
+    QDeadlineTimer m_next{progressTime};
+};
+
+QString nameOf(const std::vector<RecordPtr>& records) {
+    return records.size() == 1 ? ToScreen(records.front()->ObjectName())
+                               : frmTXTEditor::tr("%1 objects").arg(records.size());
+}
+
+QString twoLines(const QString& first, const QString& second) {
+    return first + u'\n' + second;
+}
+
+} // namespace
+
+std::vector<RecordPtr> frmTXTEditor::SelectedRecords() const {
+    std::vector<RecordPtr> records;
+    for (const QModelIndex& row : m_objectView->selectionModel()->selectedRows())
+        records.push_back(m_list->Record(row));
+    std::ranges::sort(records, {}, &clsTXTObject::Index);
+    return records;
+}
+
+void frmTXTEditor::Take(RecordClipboard::Mode HowTaken) {
+    const std::vector<RecordPtr> records = SelectedRecords();
+    if (!records.empty())
+        RecordClipboard::Instance().Set(records, HowTaken, this, ToScreen(TextOfRecords(records)));
+}
+
+bool frmTXTEditor::CanPaste() const {
+    const RecordClipboard& clipboard = RecordClipboard::Instance();
+    return clipboard.HasObjects() || (HasFile() && clipboard.HasForeignText());
+}
+
+void frmTXTEditor::OnNew() {
+    if (HasFile())
+        InsertRecords({{}, false, tr("new object")});
+}
+
+void frmTXTEditor::OnPaste() {
+    const RecordClipboard& clipboard = RecordClipboard::Instance();
+    if (!HasFile())
+        return;
+    if (clipboard.HasForeignText()) // it came after what was copied here
+        PasteText(QGuiApplication::clipboard()->text());
+    else if (clipboard.HasObjects())
+        InsertRecords({clipboard.Objects(), clipboard.ClipboardMode() == RecordClipboard::Mode::Cut,
+                       tr("paste of %1").arg(nameOf(clipboard.Objects()))});
+}
+
+void frmTXTEditor::PasteText(const QString& Text) {
+    const auto bytes = FromScreen(Text, FileEncoding());
+    const ReadRecords read = bytes ? RecordsOfText(*bytes, m_file.Parser) : ReadRecords();
+    if (read.Records.empty() && HasPanel()) { // without one nothing can be added at all
+        Say(twoLines(tr("The text on the clipboard holds no objects of this file's type."),
+                     ToScreen(read.Reason)),
+            BoxIcon::Exclamation);
+        return;
+    }
+    InsertRecords({read.Records, false, tr("paste of %1").arg(nameOf(read.Records))});
+}
+
+void frmTXTEditor::InsertRecords(const Paste& What) {
+    if (!m_activeEditor) {
+        Say(tr("This type of file is not recognized. You cannot add objects to it."),
+            BoxIcon::Exclamation);
+        return;
+    }
+    const auto fits = [this](const RecordPtr& source) { return source->otype == m_objectType; };
+    if (!std::ranges::all_of(What.Sources, fits)) {
+        Say(tr("Cannot insert: object types are different."), BoxIcon::Exclamation);
+        return;
+    }
+    const auto before = AskPlace();
+    if (!before)
+        return;
+    TakeChanges();
+    const auto made = MakeRecords(What, *before);
+    if (!made)
+        return;
+    m_undo.Stack().beginMacro(What.Name); // a cut may take the originals from this file too
+    m_undo.TakeAdded(*made, What.Name);
+    ListRecords(*made, *before);
+    if (What.FinishCut)
+        FinishCut(What.Sources);
+    m_undo.Stack().endMacro();
+    SelectRecords(*made);
+    UpdateCaption();
+    UpdateCount();
+}
+
+std::optional<RecordPtr> frmTXTEditor::AskPlace() {
+    if (!m_selected)
+        return RecordPtr();
+    const QString question =
+        tr("Do you want to insert new object before currenty selected object?\n"
+           "Press Yes to insert object before the current one.\n"
+           "Press No to add object at the end.");
+    const Answer answer = Ui().ShowMessage(
+        this, {tr("TXT Editor"), question, BoxIcon::Question, BoxButtons::YesNoCancel});
+    if (answer == Answer::No)
+        return RecordPtr();
+    if (answer != Answer::Yes)
+        return {};
+    if (!m_sort->isChecked())
+        return m_selected;
+    Say(tr("You cannot insert object into sorted list.\n"
+           "Uncheck the Sort checkbox and insert the object again."),
+        BoxIcon::Exclamation);
+    return {};
+}
+
+std::optional<std::vector<RecordPtr>> frmTXTEditor::MakeRecords(const Paste& What,
+                                                                const RecordPtr& Before) {
+    const std::vector<RecordPtr> sources =
+        What.Sources.empty() ? std::vector<RecordPtr>{RecordPtr()} : What.Sources;
+    const Busy busy(tr("Pasting records"), this, sources.size() > longPaste);
+    Progress progress(sources.size());
+    std::unordered_set<std::string> names;
+    for (const RecordPtr& record : m_file.Parser.ByIndex())
+        names.emplace(record->ObjectName());
+    std::vector<RecordPtr> made;
+    std::optional<BulkInsert> bulk;
+    if (sources.size() > 1)
+        bulk.emplace(m_file.Parser, Before);
+    try {
+        for (const RecordPtr& source : sources) {
+            made.push_back(MakeRecord(source, Before));
+            progress.Done();
+        }
+        if (!What.FinishCut)
+            NameRecords(made, std::move(names));
+        return made;
+    } catch (const std::exception& failure) {
+        bulk.reset();
+        Forget(made);
+        Say(twoLines(tr("Error creating object: "), ToScreen(failure.what())), BoxIcon::Critical);
+        return {};
+    }
+}
+
+/// A new record of the panel's making, with the source's values if there is one.
+RecordPtr frmTXTEditor::MakeRecord(const RecordPtr& Source, const RecordPtr& Before) {
+    const RecordPtr made = m_activeEditor->CreateObject(m_objectType, m_file.Parser, Before);
+    if (!made)
+        throw KeshError(errnum::General, "frmTXTEditor", m_activeEditor->GetLastError());
+    if (Source) {
+        const auto index = made->Index;
+        const auto id = made->ID;
+        Source->CopyTo(*made);
+        made->Index = index;
+        made->ID = id;
+        static_cast<void>(m_activeEditor->InitObject(made));
+    }
+    return made;
+}
+
+/// IDs that are empty or taken are replaced.
+void frmTXTEditor::NameRecords(const std::vector<RecordPtr>& Made,
+                               std::unordered_set<std::string> Taken) {
+    for (const RecordPtr& record : Made)
+        if (record->ObjectName().empty() || !Taken.emplace(record->ObjectName()).second) {
+            m_activeEditor->LornAssignUniqueObjectName(record);
+            Taken.emplace(record->ObjectName());
+        }
+}
+
+/// Takes back what could not be finished.
+void frmTXTEditor::Forget(const std::vector<RecordPtr>& Made) {
+    for (const RecordPtr& record : Made)
+        static_cast<void>(m_activeEditor->RemoveObject(record));
+    static_cast<void>(m_file.Parser.RemoveObjects(Made));
+    m_undo.RestoreStructure();
+}
+
+void frmTXTEditor::ListRecords(const std::vector<RecordPtr>& Made, const RecordPtr& Before) {
+    m_filter->clear(); // it might hide them
+    const QModelIndex row = m_list->IndexOf(Before.get());
+    m_list->Insert(row.isValid() ? row.row() : m_list->rowCount(), Made);
+}
+
+void frmTXTEditor::FinishCut(const std::vector<RecordPtr>& Objects) {
+    frmTXTEditor* const source = RecordClipboard::Instance().ClipboardSource();
+    if (source)
+        source->DeleteObjects(Objects);
+    else
+        Say(tr("Cannot delete object from source window - maybe it was closed?"),
+            BoxIcon::Exclamation);
+    RecordClipboard::Instance().Clear();
+}
+
+void frmTXTEditor::OnDelete() {
+    const std::vector<RecordPtr> records = SelectedRecords();
+    if (records.empty())
+        return;
+    const QString question =
+        records.size() == 1
+            ? tr("Do you really want to delete the selected object ") + nameOf(records) + tr(" ?")
+            : tr("Do you really want to delete the %1 selected objects ?").arg(records.size());
+    if (Ui().ShowMessage(this, {tr("TXT Editor"), question, BoxIcon::Question,
+                                BoxButtons::YesNo}) == Answer::Yes)
+        DeleteObjects(records);
+}
+
+void frmTXTEditor::DeleteObjects(const std::vector<RecordPtr>& Objects) {
+    TakeChanges();
+    if (!ForgetInPanel(Objects)) {
+        Say(tr("Error removing object from control."), BoxIcon::Critical);
+        return;
+    }
+    if (!m_undo.Remove(Objects, tr("deletion of %1").arg(nameOf(Objects)))) {
+        Say(tr("Error removing object."), BoxIcon::Critical);
+        return;
+    }
+    UpdateCaption();
+}
+
+/// All or none.
+bool frmTXTEditor::ForgetInPanel(const std::vector<RecordPtr>& Objects) {
+    if (!m_activeEditor)
+        return true;
+    for (std::size_t i = 0; i < Objects.size(); ++i) {
+        if (m_activeEditor->RemoveObject(Objects[i]))
+            continue;
+        while (i-- > 0)
+            m_activeEditor->RestoreObject(Objects[i]);
+        return false;
+    }
+    return true;
+}
+
+void frmTXTEditor::OnRecordsAdded(const std::vector<RecordPtr>& Added) {
+    if (m_activeEditor)
+        for (const RecordPtr& record : Added)
+            m_activeEditor->RestoreObject(record);
+    if (m_replaying)
+        return;
+    FillList();
+    SelectRecords(Added);
+    UpdateCaption();
+}
+
+void frmTXTEditor::OnRecordsRemoved(const std::vector<RecordPtr>& Removed) {
+    if (m_replaying)
+        return;
+    const int row = m_list->IndexOf(Removed.front().get()).row();
+    const bool shown = std::ranges::find(Removed, m_selected) != Removed.end();
+    m_list->Remove(Removed);
+    UpdateCount();
+    UpdateCaption();
+    if (shown)
+        SelectRecord(m_list->Record(m_list->index(std::min(row, m_list->rowCount() - 1), 0)));
+}

@@ -1,0 +1,84 @@
+// What the TXT Editor keeps against crashes, and what it does when another program changes the
+// file.
+#include "files/mdlPaths.h"
+#include "txteditor/frmTXTEditor.h"
+
+namespace {
+
+QString shown(const std::string& name) {
+    return QString::fromStdString(ShownPath(name));
+}
+
+} // namespace
+
+void frmTXTEditor::BeginJournal() {
+    m_flush.stop();
+    m_journal.Begin(m_file.Base());
+}
+
+/// Trouble with it is said in the status bar: the work itself goes on.
+void frmTXTEditor::FlushJournal() {
+    m_flush.stop();
+    const std::string trouble = m_journal.Flush();
+    if (!trouble.empty())
+        statusBar()->showMessage(ToScreen(trouble));
+}
+
+void frmTXTEditor::AnnounceSave(const JournalBase& Base) {
+    m_flush.stop();
+    const std::string trouble = m_journal.AnnounceSave(Base);
+    if (!trouble.empty())
+        statusBar()->showMessage(ToScreen(trouble));
+}
+
+void frmTXTEditor::Recover(LeftJournal Left) {
+    const std::string document = Left.Base.Document;
+    LoadFile(document);
+    if (m_file.Parser.FileName != document || !Left.Fits || m_file.Base() != Left.Base) {
+        Say(tr("File %1 is not as it was when it was changed. The changes cannot be brought back "
+               "into it.")
+                .arg(shown(document)),
+            BoxIcon::Exclamation);
+        return;
+    }
+    m_replaying = true;
+    const bool good = m_undo.Replay(Left.Commands, tr("recovered changes"));
+    m_replaying = false;
+    if (good)
+        m_journal.TakeOver(std::move(Left));
+    else
+        Say(tr("Not all changes of file %1 could be brought back.").arg(shown(document)),
+            BoxIcon::Exclamation);
+    FillList();
+    UpdateCaption();
+    UpdateActions();
+}
+
+void frmTXTEditor::FollowDisk() {
+    if (!m_watcher.files().isEmpty())
+        m_watcher.removePaths(m_watcher.files());
+    if (HasFile())
+        m_watcher.addPath(QString::fromStdString(m_file.ContainerPath()));
+}
+
+void frmTXTEditor::LookAtDisk() {
+    if (m_asking || !isActiveWindow() || !HasFile() || !m_file.NoticeChange())
+        return;
+    TakeChanges();
+    QString question = tr("File %1 was changed by another program.\nDo you want to load it again?")
+                           .arg(shown(m_file.Parser.FileName));
+    if (m_file.Parser.CheckDirty())
+        question += u'\n' + tr("Your changes are lost then.");
+    const QScopedValueRollback asking(m_asking, true);
+    if (Ui().ShowMessage(this, {tr("TXT Editor"), question, BoxIcon::Exclamation,
+                                BoxButtons::YesNo}) == Answer::Yes)
+        LoadFile(std::string(m_file.Parser.FileName));
+    else
+        FollowDisk(); // a file that was replaced is not followed any more
+}
+
+void frmTXTEditor::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        QMetaObject::invokeMethod(this, &frmTXTEditor::LookAtDisk, Qt::QueuedConnection);
+}

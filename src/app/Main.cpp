@@ -47,12 +47,13 @@ void createServices() {
 constexpr int lookTime = 500; ///< milliseconds between looks at a wish to end
 volatile std::sig_atomic_t endWished = 0;
 
-/// A program that is told to end ends as if its window were closed: unsaved work asks first.
+/// A program that is told to end ends as if its window were closed: unsaved work asks first. A box
+/// that is open is answered before: its window must not go away below it.
 void closeWhenTold(frmMain& launcher) {
     std::signal(SIGTERM, [](int) { endWished = 1; });
     auto* look = new QTimer(&launcher);
     QObject::connect(look, &QTimer::timeout, &launcher, [&launcher] {
-        if (std::exchange(endWished, 0) != 0)
+        if (!QApplication::activeModalWidget() && std::exchange(endWished, 0) != 0)
             launcher.close();
     });
     look->start(lookTime);
@@ -61,6 +62,7 @@ void closeWhenTold(frmMain& launcher) {
 int runMessageLoop(frmMain& launcher) {
     closeWhenTold(launcher);
     QGuiApplication::setQuitOnLastWindowClosed(true);
+    QTimer::singleShot(0, &launcher, &frmMain::OfferRecovery);
     return QCoreApplication::exec();
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/IconView.h"
 #include "app/LoadKeshData.h"
+#include "app/OfferRecovery.h"
 #include "app/Requests.h"
 #include "app/frmFiles.h"
 #include "app/frmSettings.h"
@@ -220,15 +221,24 @@ void frmMain::OpenByType(const std::string& File, const std::string& Type) {
     }
 }
 
-void frmMain::OpenTFile(const std::string& File) {
+frmTXTEditor* frmMain::NewEditor() {
     auto* editor = new frmTXTEditor;
     editor->setAttribute(Qt::WA_DeleteOnClose);
     m_editors.removeAll(nullptr);
     m_editors.append(editor);
     editor->MyShow();
     editor->setWindowState(Qt::WindowNoState);
+    return editor;
+}
+
+void frmMain::OpenTFile(const std::string& File) {
+    frmTXTEditor* editor = NewEditor();
     if (!File.empty())
         editor->OpenFile(FromPlatform(File));
+}
+
+void frmMain::OfferRecovery() {
+    ::OfferRecovery(this, [this] { return NewEditor(); });
 }
 
 void frmMain::StartGame() {
@@ -250,7 +260,7 @@ void frmMain::ShowVFS() {
         m_files = new frmFiles(this);
         m_files->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_files, &frmFiles::OpenRequested, this,
-                [this](const QString& name) { OpenByType("vfs://" + name.toStdString(), {}); });
+                [this](const std::string& name) { OpenByType("vfs://" + name, {}); });
         m_files->ShowFiles();
     }
     m_files->raise();

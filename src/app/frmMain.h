@@ -18,6 +18,8 @@ public:
     /// Carries out the command line, asks for the data directory if there is none, shows the
     /// window.
     void MyShow(const std::string& CommandLine);
+    /// Asks about unsaved work that a crash left behind.
+    void OfferRecovery();
     /// A text from another instance; true if it was a request. Raises the launcher.
     bool ProcessRequest(const std::string& Request);
 
@@ -38,6 +40,7 @@ private:
 
     void ProcessCommandLine(const std::string& CommandLine);
     void OpenByType(const std::string& File, const std::string& Type);
+    frmTXTEditor* NewEditor();
     void OpenTFile(const std::string& File);
     void OpenEmptyTFile() { OpenTFile({}); }
     void StartGame();

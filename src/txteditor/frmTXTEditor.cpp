@@ -40,7 +40,7 @@ QWidget* rowOf(std::initializer_list<QWidget*> widgets, QWidget* parent) {
 frmTXTEditor::frmTXTEditor(const Panels& Editors, QWidget* Owner)
     : QMainWindow(Owner),
       m_editors(Editors),
-      m_journal(Settings->StateDirectory() + "\\recovery"),
+      m_journal(RecoveryDirectory()),
       m_list(new RecordListModel(this)),
       m_data(new RecordDataModel(this)),
       m_watch(new WatchModel(this)) {
@@ -282,7 +282,7 @@ void frmTXTEditor::MyShow() {
             const Busy busy(tr("Loading %1").arg(tr("TXT Editor")), this, true);
             m_names[0]->setEnabled(Settings->LoadDescriptions());
         }
-        activateWindow(); // again, after the wait window
+        activateWindow();                            // again, after the wait window
         RecordClipboard::Instance().SetSource(this); // the newest window gives what was taken
         m_objectView->setFocus();
     } catch (const std::exception& failure) {

@@ -19,6 +19,9 @@ class RecordListModel;
 class WatchModel;
 class frmFind;
 
+/// Where the windows keep their journals, in the program's form.
+[[nodiscard]] std::string RecoveryDirectory();
+
 /// Which text the record list shows.
 enum class NameMode { Name, Race, ID };
 

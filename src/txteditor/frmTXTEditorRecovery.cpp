@@ -1,5 +1,7 @@
 // What the TXT Editor keeps against crashes, and what it does when another program changes the
 // file.
+#include "core/clsSettings.h"
+#include "core/mdlComFunctions.h"
 #include "files/mdlPaths.h"
 #include "txteditor/frmTXTEditor.h"
 
@@ -10,6 +12,10 @@ QString shown(const std::string& name) {
 }
 
 } // namespace
+
+std::string RecoveryDirectory() {
+    return JoinPath({Settings->StateDirectory(), "recovery"});
+}
 
 void frmTXTEditor::BeginJournal() {
     m_flush.stop();
@@ -34,7 +40,9 @@ void frmTXTEditor::AnnounceSave(const JournalBase& Base) {
 void frmTXTEditor::Recover(LeftJournal Left) {
     const std::string document = Left.Base.Document;
     LoadFile(document);
-    if (m_file.Parser.FileName != document || !Left.Fits || m_file.Base() != Left.Base) {
+    const bool fits = m_file.Parser.FileName == document && m_file.Base() == Left.Base &&
+                      StepsFit(m_file.Parser.ByIndex().size(), Left.Commands);
+    if (!fits) {
         Say(tr("File %1 is not as it was when it was changed. The changes cannot be brought back "
                "into it.")
                 .arg(shown(document)),

@@ -230,7 +230,8 @@ TEST_F(Saving, AsksBeforeItReplacesWhatAnotherProgramWrote) {
             script.Box(QStringLiteral("does not exist"), Answer::Yes);
             trigger("save");
         }
-        clsTFile other; // stands for the other program
+        QApplication::setActiveWindow(nullptr); // an active window asks at once
+        clsTFile other;                         // stands for the other program
         ASSERT_EQ(other.Open(program(target)).Kind, clsTFile::Outcome::Done);
         other.Parser.FindIndex(0)->SetValue(1, 12345);
         ASSERT_EQ(other.Save(program(target), LORNFD_PLAIN).Kind, clsTFile::Outcome::Done);

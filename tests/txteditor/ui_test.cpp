@@ -187,6 +187,8 @@ TEST_F(Windows, AboutTellsVersionAndLibraries) {
     QString all;
     for (const QLabel* label : about.findChildren<QLabel*>())
         all += label->text() + u'\n';
+    for (const QTextBrowser* text : about.findChildren<QTextBrowser*>())
+        all += text->toPlainText();
     for (const char* word : {"0.1.0", "lornfd", "keshvfs", "keshobjects", "MIT"})
         EXPECT_TRUE(all.contains(QString::fromLatin1(word))) << word;
 }

@@ -72,7 +72,9 @@ std::vector<Row> CatalogListing::List(const std::string& Directory,
             rows.push_back(std::move(row));
             return false;
         });
-    std::sort(rows.begin(), rows.end(), comesBefore);
+    std::stable_partition(rows.begin(), rows.end(), [](const Row& row) { return row.IsDirectory; });
+    if (!std::is_sorted(rows.begin(), rows.end(), comesBefore)) // of one mask they are
+        std::sort(rows.begin(), rows.end(), comesBefore);
     rows.erase(std::unique(rows.begin(), rows.end(), isSame), rows.end());
     return rows;
 }

@@ -92,6 +92,7 @@ void frmCATDialog::MakeControls() {
     m_cmbFileName->setEditable(true);
     m_cmbFileName->setInsertPolicy(QComboBox::NoInsert);
     m_cmbFileName->setCompleter(nullptr);
+    m_cmbFileName->lineEdit()->setAccessibleName(tr("File name"));
     m_btnOK->setDefault(true);
     m_btnCancel->setAutoDefault(false);
     for (QComboBox* combo : {m_cmbDir, m_cmbFileName, m_cmbFilter}) {
@@ -104,6 +105,9 @@ void frmCATDialog::MakeControls() {
     m_FileView->setRootIsDecorated(false);
     m_FileView->setItemsExpandable(false);
     m_FileView->setUniformRowHeights(true);
+    const int side = std::max(style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this),
+                              fontMetrics().ascent());
+    m_FileView->setIconSize({side, side});
     m_FileView->setAllColumnsShowFocus(true);
     m_FileView->installEventFilter(this);
     QHeaderView* header = m_FileView->header();
@@ -123,8 +127,7 @@ void frmCATDialog::MakeBars() {
         action->setShortcut(shortcut);
         action->setToolTip(
             text + QStringLiteral(" (%1)").arg(shortcut.toString(QKeySequence::NativeText)));
-        const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-        bar->setIconSize({side, side});
+        bar->setIconSize(m_FileView->iconSize());
         return action;
     };
     m_DirBar->setAccessibleName(tr("Directory"));
@@ -244,6 +247,8 @@ void frmCATDialog::Start() {
     m_cmbFileName->addItems(recentEntries());
     Enter(directory);
     m_cmbFileName->setEditText(m_fileName);
+    if (!m_fileName.isEmpty())
+        PointAt(m_fileName);
 }
 
 void frmCATDialog::Finish(int Ending) {
@@ -294,11 +299,15 @@ void frmCATDialog::GoTo(int Level) {
     const QString left = ToScreen(m_directory[level]);
     m_directory.resize(level);
     Enter(JoinPath(m_directory));
-    const QModelIndex first = m_model->index(0, 0);
-    const QModelIndex from =
-        m_model->match(first, Qt::UserRole, left, 1, Qt::MatchFixedString).value(0);
-    m_FileView->selectionModel()->setCurrentIndex(from, QItemSelectionModel::NoUpdate);
-    m_FileView->scrollTo(from);
+    PointAt(left);
+}
+
+/// Makes a row the current one, so that the arrow keys go on from there; the name box stays.
+void frmCATDialog::PointAt(const QString& Name) {
+    const QModelIndex row =
+        m_model->match(m_model->index(0, 0), Qt::UserRole, Name, 1, Qt::MatchFixedString).value(0);
+    m_FileView->selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+    m_FileView->scrollTo(row);
 }
 
 void frmCATDialog::Refresh() {

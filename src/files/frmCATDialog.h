@@ -58,6 +58,7 @@ private:
     void Enter(const std::string& Directory);
     void GoTo(int Level);
     void GoUp() { GoTo(static_cast<int>(m_directory.size()) - 1); }
+    void PointAt(const QString& Name);
     void Refresh();
     void CopyName(const QModelIndex& Index);
     void Accept();

@@ -1,6 +1,7 @@
 #include "keshvfs/view.h"
 
 #include "keshvfs/wildcard.h"
+#include "lornfd/paths.h"
 
 #include <algorithm>
 #include <random>
@@ -235,9 +236,8 @@ const std::vector<Id>& View::sortedChildren(Id directory) const {
         std::ranges::sort(sorted.children, [this](Id a, Id b) {
             const Entry& first = m_entries[a];
             const Entry& second = m_entries[b];
-            if (sameName(first.name(), second.name()))
-                return first.isDirectory() < second.isDirectory();
-            return nameLess(first.name(), second.name());
+            const int compared = lornfd::compareNoCase(first.name(), second.name());
+            return compared != 0 ? compared < 0 : first.isDirectory() < second.isDirectory();
         });
     sorted.sorted = true;
     return sorted.children;

@@ -4,6 +4,8 @@
 #include "lornfd/paths.h"
 #include "ui/TextCodec.h"
 
+#include <QTextDocument>
+
 #include <algorithm>
 #include <numeric>
 
@@ -41,7 +43,8 @@ QVariant FilesModel::data(const QModelIndex& index, int role) const {
         return ToScreen(file.Name);
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
-    return index.column() == VFSName ? ToScreen(file.Name) : ToScreen(ShownPath(file.RealName));
+    const QString text = ToScreen(index.column() == VFSName ? file.Name : ShownPath(file.RealName));
+    return role == Qt::ToolTipRole ? Qt::convertFromPlainText(text) : text; // a name is no markup
 }
 
 QVariant FilesModel::headerData(int section, Qt::Orientation orientation, int role) const {

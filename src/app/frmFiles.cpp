@@ -161,7 +161,7 @@ void frmFiles::Copy() {
 void frmFiles::Open() {
     const QModelIndex current = m_view->currentIndex();
     if (current.isValid())
-        Q_EMIT OpenRequested(QString::fromStdString(m_model.Name(current.row())));
+        Q_EMIT OpenRequested(m_model.Name(current.row()));
 }
 
 void frmFiles::UpdateActions() {

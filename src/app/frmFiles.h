@@ -20,7 +20,7 @@ public:
     void Refresh();
 
 Q_SIGNALS:
-    void OpenRequested(const QString& Name); ///< a name of the view, without "vfs://"
+    void OpenRequested(const std::string& Name); ///< a name of the view, without "vfs://"
     void Closed();
 
 protected:

@@ -92,7 +92,7 @@ TEST_F(LoadedFiles, SortsCopiesAndOpens) {
 
     QStringList opened;
     QObject::connect(&window, &frmFiles::OpenRequested, &window,
-                     [&](const QString& name) { opened.append(name); });
+                     [&](const std::string& name) { opened.append(QString::fromStdString(name)); });
     view(window).setCurrentIndex(view(window).model()->index(1, 0));
     QTest::keyClick(&view(window), Qt::Key_Return);
     EXPECT_EQ(opened, QStringList{QStringLiteral("types\\TWareT.txt")});

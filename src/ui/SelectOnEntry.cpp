@@ -16,8 +16,9 @@ bool SelectOnEntry::eventFilter(QObject* watched, QEvent* event) {
         TextBoxSelectAll(*edit, true);
         return true; // the edit would set the cursor
     }
+    // The edit selects by itself on Tab; a menu or another window that goes away is no coming.
     if (event->type() == QEvent::FocusIn &&
-        static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason)
+        static_cast<QFocusEvent*>(event)->reason() == Qt::OtherFocusReason)
         TextBoxSelectAll(*edit, false);
     return false;
 }

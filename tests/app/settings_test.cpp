@@ -163,6 +163,9 @@ TEST_F(SettingsWindow, APressSelectsTheField) {
     EXPECT_EQ(edit->selectedText(), edit->text());
     QTest::mouseClick(edit, Qt::LeftButton, {}, {8, 8});
     EXPECT_FALSE(edit->hasSelectedText()); // the second sets the cursor
+    QFocusEvent back(QEvent::FocusIn, Qt::PopupFocusReason);
+    QCoreApplication::sendEvent(edit, &back);
+    EXPECT_FALSE(edit->hasSelectedText()); // so that "Paste" of its menu replaces nothing
 }
 
 } // namespace

@@ -24,7 +24,7 @@ public:
         QStyleOptionViewItem wrapped = option;
         wrapped.rect = QRect(QPoint(), least); // as wide as text may be before it wraps
         const QSize own = QStyledItemDelegate::sizeHint(wrapped, index) + QSize(0, iconGap);
-        return own.expandedTo(least);
+        return own.expandedTo(least).boundedTo(2 * least); // however long a caption is
     }
 
 protected:
@@ -112,7 +112,7 @@ void IconView::SnapIcon(const QModelIndex& Item) {
 }
 
 void IconView::PlaceIcon(const QModelIndex& Item) {
-    if (m_autoArrange || Item.data(LauncherItems::PlaceRole).isValid())
+    if (m_autoArrange || !Item.isValid() || Item.data(LauncherItems::PlaceRole).isValid())
         return;
     const QSize cell = m_cell.isValid() ? m_cell : sizeHintForIndex(Item);
     const int columns = std::max(1, viewport()->width() / cell.width());

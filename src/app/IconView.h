@@ -13,7 +13,6 @@ public:
     /// Takes the largest item's width and height as the cell's, the first time.
     void MeasureCell();
     [[nodiscard]] QSize Cell() const noexcept { return m_cell; }
-    [[nodiscard]] bool AutoArrange() const noexcept { return m_autoArrange; }
     /// Arranged: in list order from left to right in cells, wrapping at the view's width, anew at
     /// each change. Otherwise each icon stays at the place that the model has for it.
     void SetAutoArrange(bool On);

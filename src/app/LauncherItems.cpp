@@ -7,8 +7,6 @@
 #include "ui/ProgramIcon.h"
 #include "ui/TextCodec.h"
 
-#include <limits>
-
 namespace {
 
 struct LauncherEntry {
@@ -31,7 +29,8 @@ constexpr std::array entries = {
 };
 
 constexpr int ProgramRole = Qt::UserRole + 3; ///< path of the program whose picture it shows
-constexpr int unplaced = std::numeric_limits<int>::min();
+constexpr int unplaced = -1;
+constexpr int farthest = 1 << 14; ///< pixels from the list's corner to a place that is believed
 
 const LauncherEntry& entryOf(const QString& key) {
     return *std::find_if(entries.begin(), entries.end(), [&key](const LauncherEntry& entry) {
@@ -126,8 +125,9 @@ void LauncherItems::LoadIcons() {
         const QModelIndex item = index(row, 0);
         const std::string key = settingsKeyOf(item);
         setData(item, ToScreen(Settings->ReadRegValue(key, "caption")));
-        const int left = Settings->ReadRegValue(key, "left", unplaced);
-        if (left != unplaced && !Settings->AutoArrangeIcons())
-            setData(item, QPoint(left, Settings->ReadRegValue(key, "top", 0)), PlaceRole);
+        const QPoint place(Settings->ReadRegValue(key, "left", unplaced),
+                           Settings->ReadRegValue(key, "top", unplaced));
+        if (!Settings->AutoArrangeIcons() && QRect(0, 0, farthest, farthest).contains(place))
+            setData(item, place, PlaceRole);
     }
 }

@@ -12,6 +12,11 @@ constexpr int stateMaximised = 2;
 constexpr int widestFrame = 200; ///< of a window's border, in pixels
 constexpr int unknown = std::numeric_limits<int>::min();
 
+/// A stored number as a place or size that can be reckoned with.
+int pixels(int stored) {
+    return std::clamp(stored, 0, QWIDGETSIZE_MAX);
+}
+
 /// Keeps a window that was left on a screen which is gone within reach.
 QRect onScreen(QRect wanted) {
     const QScreen* screen = QGuiApplication::screenAt(wanted.center());
@@ -51,20 +56,19 @@ void LoadWindowPos(QWidget& Window, std::string_view Key, int DefaultWidth, int 
     const auto read = [Key](std::string_view name, int fallback) {
         return Settings->ReadRegValue(Key, name, fallback);
     };
+    const QSize room = Window.screen()->availableSize();
     if (read("state", stateNormal) == stateMaximised) {
-        Window.resize(DefaultWidth, DefaultHeight);
+        Window.resize(QSize(DefaultWidth, DefaultHeight).boundedTo(room));
         Window.setWindowState(Qt::WindowMaximized);
         return;
     }
-    const QSize size(std::max(1, read("width", DefaultWidth)),
-                     std::max(1, read("height", DefaultHeight)));
+    const QSize size(pixels(read("width", DefaultWidth)), pixels(read("height", DefaultHeight)));
     const int left = read("left", unknown);
     if (left == unknown) {
-        Window.resize(size);
+        Window.resize(size.boundedTo(room));
         return;
     }
-    const QPoint corner(std::max(0, left), std::max(0, read("top", 0)));
-    const QRect outer = onScreen(QRect(corner, size));
+    const QRect outer = onScreen(QRect(QPoint(pixels(left), pixels(read("top", 0))), size));
     const QSize frame(std::clamp(read("frameWidth", 0), 0, widestFrame),
                       std::clamp(read("frameHeight", 0), 0, widestFrame));
     Window.resize(outer.size() - frame);

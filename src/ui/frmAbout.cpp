@@ -92,5 +92,6 @@ frmAbout::frmAbout(QWidget* Owner) : QDialog(Owner) {
     grid->addWidget(version, 1, 1);
     grid->addWidget(text, 2, 0, 1, 2);
     grid->addWidget(buttons, 3, 0, 1, 2);
-    resize(72 * fontMetrics().averageCharWidth(), 24 * fontMetrics().height());
+    resize(QSize(72 * fontMetrics().averageCharWidth(), 24 * fontMetrics().height())
+               .boundedTo(screen()->availableSize()));
 }

@@ -194,6 +194,21 @@ TEST_F(Launcher, SnapsAndKeepsIconsThatAreMoved) {
     EXPECT_LT(view(launcher)->visualRect(icon(launcher, "te")).top(), corner.y());
 }
 
+TEST_F(Launcher, StandsStoredNonsense) {
+    for (const char* name : {"left", "top", "width", "height"})
+        for (const char* key : {"main", "main\\icons\\te"})
+            Settings->SaveRegValue(key, name, std::numeric_limits<int>::max());
+    Settings->SaveRegValue("main\\icons\\lorn", "caption", std::string(5000, 'x'), false);
+    Settings->SetAutoArrangeIcons(false);
+    frmMain launcher;
+    show(launcher);
+    const QAbstractItemView* list = view(launcher);
+    EXPECT_EQ(launcher.size(), launcher.size().boundedTo(launcher.screen()->availableSize()));
+    for (const char* key : {"te", "lorn", "about"})
+        EXPECT_TRUE(list->viewport()->rect().contains(list->visualRect(icon(launcher, key))))
+            << key;
+}
+
 TEST_F(Launcher, PopsUpForTheSelectedIcon) {
     frmMain launcher;
     show(launcher);

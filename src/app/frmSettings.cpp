@@ -127,7 +127,8 @@ QWidget* frmSettings::BuildCommonPage() {
                 .arg(ToScreen(ListItemRaw(LanguageNames, static_cast<std::int32_t>(row)))),
             codes[row]);
     auto* descriptions = new QFormLayout;
-    descriptions->addRow(AddCheckField("chkLoadDesc"));
+    QCheckBox* load = AddCheckField("chkLoadDesc");
+    descriptions->addRow(load);
     descriptions->addRow(tr("Use this language &ID for descriptions"), m_language);
     descriptions->addRow(
         note(tr("* You can write the code  directly if your language is not listed")));
@@ -136,6 +137,7 @@ QWidget* frmSettings::BuildCommonPage() {
     rows->addWidget(custom);
     rows->addLayout(descriptions);
     rows->addStretch();
+    setTabOrder(load, m_language);
     return page;
 }
 
@@ -318,6 +320,8 @@ bool frmSettings::StoreLanguage() {
     }
     if (!code) {
         ValueError(this, windowTitle(), "Lang ID", 0);
+        m_tabs->setCurrentIndex(0); // where it stands
+        m_language->setFocus();
         return false;
     }
     Settings->SetDescLangID(*code);

@@ -51,7 +51,7 @@ std::string RequestOf(std::vector<std::string> Arguments, const std::string& Wor
     if (!Arguments.empty() && Arguments.size() <= mostArguments) {
         std::string& file = Arguments.back();
         file = FromPlatform(file);
-        if (!IsVFSPath(file) && !isAbsolute(file))
+        if (!file.empty() && !IsVFSPath(file) && !isAbsolute(file))
             file = JoinPath({FromPlatform(WorkingDirectory), file});
     }
     return Kesh_ArgVToCommandLine(Arguments);

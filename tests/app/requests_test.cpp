@@ -48,6 +48,7 @@ TEST(Requests, ArrivesWithPlacesThatHoldElsewhere) {
         {{"C:\\game\\TShips.txt"}, {"C:\\game\\TShips.txt"}},
         {{"vfs://types/TShips"}, {"vfs://types\\TShips"}},
         {{"a", "b", "c"}, {"a", "b", "c"}},
+        {{"-TFile", ""}, {"-TFile", ""}},
     };
     for (const RequestCase& c : cases)
         EXPECT_EQ(Kesh_CommandLineToArgV(RequestOf(c.Arguments, "/home/me")), c.Arrived);

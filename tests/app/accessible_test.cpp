@@ -95,20 +95,50 @@ TEST_F(Accessible, TabReachesEveryControl) {
     }
 }
 
+QStringList texts(const QList<QAction*>& actions) {
+    QStringList found;
+    for (const QAction* action : actions)
+        found.append(action->text());
+    return found;
+}
+
+/// Texts whose mnemonics hold while the window shows what it shows now.
+QStringList textsInWindow(const QWidget& window) {
+    QStringList found;
+    for (const QMenuBar* bar : window.findChildren<QMenuBar*>())
+        found += texts(bar->actions());
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(control);
+        if (control->isVisible() &&
+            (qobject_cast<const QAbstractButton*>(control) || (label && label->buddy())))
+            found.append(control->property("text").toString());
+    }
+    return found;
+}
+
+void expectOwnMnemonics(const char* name, const QStringList& texts) {
+    static const QRegularExpression mnemonic(QStringLiteral("(?:^|[^&])&([^&\\s])"));
+    QMap<QString, QString> taken;
+    for (const QString& text : texts) {
+        const QString letter = mnemonic.match(text).captured(1).toLower();
+        EXPECT_FALSE(!letter.isEmpty() && taken.contains(letter))
+            << name << ": " << text.toStdString() << " and " << taken.value(letter).toStdString();
+        taken.insert(letter, text);
+    }
+}
+
 TEST_F(Accessible, MnemonicsDoNotCollide) {
-    const QRegularExpression mnemonic(QStringLiteral("(?:^|[^&])&([^&\\s])"));
     for (const auto& [name, maker] : makers) {
         const std::unique_ptr<QWidget> window = maker();
-        for (const QMenu* menu : window->findChildren<QMenu*>()) {
-            QMap<QString, QString> taken;
-            for (const QAction* action : menu->actions()) {
-                const QString letter = mnemonic.match(action->text()).captured(1).toLower();
-                EXPECT_FALSE(!letter.isEmpty() && taken.contains(letter))
-                    << name << ": " << action->text().toStdString() << " and "
-                    << taken.value(letter).toStdString();
-                taken.insert(letter, action->text());
+        for (const QMenu* menu : window->findChildren<QMenu*>())
+            expectOwnMnemonics(name, texts(menu->actions()));
+        window->show();
+        expectOwnMnemonics(name, textsInWindow(*window));
+        for (auto* tabs : window->findChildren<QTabWidget*>())
+            for (int tab = 1; tab < tabs->count(); ++tab) {
+                tabs->setCurrentIndex(tab);
+                expectOwnMnemonics(name, textsInWindow(*window));
             }
-        }
     }
 }
 

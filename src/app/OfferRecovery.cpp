@@ -23,9 +23,9 @@ QString whatIsLeft(const LeftJournal& left) {
     const QDateTime changed = QDateTime::fromMSecsSinceEpoch(left.Changed);
     return Texts::tr("Changes of file %1 were not saved when the program ended the last time.\n"
                      "Changes: %2, the last of them at %3.")
-        .arg(QString::fromStdString(ShownPath(left.Base.Document)))
-        .arg(left.Commands.size())
-        .arg(QLocale().toString(changed, QLocale::ShortFormat));
+        .arg(QString::fromStdString(ShownPath(left.Base.Document)), // at once: it may hold a "%2"
+             QString::number(left.Commands.size()),
+             QLocale().toString(changed, QLocale::ShortFormat));
 }
 
 /// Yes drops them.

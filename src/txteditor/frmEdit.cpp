@@ -26,7 +26,6 @@ std::optional<double> readTypedNumber(const std::string& text) {
 frmEdit::frmEdit(QWidget* Owner) : QDialog(Owner) {
     setObjectName(QStringLiteral("frmEdit"));
     setWindowTitle(tr("Value Edit"));
-    setWindowModality(Qt::WindowModal);
     BuildControls();
     HelpOnF1(this, "valueedit.html");
 }
@@ -54,16 +53,22 @@ void frmEdit::BuildControls() {
     m_translated->setObjectName(QStringLiteral("chkTranslatedValue"));
     m_translated->setToolTip(tr("Show the value with its unit instead of as it is stored"));
 
+    m_reason = new QLabel(this);
+    m_reason->setObjectName(QStringLiteral("lblReason"));
+    m_reason->setWordWrap(true);
+
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnOK"));
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("btnCancel"));
     buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
     auto* rows = new QVBoxLayout(this);
     for (QWidget* row : std::initializer_list<QWidget*>{nameLabel, m_name, m_valueLabel, m_value,
-                                                        m_translated, buttons})
+                                                        m_reason, m_translated, buttons})
         rows->addWidget(row);
 
-    connect(m_translated, &QCheckBox::toggled, this, &frmEdit::UpdateValue);
+    connect(m_translated, &QCheckBox::toggled, this,
+            [this] { static_cast<void>(Load(&frmEdit::UpdateValue)); });
+    connect(m_value, &QComboBox::editTextChanged, m_reason, &QLabel::clear);
     connect(buttons, &QDialogButtonBox::accepted, this, &frmEdit::OnOk);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     m_value->setFocus();
@@ -75,13 +80,18 @@ void frmEdit::ShowProperty(ObjectEditor* Editor, const RecordPtr& Object, std::i
     m_index = Index;
     m_nameMode = false;
     m_modalResult = resultCancel;
+    if (Load(&frmEdit::LoadProperty))
+        exec();
+}
+
+bool frmEdit::Load(void (frmEdit::*Step)()) {
     try {
-        LoadProperty();
+        (this->*Step)();
+        return true;
     } catch (const std::exception&) {
         ShowBox(this, windowTitle(), tr("Error loading property."), BoxIcon::Exclamation);
-        return;
+        return false;
     }
-    exec();
 }
 
 void frmEdit::LoadProperty() {
@@ -154,8 +164,13 @@ void frmEdit::ShowName(const RecordPtr& Object, std::span<const RecordPtr> Objec
 }
 
 void frmEdit::OnOk() {
-    if (!(m_nameMode ? AcceptName() : AcceptValue()))
+    try {
+        if (!(m_nameMode ? AcceptName() : AcceptValue()))
+            return;
+    } catch (const std::exception&) {
+        Refuse(QString::fromStdString(ValueErrorText({}, m_type)));
         return;
+    }
     m_modalResult = resultOk;
     accept();
 }
@@ -242,6 +257,7 @@ bool frmEdit::CheckText(const std::string& Text) {
 }
 
 bool frmEdit::Refuse(const QString& Text) {
+    m_reason->setText(Text); // stays beside the field behind the box
     ShowBox(this, windowTitle(), Text, BoxIcon::Exclamation);
     m_value->setFocus();
     m_value->lineEdit()->selectAll();

@@ -27,6 +27,8 @@ public:
 
 private:
     void BuildControls();
+    /// False after a failure, which is said.
+    [[nodiscard]] bool Load(void (frmEdit::*Step)());
     void LoadProperty();
     void UpdateValue();
     void ShowText(const std::string& Text);
@@ -54,5 +56,6 @@ private:
     QLineEdit* m_name = nullptr;
     QLabel* m_valueLabel = nullptr;
     QComboBox* m_value = nullptr;
+    QLabel* m_reason = nullptr; ///< why the value was refused
     QCheckBox* m_translated = nullptr;
 };

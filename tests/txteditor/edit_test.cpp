@@ -42,6 +42,7 @@ const ValueCase valueCases[] = {
     {"text that spells a number", 0, 2, "0099", "", "0099"},
     {"translated", 1, 1, "2 m", "", "1000"},
     {"refused translation, whatever the type", 1, 1, "?", notWhole, "007"},
+    {"translation that throws", 1, 1, "!", notFloat, "007"},
     {"list", 2, 0, "Red", "", "1000"},
 };
 
@@ -66,6 +67,7 @@ TEST_F(ValueDialog, StoresWhatFitsTheFieldAndRefusesTheRest) {
         panel.Translated = "0.014";
         panel.Back =
             std::string_view(c.Entered) == "?" ? std::nullopt : std::optional<KeshValue>(1000);
+        panel.Broken = std::string_view(c.Entered) == "!";
         frmEdit dialog;
         dialog.AllowSlash = c.Slash;
         if (*c.Said)
@@ -74,6 +76,10 @@ TEST_F(ValueDialog, StoresWhatFitsTheFieldAndRefusesTheRest) {
         dialog.ShowProperty(c.Class < 0 ? nullptr : &panel, record, field);
         EXPECT_EQ(record->ValueText(field), c.Stored);
         EXPECT_EQ(dialog.ModalResult(), *c.Said ? 2 : 1);
+        EXPECT_TRUE(dialog.findChild<QLabel*>(QStringLiteral("lblReason"))
+                        ->text()
+                        .toStdString()
+                        .starts_with(c.Said));
         EXPECT_EQ(record->Dirty, std::string_view(c.Stored) != "007");
     }
 }

@@ -12,8 +12,10 @@ public:
     std::int32_t Serves = 6;
     std::int32_t Info = panelinfo::HasNames | panelinfo::HasRaces | panelinfo::HasClasses;
     bool InitResult = true;
-    std::string Report; ///< of Validate; empty if all is well
-    bool Fails = false; ///< the texts of rows throw
+    std::string Report;  ///< of Validate; empty if all is well
+    bool Fails = false;  ///< the texts of rows throw
+    bool Broken = false; ///< most other calls throw
+    bool Chatty = false; ///< it changes a field, and tells so, in calls that replace values
     std::int32_t Class = translation::None;
     std::int32_t Type = valuetype::String;
     std::string Translated;        ///< of any value; empty if there is none
@@ -40,7 +42,10 @@ public:
     }
     std::string ObjectTypeName(std::int32_t) const override { return Text("Things v.1"); }
     std::string PageName(std::int32_t) const override { return "Thing info"; }
-    std::int32_t LornQueryInfo(std::int32_t) const override { return Info; }
+    std::int32_t LornQueryInfo(std::int32_t) const override {
+        Break();
+        return Info;
+    }
     bool Validate(std::string& Text) override {
         Text = Report;
         return Report.empty();
@@ -65,11 +70,18 @@ public:
         Known.insert(made.get());
         return made;
     }
-    bool InitObject(const RecordPtr& Object) override { return Known.contains(Object.get()); }
+    bool InitObject(const RecordPtr& Object) override {
+        Break();
+        Chat(Object);
+        return Known.contains(Object.get());
+    }
     bool RemoveObject(const RecordPtr& Object) override {
         return Object.get() != Keeps && Known.erase(Object.get()) == 1;
     }
-    void RestoreObject(const RecordPtr& Object) override { Known.insert(Object.get()); }
+    void RestoreObject(const RecordPtr& Object) override {
+        Known.insert(Object.get());
+        Break();
+    }
     bool LornAssignUniqueObjectName(const RecordPtr& Object) override {
         Object->SetObjectName(NewObjectName(*Parser));
         return true;
@@ -92,11 +104,20 @@ public:
     }
     bool LornTranslateValueBack(const RecordPtr&, std::string&, std::int32_t,
                                 KeshValue& Value) override {
+        Break();
         if (Back)
             Value = *Back;
         return Back.has_value();
     }
-    void ObjectReset(const RecordPtr& Object) override { Reset = Object; }
+    bool KeshExportData(QWidget*) override {
+        Break();
+        return true;
+    }
+    void ObjectReset(const RecordPtr& Object) override {
+        Reset = Object;
+        Break();
+        Chat(Object);
+    }
 
     /// Changes a field as a panel does, with or without its event.
     void Change(const RecordPtr& Object, std::int32_t Index, const KeshValue& Value, bool Tell) {
@@ -106,6 +127,14 @@ public:
     }
 
 private:
+    void Break() const {
+        if (Broken)
+            throw std::runtime_error("broken");
+    }
+    void Chat(const RecordPtr& Object) {
+        if (Chatty)
+            Change(Object, 2, Object->Index + 50, true);
+    }
     std::string Text(std::string text) const {
         if (Fails)
             throw std::runtime_error("broken");

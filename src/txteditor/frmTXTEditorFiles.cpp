@@ -142,7 +142,6 @@ void frmTXTEditor::OpenDropped(const QString& Path) {
 bool frmTXTEditor::SaveFile() {
     if (!HasFile())
         return false;
-    TakeChanges();
     const auto choice = ChooseTFileToSave(this, SaveStart());
     if (!choice)
         return false;
@@ -153,6 +152,7 @@ bool frmTXTEditor::SaveFile() {
     }
     if (!MayReplace(*name) || !MayLoseData() || !MakeCatalog(*name))
         return false;
+    TakeChanges(); // also of what was finished by going to the dialogs
     clsTFile::Result result;
     {
         const Busy busy(tr("Saving %1").arg(shown(*name)), this,

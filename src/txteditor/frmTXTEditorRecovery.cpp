@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int lookAgain = 500; ///< milliseconds
+
 QString shown(const std::string& name) {
     return QString::fromStdString(ShownPath(name));
 }
@@ -70,14 +72,19 @@ void frmTXTEditor::FollowDisk() {
 }
 
 void frmTXTEditor::LookAtDisk() {
-    if (m_asking || !isActiveWindow() || !HasFile() || !m_file.NoticeChange())
+    if (QGuiApplication::overrideCursor()) { // amid work that lets events through
+        QTimer::singleShot(lookAgain, this, &frmTXTEditor::LookAtDisk);
+        return;
+    }
+    // A box amid an action is no time for it either: the window becomes active again behind it.
+    if (QApplication::activeModalWidget() || !isActiveWindow() || !HasFile() ||
+        !m_file.NoticeChange())
         return;
     TakeChanges();
     QString question = tr("File %1 was changed by another program.\nDo you want to load it again?")
                            .arg(shown(m_file.Parser.FileName));
     if (m_file.Parser.CheckDirty())
         question += u'\n' + tr("Your changes are lost then.");
-    const QScopedValueRollback asking(m_asking, true);
     if (Ui().ShowMessage(this, {tr("TXT Editor"), question, BoxIcon::Exclamation,
                                 BoxButtons::YesNo}) == Answer::Yes)
         LoadFile(std::string(m_file.Parser.FileName));

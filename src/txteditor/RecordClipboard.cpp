@@ -62,7 +62,11 @@ void RecordClipboard::Clear() {
 
 void RecordClipboard::LookAtSystem() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    m_foreignText = data && data->hasText() && !data->hasFormat(QString::fromLatin1(ownFormat)) &&
-                    data->text().contains(u';');
+    m_foreignText = data && data->hasText() && !data->hasFormat(QString::fromLatin1(ownFormat));
     Q_EMIT Changed();
+}
+
+QString RecordClipboard::ForeignText() const {
+    const QString text = m_foreignText ? QGuiApplication::clipboard()->text() : QString();
+    return text.contains(u';') ? text : QString();
 }

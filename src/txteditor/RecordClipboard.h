@@ -33,8 +33,10 @@ public:
 
     /// Copied or cut records that can be pasted.
     [[nodiscard]] bool HasObjects() const;
-    /// Text of another origin on the system's clipboard that may be records.
+    /// There is text of another origin on the system's clipboard. It is not fetched for that.
     [[nodiscard]] bool HasForeignText() const noexcept { return m_foreignText; }
+    /// That text if it may be records, else empty.
+    [[nodiscard]] QString ForeignText() const;
 
 Q_SIGNALS:
     void Changed();

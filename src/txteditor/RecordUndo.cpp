@@ -89,6 +89,8 @@ private:
 RecordUndo::RecordUndo(clsTxtParser& Parser, QObject* parent) : QObject(parent), m_parser(Parser) {}
 
 bool RecordUndo::TakeChanges() {
+    if (m_held)
+        return false;
     auto all = std::make_unique<QUndoCommand>();
     for (const RecordPtr& record : m_parser.ByIndex()) {
         auto former = record->TakeFormerValues();
@@ -187,6 +189,7 @@ void RecordUndo::Clear() {
 }
 
 void RecordUndo::PutValues(const RecordPtr& Record, const clsValueArray& Values) {
+    const auto held = Hold();
     Record->SetValues(Values);
     const auto saved = m_saved.find(Record->ID);
     Record->Dirty = saved != m_saved.end() && !saved->second.SameAs(Values);
@@ -195,12 +198,14 @@ void RecordUndo::PutValues(const RecordPtr& Record, const clsValueArray& Values)
 }
 
 void RecordUndo::PutBack(const Records& Added) {
+    const auto held = Hold();
     m_parser.RestoreObjects(Added);
     Q_EMIT RecordsAdded(Added);
     Q_EMIT Stepped(stepsOfAdded(Added));
 }
 
 void RecordUndo::TakeOut(const Records& Removed) {
+    const auto held = Hold();
     Q_EMIT RecordsLeaving(Removed);
     if (!m_parser.RemoveObjects(Removed))
         return; // undo and redo go back to a state in which all of them were there

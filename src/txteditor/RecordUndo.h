@@ -24,8 +24,14 @@ public:
     [[nodiscard]] QUndoStack& Stack() noexcept { return m_stack; }
     [[nodiscard]] const QUndoStack& Stack() const noexcept { return m_stack; }
 
-    /// Makes one command of all changes since the last call; false if there were none.
+    /// Makes one command of all changes since the last call; false if there were none, or while
+    /// they are held.
     bool TakeChanges();
+    /// Holds them while it lives: a panel may tell of a change amid a step that is not a command
+    /// yet, or is being undone.
+    [[nodiscard]] QScopedValueRollback<bool> Hold() {
+        return QScopedValueRollback<bool>(m_held, true);
+    }
     /// Makes one command of records that are new in the file, in file order.
     void TakeAdded(Records Added, const QString& Text);
     /// Records that were added are out of the file again, without a command.
@@ -76,4 +82,5 @@ private:
     int m_structure = 0;
     int m_savedStructure = 0;
     int m_lastStructure = 0;
+    bool m_held = false;
 };

@@ -255,9 +255,8 @@ void frmTXTEditor::ConnectList() {
 void frmTXTEditor::ConnectUndo() {
     connect(&m_undo, &RecordUndo::RecordReset, this, &frmTXTEditor::OnRecordReset);
     connect(&m_undo, &RecordUndo::RecordsAdded, this, &frmTXTEditor::OnRecordsAdded);
-    connect(&m_undo, &RecordUndo::RecordsLeaving, this, [this](const RecordUndo::Records& leaving) {
-        static_cast<void>(ForgetInPanel(leaving));
-    });
+    connect(&m_undo, &RecordUndo::RecordsLeaving, this,
+            [this](const RecordUndo::Records& leaving) { LeavePanel(leaving); });
     connect(&m_undo, &RecordUndo::RecordsRemoved, this, &frmTXTEditor::OnRecordsRemoved);
     connect(&m_undo.Stack(), &QUndoStack::indexChanged, this, &frmTXTEditor::UpdateActions);
     connect(&m_undo, &RecordUndo::Stepped, this, [this](const RecordSteps& steps) {
@@ -317,6 +316,8 @@ void frmTXTEditor::SaveSettings() {
     for (const auto& [name, splitter] : KeptSplitters())
         Settings->SaveRegValue(settingsKey, name, splitter->saveState().toHex().toStdString(),
                                false);
+    if (m_find)
+        m_find_OnClose(); // it goes with the window
     KeepClassWidth();
     Settings->SaveRegValue(settingsKey, "ClassWidth", m_classWidth);
     Settings->SaveRegValue(settingsKey, "OffsetWidth", m_dataView->columnWidth(0));
@@ -375,7 +376,9 @@ bool frmTXTEditor::DropFile(QDropEvent* Drop) {
     Drop->setDropAction(Qt::CopyAction); // after a move its giver might delete the file
     Drop->accept();
     if (Drop->type() == QEvent::Drop)
-        OpenDropped(urls.constFirst().toLocalFile());
+        QMetaObject::invokeMethod(
+            this, [this, path = urls.constFirst().toLocalFile()] { OpenDropped(path); },
+            Qt::QueuedConnection); // its giver waits, and a box may be shown
     return true;
 }
 

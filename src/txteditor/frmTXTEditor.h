@@ -10,6 +10,8 @@
 #include "ui/UserInterface.h"
 
 #include <array>
+#include <functional>
+#include <span>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -158,12 +160,15 @@ private:
     [[nodiscard]] std::optional<RecordPtr> AskPlace();
     [[nodiscard]] std::optional<std::vector<RecordPtr>> MakeRecords(const Paste& What,
                                                                     const RecordPtr& Before);
-    [[nodiscard]] RecordPtr MakeRecord(const RecordPtr& Source, const RecordPtr& Before);
+    void AddRecords(const Paste& What, const RecordPtr& Before, std::vector<RecordPtr>& Made);
+    void FillRecord(const RecordPtr& Made, const clsTXTObject& Source);
     void NameRecords(const std::vector<RecordPtr>& Made, std::unordered_set<std::string> Taken);
     void Forget(const std::vector<RecordPtr>& Made);
     void ListRecords(const std::vector<RecordPtr>& Made, const RecordPtr& Before);
     void FinishCut(const std::vector<RecordPtr>& Objects);
     [[nodiscard]] bool ForgetInPanel(const std::vector<RecordPtr>& Objects);
+    void LeavePanel(std::span<const RecordPtr> Objects);
+    void ReturnToPanel(std::span<const RecordPtr> Objects);
     [[nodiscard]] std::vector<RecordPtr> SelectedRecords() const;
 
     // Find and filter
@@ -178,7 +183,10 @@ private:
 
     // Records
     void SelectFileType(std::int32_t OType);
-    void PickPanel(std::int32_t OType);
+    [[nodiscard]] std::int32_t PickPanel(std::int32_t OType);
+    /// Calls the panel, if there is one, amid other work: a failure is said in the status bar, and
+    /// false then.
+    bool TellPanel(const std::function<void(ObjectEditor&)>& Call);
     void ApplyPanelInfo(std::int32_t Info);
     void UpdateCaption();
     [[nodiscard]] QString TypeText() const;
@@ -213,7 +221,6 @@ private:
     QTimer m_flush;
     bool m_replaying = false;
     QFileSystemWatcher m_watcher;
-    bool m_asking = false; ///< about a file that another program changed
     frmFind* m_find = nullptr;
     QVariant m_findTag; ///< of finding without the dialog
     std::vector<std::string> m_recent;

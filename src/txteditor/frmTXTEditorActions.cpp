@@ -242,8 +242,16 @@ void frmTXTEditor::OnOpenFromView() {
 }
 
 void frmTXTEditor::OnExport() {
-    if (!m_activeEditor->KeshExportData(this))
-        Say(tr("This type of file cannot be exported."), BoxIcon::Exclamation);
+    QString trouble = tr("This type of file cannot be exported.");
+    try {
+        if (m_activeEditor->KeshExportData(this))
+            trouble.clear();
+    } catch (const std::exception& failure) {
+        trouble = ToScreen(failure.what());
+    }
+    TakeChanges();
+    if (!trouble.isEmpty())
+        Say(trouble, BoxIcon::Exclamation);
 }
 
 void frmTXTEditor::OnUndo() {

@@ -67,11 +67,12 @@ void frmTXTEditor::OnPaste() {
     const RecordClipboard& clipboard = RecordClipboard::Instance();
     if (!HasFile())
         return;
-    if (clipboard.HasForeignText()) // it came after what was copied here
-        PasteText(QGuiApplication::clipboard()->text());
-    else if (clipboard.HasObjects())
+    const QString text = clipboard.ForeignText(); // it came after what was copied here
+    if (text.isEmpty() && clipboard.HasObjects())
         InsertRecords({clipboard.Objects(), clipboard.ClipboardMode() == RecordClipboard::Mode::Cut,
                        tr("paste of %1").arg(nameOf(clipboard.Objects()))});
+    else if (clipboard.HasForeignText())
+        PasteText(text);
 }
 
 void frmTXTEditor::PasteText(const QString& Text) {
@@ -79,7 +80,8 @@ void frmTXTEditor::PasteText(const QString& Text) {
     const ReadRecords read = bytes ? RecordsOfText(*bytes, m_file.Parser) : ReadRecords();
     if (read.Records.empty() && HasPanel()) { // without one nothing can be added at all
         Say(twoLines(tr("The text on the clipboard holds no objects of this file's type."),
-                     ToScreen(read.Reason)),
+                     ToScreen(read.Reason))
+                .trimmed(),
             BoxIcon::Exclamation);
         return;
     }
@@ -138,6 +140,21 @@ std::optional<RecordPtr> frmTXTEditor::AskPlace() {
 
 std::optional<std::vector<RecordPtr>> frmTXTEditor::MakeRecords(const Paste& What,
                                                                 const RecordPtr& Before) {
+    const auto held = m_undo.Hold();
+    std::vector<RecordPtr> made;
+    try {
+        AddRecords(What, Before, made);
+        return made;
+    } catch (const std::exception& failure) {
+        Forget(made);
+        Say(twoLines(tr("Error creating object: "), ToScreen(failure.what())), BoxIcon::Critical);
+        return {};
+    }
+}
+
+/// What is in the file already when something fails is in `Made` too.
+void frmTXTEditor::AddRecords(const Paste& What, const RecordPtr& Before,
+                              std::vector<RecordPtr>& Made) {
     const std::vector<RecordPtr> sources =
         What.Sources.empty() ? std::vector<RecordPtr>{RecordPtr()} : What.Sources;
     const Busy busy(tr("Pasting records"), this, sources.size() > longPaste);
@@ -145,40 +162,29 @@ std::optional<std::vector<RecordPtr>> frmTXTEditor::MakeRecords(const Paste& Wha
     std::unordered_set<std::string> names;
     for (const RecordPtr& record : m_file.Parser.ByIndex())
         names.emplace(record->ObjectName());
-    std::vector<RecordPtr> made;
     std::optional<BulkInsert> bulk;
     if (sources.size() > 1)
         bulk.emplace(m_file.Parser, Before);
-    try {
-        for (const RecordPtr& source : sources) {
-            made.push_back(MakeRecord(source, Before));
-            progress.Done();
-        }
-        if (!What.FinishCut)
-            NameRecords(made, std::move(names));
-        return made;
-    } catch (const std::exception& failure) {
-        bulk.reset();
-        Forget(made);
-        Say(twoLines(tr("Error creating object: "), ToScreen(failure.what())), BoxIcon::Critical);
-        return {};
+    for (const RecordPtr& source : sources) {
+        const RecordPtr made = m_activeEditor->CreateObject(m_objectType, m_file.Parser, Before);
+        if (!made)
+            throw KeshError(errnum::General, "frmTXTEditor", m_activeEditor->GetLastError());
+        Made.push_back(made);
+        if (source)
+            FillRecord(made, *source);
+        progress.Done();
     }
+    if (!What.FinishCut)
+        NameRecords(Made, std::move(names));
 }
 
-/// A new record of the panel's making, with the source's values if there is one.
-RecordPtr frmTXTEditor::MakeRecord(const RecordPtr& Source, const RecordPtr& Before) {
-    const RecordPtr made = m_activeEditor->CreateObject(m_objectType, m_file.Parser, Before);
-    if (!made)
-        throw KeshError(errnum::General, "frmTXTEditor", m_activeEditor->GetLastError());
-    if (Source) {
-        const auto index = made->Index;
-        const auto id = made->ID;
-        Source->CopyTo(*made);
-        made->Index = index;
-        made->ID = id;
-        static_cast<void>(m_activeEditor->InitObject(made));
-    }
-    return made;
+void frmTXTEditor::FillRecord(const RecordPtr& Made, const clsTXTObject& Source) {
+    const auto index = Made->Index;
+    const auto id = Made->ID;
+    Source.CopyTo(*Made);
+    Made->Index = index;
+    Made->ID = id;
+    static_cast<void>(m_activeEditor->InitObject(Made));
 }
 
 /// IDs that are empty or taken are replaced.
@@ -193,8 +199,7 @@ void frmTXTEditor::NameRecords(const std::vector<RecordPtr>& Made,
 
 /// Takes back what could not be finished.
 void frmTXTEditor::Forget(const std::vector<RecordPtr>& Made) {
-    for (const RecordPtr& record : Made)
-        static_cast<void>(m_activeEditor->RemoveObject(record));
+    LeavePanel(Made);
     static_cast<void>(m_file.Parser.RemoveObjects(Made));
     m_undo.RestoreStructure();
 }
@@ -235,6 +240,11 @@ void frmTXTEditor::DeleteObjects(const std::vector<RecordPtr>& Objects) {
         return;
     }
     if (!m_undo.Remove(Objects, tr("deletion of %1").arg(nameOf(Objects)))) {
+        std::vector<RecordPtr> here;
+        std::ranges::copy_if(Objects, std::back_inserter(here), [this](const RecordPtr& record) {
+            return m_file.Parser.Find(record->ID) == record;
+        });
+        ReturnToPanel(here);
         Say(tr("Error removing object."), BoxIcon::Critical);
         return;
     }
@@ -243,22 +253,28 @@ void frmTXTEditor::DeleteObjects(const std::vector<RecordPtr>& Objects) {
 
 /// All or none.
 bool frmTXTEditor::ForgetInPanel(const std::vector<RecordPtr>& Objects) {
-    if (!m_activeEditor)
-        return true;
     for (std::size_t i = 0; i < Objects.size(); ++i) {
-        if (m_activeEditor->RemoveObject(Objects[i]))
+        bool gone = true;
+        if (TellPanel([&](ObjectEditor& panel) { gone = panel.RemoveObject(Objects[i]); }) && gone)
             continue;
-        while (i-- > 0)
-            m_activeEditor->RestoreObject(Objects[i]);
+        ReturnToPanel(std::span(Objects).first(i));
         return false;
     }
     return true;
 }
 
+void frmTXTEditor::LeavePanel(std::span<const RecordPtr> Objects) {
+    for (const RecordPtr& record : Objects)
+        TellPanel([&](ObjectEditor& panel) { static_cast<void>(panel.RemoveObject(record)); });
+}
+
+void frmTXTEditor::ReturnToPanel(std::span<const RecordPtr> Objects) {
+    for (const RecordPtr& record : Objects)
+        TellPanel([&](ObjectEditor& panel) { panel.RestoreObject(record); });
+}
+
 void frmTXTEditor::OnRecordsAdded(const std::vector<RecordPtr>& Added) {
-    if (m_activeEditor)
-        for (const RecordPtr& record : Added)
-            m_activeEditor->RestoreObject(record);
+    ReturnToPanel(Added);
     if (m_replaying)
         return;
     FillList();
@@ -274,6 +290,6 @@ void frmTXTEditor::OnRecordsRemoved(const std::vector<RecordPtr>& Removed) {
     m_list->Remove(Removed);
     UpdateCount();
     UpdateCaption();
-    if (shown)
-        SelectRecord(m_list->Record(m_list->index(std::min(row, m_list->rowCount() - 1), 0)));
+    const QModelIndex next = m_list->index(std::min(row, m_list->rowCount() - 1), 0);
+    SelectRecord(shown ? m_list->Record(next) : m_selected); // whose index may be another now
 }

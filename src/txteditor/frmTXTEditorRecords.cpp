@@ -14,6 +14,7 @@ namespace {
 constexpr std::size_t longSort = 100'000; ///< records from which the wait window shows
 constexpr int rawTab = 0;
 constexpr int panelTab = 1;
+constexpr int messageTime = 10'000; ///< milliseconds in the status bar
 
 /// What a panel says, or a text in brackets if it fails.
 template <class Ask>
@@ -28,9 +29,10 @@ QString askPanel(const Ask& ask, const char* failure) {
 } // namespace
 
 void frmTXTEditor::SelectFileType(std::int32_t OType) {
+    std::int32_t info = 0;
     try {
         m_objectType = OType;
-        PickPanel(OType);
+        info = PickPanel(OType);
     } catch (const std::exception& failure) {
         m_activeEditor = nullptr;
         Say(tr("Error in SelectFileType: ") + ToScreen(failure.what()), BoxIcon::Critical);
@@ -39,12 +41,13 @@ void frmTXTEditor::SelectFileType(std::int32_t OType) {
         panel->setVisible(panel == m_activeEditor);
     m_tab->setTabEnabled(panelTab, m_activeEditor != nullptr);
     m_tab->setCurrentIndex(m_activeEditor ? panelTab : rawTab);
-    ApplyPanelInfo(m_activeEditor ? m_activeEditor->LornQueryInfo(OType) : 0);
+    ApplyPanelInfo(info);
     UpdateNameColumn();
     UpdateActions();
 }
 
-void frmTXTEditor::PickPanel(std::int32_t OType) {
+/// Its panelinfo bits.
+std::int32_t frmTXTEditor::PickPanel(std::int32_t OType) {
     m_activeEditor = nullptr;
     const auto serves = [&](ObjectEditor* panel) {
         std::int32_t type = OType;
@@ -52,20 +55,33 @@ void frmTXTEditor::PickPanel(std::int32_t OType) {
     };
     const auto found = std::find_if(m_editors.begin(), m_editors.end(), serves);
     if (found == m_editors.end())
-        return;
+        return 0;
     if (!(*found)->Init(m_file.Parser)) {
         Say(ToScreen((*found)->GetLastError()), BoxIcon::Critical);
-        return;
+        return 0;
     }
     m_activeEditor = *found;
     m_tab->setTabText(panelTab, ToScreen(m_activeEditor->PageName(OType)));
+    const std::int32_t info = m_activeEditor->LornQueryInfo(OType);
     std::string report;
     if (m_activeEditor->Validate(report))
-        return;
+        return info;
     frmText text(this);
     text.setWindowTitle(tr("Errors in file data"));
     text.SetText(ToScreen(report));
     text.MyShow();
+    return info;
+}
+
+bool frmTXTEditor::TellPanel(const std::function<void(ObjectEditor&)>& Call) {
+    try {
+        if (m_activeEditor)
+            Call(*m_activeEditor);
+        return true;
+    } catch (const std::exception& failure) {
+        statusBar()->showMessage(ToScreen(failure.what()), messageTime);
+        return false;
+    }
 }
 
 void frmTXTEditor::ApplyPanelInfo(std::int32_t Info) {
@@ -157,6 +173,8 @@ std::vector<RecordPtr> frmTXTEditor::ListedRecords() {
 
 void frmTXTEditor::FillList() {
     const RecordPtr selected = m_selected;
+    if (selected && m_list->HasFilter())
+        m_hidden = selected; // its row may come later
     m_list->SetRecords(ListedRecords());
     UpdateCount();
     SelectRecord(selected);
@@ -175,10 +193,10 @@ void frmTXTEditor::SelectRecord(const RecordPtr& Record) {
         ShowObject({});
         return;
     }
-    if (m_objectView->selectionModel()->isSelected(row))
+    const bool stood = m_objectView->selectionModel()->isSelected(row);
+    m_objectView->setCurrentIndex(row); // shows it if another was on view
+    if (stood || Record != m_selected)
         ShowObject(Record);
-    else
-        m_objectView->setCurrentIndex(row); // shows it
     m_objectView->scrollTo(row);
 }
 
@@ -254,6 +272,7 @@ void frmTXTEditor::OnEditField() {
     TakeChanges();
     if (dialog.ModalResult() != 1)
         return;
+    TellPanel([this](ObjectEditor& panel) { panel.ObjectReset(m_selected); });
     m_list->Refresh(m_selected.get());
     ShowObject(m_selected);
     UpdateCaption();
@@ -273,8 +292,7 @@ void frmTXTEditor::OnObjectChanged(const RecordPtr& Record) {
 }
 
 void frmTXTEditor::OnRecordReset(const RecordPtr& Record) {
-    if (m_activeEditor)
-        m_activeEditor->ObjectReset(Record);
+    TellPanel([&](ObjectEditor& panel) { panel.ObjectReset(Record); });
     if (m_replaying)
         return;
     m_list->Refresh(Record.get());

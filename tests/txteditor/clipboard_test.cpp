@@ -138,6 +138,44 @@ TEST_F(Clipboard, Refusals) {
     EXPECT_EQ(panel->Known.size(), 4U);
 }
 
+TEST_F(Clipboard, APanelThatThrowsLeavesTheFileWhole) {
+    pickRows(0, 1);
+    trigger("mnuCopy");
+    panel->Broken = true; // when the first record is in the file
+    expectInsert(Answer::Yes);
+    script.Box(QStringLiteral("Error creating object: \nbroken"));
+    trigger("mnuPaste");
+    EXPECT_EQ(names(), QStringLiteral("A B C D"));
+    EXPECT_EQ(panel->Known.size(), 4U);
+    EXPECT_FALSE(window->Parser().CheckDirty());
+
+    script.Box(QStringLiteral("really want"), Answer::Yes);
+    trigger("mnuDel");
+    trigger("undo");
+    EXPECT_EQ(names(), QStringLiteral("A B C D"));
+    EXPECT_FALSE(window->Parser().CheckDirty());
+    EXPECT_TRUE(child<QAction>("redo")->isEnabled());
+}
+
+// A change that is told of amid a step must not become a step of its own, before or within that.
+TEST_F(Clipboard, APanelThatChangesWhatIsPastedMakesNoOtherStep) {
+    panel->Chatty = true;
+    pick("ObjectView", 1);
+    trigger("mnuCopy");
+    expectInsert(Answer::No);
+    trigger("mnuPaste");
+    EXPECT_EQ(window->Parser().FindIndex(4)->ValueText(2), "54");
+    trigger("undo");
+    EXPECT_EQ(names(), QStringLiteral("A B C D"));
+    EXPECT_FALSE(child<QAction>("undo")->isEnabled());
+    panel->Chatty = false;
+    editField(0, 4, QStringLiteral("8"));
+    panel->Chatty = true;
+    trigger("undo");
+    EXPECT_EQ(window->Parser().FindIndex(0)->ValueText(4), "007");
+    EXPECT_TRUE(child<QAction>("redo")->isEnabled());
+}
+
 TEST_F(Clipboard, NeedsAPanel) {
     pick("ObjectView", 0);
     trigger("mnuCopy");

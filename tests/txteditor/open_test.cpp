@@ -184,6 +184,7 @@ TEST_F(Opening, TakesADroppedFile) {
                     Qt::ShiftModifier);
     drop.setDropAction(Qt::MoveAction); // whose giver would delete the file
     QApplication::sendEvent(target, &drop);
+    QCoreApplication::processEvents(); // behind the drop
     EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
     EXPECT_EQ(caption(), caption("TWareT.txt"));
 }

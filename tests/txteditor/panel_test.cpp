@@ -70,6 +70,21 @@ TEST_F(PanelWindow, GoesOnWithoutAPanelThatFails) {
     EXPECT_FALSE(panel->isVisible());
 }
 
+TEST_F(PanelWindow, SurvivesAPanelThatThrows) {
+    startWithWares({panel});
+    editField(0, 4, QStringLiteral("8"));
+    panel->Broken = true;
+    trigger("undo");
+    EXPECT_EQ(window->Parser().FindIndex(0)->ValueText(4), "007");
+    EXPECT_TRUE(child<QAction>("redo")->isEnabled());
+    script.Box(QStringLiteral("broken"));
+    trigger("export");
+    script.Box(QStringLiteral("Error in SelectFileType: broken"));
+    window->OpenFile(program("TWareT.txt"));
+    EXPECT_FALSE(child<QTabWidget>("MainTab")->isTabEnabled(1));
+    EXPECT_EQ(label("Bar1"), QStringLiteral("2 objects"));
+}
+
 TEST_F(PanelWindow, ReportsErrorsInTheFileAndStaysOpen) {
     panel->Report = "ship 3 has no hull";
     write("TWareT.txt", wares({"A", "B"}));

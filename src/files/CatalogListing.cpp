@@ -7,6 +7,8 @@
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 #include <utility>
 
@@ -19,11 +21,13 @@ template <class Take>
 void forEach(std::int32_t context, const std::string& mask, Take take) {
     VFSFindData data{};
     const std::int32_t find = KeshVFS_CatFindFirstFile(context, mask, data);
-    for (bool more = find != 0; more; more = KeshVFS_FindNextFile(find, data) != 0)
+    if (find == 0)
+        return;
+    const auto closing = qScopeGuard([find] { KeshVFS_FindClose(find); });
+    do
         if (take(Row{KeshVFS_GetVFSName(find), (data.Attributes & VFS_ATTRIBUTE_DIRECTORY) != 0}))
-            break;
-    if (find != 0)
-        KeshVFS_FindClose(find);
+            return;
+    while (KeshVFS_FindNextFile(find, data) != 0);
 }
 
 bool isMask(const std::string& name) {

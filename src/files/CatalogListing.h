@@ -11,7 +11,7 @@ class CatalogListing {
 public:
     struct Row {
         std::string Name; ///< without its directory
-        bool IsDirectory;
+        bool IsDirectory = false;
     };
 
     CatalogListing() = default;

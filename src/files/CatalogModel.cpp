@@ -11,15 +11,10 @@ namespace {
 
 using Row = CatalogListing::Row;
 
-std::string_view extensionOf(std::string_view name) {
-    const std::size_t point = name.rfind('.');
-    return point == name.npos ? std::string_view() : name.substr(point + 1);
-}
-
 /// <0, 0, >0 of two rows that are both directories or both files.
 int compare(const Row& a, const Row& b, int column) {
     const int kinds = column == CatalogModel::Kind && !a.IsDirectory
-                          ? lornfd::compareNoCase(extensionOf(a.Name), extensionOf(b.Name))
+                          ? lornfd::compareNoCase(ExtensionOf(a.Name), ExtensionOf(b.Name))
                           : 0;
     return kinds != 0 ? kinds : lornfd::compareNoCase(a.Name, b.Name);
 }
@@ -54,7 +49,7 @@ int CatalogModel::columnCount(const QModelIndex& parent) const {
 }
 
 QString CatalogModel::KindText(const Row& Row) const {
-    return Row.IsDirectory ? tr("Directory") : ToScreen(extensionOf(Row.Name));
+    return Row.IsDirectory ? tr("Directory") : ToScreen(ExtensionOf(Row.Name));
 }
 
 QVariant CatalogModel::data(const QModelIndex& index, int role) const {

@@ -1,5 +1,6 @@
 #include "files/frmCATDialog.h"
 
+#include "core/KeshError.h"
 #include "core/mdlComFunctions.h"
 #include "core/mdlCommon.h"
 #include "files/CatalogModel.h"
@@ -117,6 +118,26 @@ void frmCATDialog::MakeControls() {
     header->resizeSection(CatalogModel::Kind, 14 * fontMetrics().averageCharWidth());
     header->setSortIndicator(CatalogModel::Name, Qt::AscendingOrder);
     m_FileView->setSortingEnabled(true);
+    MakeSortActions();
+}
+
+void frmCATDialog::MakeSortActions() {
+    const auto add = [this](const char* key, const QString& text, const QKeySequence& shortcut,
+                            CatalogModel::Column column) {
+        auto* action = new QAction(text, m_FileView);
+        action->setObjectName(QString::fromLatin1(key));
+        action->setShortcut(shortcut);
+        connect(action, &QAction::triggered, this, [this, column] {
+            const QHeaderView* header = m_FileView->header();
+            const bool turn = header->sortIndicatorSection() == column &&
+                              header->sortIndicatorOrder() == Qt::AscendingOrder;
+            m_FileView->sortByColumn(column, turn ? Qt::DescendingOrder : Qt::AscendingOrder);
+        });
+        m_FileView->addAction(action);
+    };
+    add("mnuSortName", tr("Sort by &name"), Qt::CTRL | Qt::Key_1, CatalogModel::Name);
+    add("mnuSortType", tr("Sort by &type"), Qt::CTRL | Qt::Key_2, CatalogModel::Kind);
+    m_FileView->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void frmCATDialog::MakeBars() {
@@ -203,6 +224,7 @@ void frmCATDialog::Run(const std::string& Catalog, bool Save) {
     m_leave->setEnabled(CanGoUp);
     if (!Open()) {
         m_result = WentUp;
+        FileName.clear();
         return;
     }
     setWindowTitle(Title + tr(" - ") + tr("Catalog ") + ToScreen(BaseName(Catalog, false)));
@@ -241,8 +263,8 @@ void frmCATDialog::Start() {
     m_extension = ExtensionOf(FileNameOf('\\' + entry));
     const std::string directory = m_listing.ExistingDirectory(entry.empty() ? InitDir : entry);
     const std::string rest = withoutDirectory(entry, directory);
-    m_fileName = m_copied = ToScreen(rest);
-    m_stored = rest;
+    m_proposed = m_fileName = m_copied = ToScreen(rest);
+    m_picked = {rest, false};
     m_cmbFileName->clear();
     m_cmbFileName->addItems(recentEntries());
     Enter(directory);
@@ -311,17 +333,26 @@ void frmCATDialog::PointAt(const QString& Name) {
 }
 
 void frmCATDialog::Refresh() {
-    if (Open())
-        Enter(m_listing.ExistingDirectory(JoinPath(m_directory)));
-    else
-        Finish(WentUp);
+    const QString name = m_cmbFileName->currentText();
+    const QString current = m_FileView->currentIndex().data(Qt::UserRole).toString();
+    try {
+        if (!Open())
+            return Finish(WentUp);
+    } catch (const KeshError& error) { // nobody catches it beyond the event loop
+        Say(ToScreen(error.what()), BoxIcon::Critical);
+        return Finish(WentUp);
+    }
+    Enter(m_listing.ExistingDirectory(JoinPath(m_directory)));
+    m_cmbFileName->setEditText(name);
+    if (!current.isEmpty())
+        PointAt(current);
 }
 
 void frmCATDialog::CopyName(const QModelIndex& Index) {
     if (!Index.isValid())
         return;
     const CatalogListing::Row& row = m_model->At(Index);
-    m_stored = row.Name;
+    m_picked = row;
     m_copied = ToScreen(row.Name);
     if (!row.IsDirectory)
         m_fileName = m_copied;
@@ -330,24 +361,44 @@ void frmCATDialog::CopyName(const QModelIndex& Index) {
 
 std::string frmCATDialog::TypedName() const {
     const QString text = m_cmbFileName->currentText();
-    return text == m_copied ? m_stored : text.trimmed().toStdString();
+    return text == m_copied ? m_picked.Name : text.trimmed().toStdString();
+}
+
+/// A file and a directory may have one name: a row stands for what it shows.
+bool frmCATDialog::IsPickedFile() const {
+    return m_cmbFileName->currentText() == m_copied &&
+           m_FileView->selectionModel()->hasSelection() && !m_picked.IsDirectory;
 }
 
 void frmCATDialog::Accept() {
     const std::string name = TypedName();
     if (name.empty())
         return;
-    if (name.find_first_of("*?") != name.npos) {
-        m_masks.assign(1, name);
-        List();
-        return;
-    }
     const std::string entry = EntryFromTyped(JoinPath(m_directory), name);
     const std::string directory = m_listing.ExistingDirectory(entry);
-    if (directory.size() == entry.size())
-        Enter(directory);
+    const std::string rest = withoutDirectory(entry, directory);
+    if (IsPickedFile())
+        AcceptFile(entry);
+    else if (rest.empty())
+        EnterTyped(directory);
+    else if (rest.find('\\') == rest.npos && rest.find_first_of("*?") != rest.npos)
+        ListMask(directory, rest);
     else
-        AcceptFile(JoinPath({directory, withoutDirectory(entry, directory)}));
+        AcceptFile(JoinPath({directory, rest}));
+}
+
+/// What was typed over the name to save to only to get on gives way to that name again.
+void frmCATDialog::EnterTyped(const std::string& Directory) {
+    if (m_fileName == m_cmbFileName->currentText())
+        m_fileName = m_proposed;
+    Enter(Directory);
+}
+
+void frmCATDialog::ListMask(const std::string& Directory, const std::string& Mask) {
+    m_masks.assign(1, Mask);
+    EnterTyped(Directory);
+    m_cmbFileName->setEditText(ToScreen(Mask));
+    m_cmbFileName->lineEdit()->selectAll();
 }
 
 void frmCATDialog::AcceptFile(std::string Entry) {

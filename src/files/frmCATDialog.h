@@ -42,6 +42,7 @@ protected:
 
 private:
     void MakeControls();
+    void MakeSortActions();
     void MakeBars();
     void LayOut();
     void Connect();
@@ -63,7 +64,10 @@ private:
     void CopyName(const QModelIndex& Index);
     void Accept();
     void AcceptFile(std::string Entry);
+    void EnterTyped(const std::string& Directory);
+    void ListMask(const std::string& Directory, const std::string& Mask);
     [[nodiscard]] std::string TypedName() const;
+    [[nodiscard]] bool IsPickedFile() const;
     [[nodiscard]] std::string WithDefaultExtension(const std::string& Entry) const;
     void Say(const QString& Text, BoxIcon Icon);
 
@@ -87,10 +91,11 @@ private:
     std::vector<std::string> m_directory; ///< names of the levels below the catalog
     QList<FilterEntry> m_filters;
     std::vector<std::string> m_masks;
-    QString m_copied;        ///< a name as it is shown,
-    std::string m_stored;    ///< and as it is spelled in the catalog
-    QString m_fileName;      ///< the name to save to, while directories are walked
-    std::string m_extension; ///< of the entry that a save started at
+    QString m_copied;             ///< a name as it is shown,
+    CatalogListing::Row m_picked; ///< and as it stands in the catalog
+    QString m_fileName;           ///< the name to save to, while directories are walked
+    QString m_proposed;           ///< the one at the start
+    std::string m_extension;      ///< of the entry that a save started at
     bool m_save = false;
     int m_result = Cancelled;
 };

@@ -88,6 +88,7 @@ TEST_F(CatalogWindow, TakesWhatIsTyped) {
         {"types\\old\\", "\\readme.txt", "readme.txt"},
         {"types\\gone\\", "gone\\..\\b.pck", "types\\b.PCK"},
         {"", "types|*.txt|TWareT.txt", "types\\TWareT.txt"},
+        {"", "Types\\*.txt|TWareT.txt", "types\\TWareT.txt"},
     };
     for (const TypedCase& c : cases)
         for (const bool view : {false, true}) {
@@ -107,7 +108,8 @@ TEST_F(CatalogWindow, TakesWhatIsTyped) {
 
 TEST_F(CatalogWindow, StaysWhereNothingCanBeChosen) {
     user.Then([&](frmCATDialog& window) {
-        for (const char* typed : {"gone.txt", "types\\gone", "..\\..\\etc", "..\\.."}) {
+        for (const char* typed :
+             {"gone.txt", "types\\gone", "gone\\*.txt", "..\\..\\etc", "..\\.."}) {
             const bool top = std::string_view(typed) == "..\\..";
             if (!top)
                 script.Box(QStringLiteral("File %1 does not exist.").arg(QLatin1String(typed)));
@@ -133,7 +135,9 @@ TEST_F(CatalogWindow, ListsDirectoriesFirstAndWhatTheFilterLetsThrough) {
         EXPECT_EQ(rows(), QStringLiteral("old b.PCK TShips.pck TWareT.txt"));
         auto* view = child<QTreeView>("FileView");
         click(2);
-        view->sortByColumn(CatalogModel::Kind, Qt::DescendingOrder);
+        key(Qt::Key_2, Qt::ControlModifier);
+        EXPECT_EQ(rows(), QStringLiteral("old b.PCK TShips.pck TWareT.txt"));
+        key(Qt::Key_2, Qt::ControlModifier);
         EXPECT_EQ(rows(), QStringLiteral("old TWareT.txt TShips.pck b.PCK"));
         EXPECT_EQ(view->currentIndex().data(), QStringLiteral("TShips.pck"));
         key(Qt::Key_Backspace);
@@ -163,8 +167,12 @@ TEST_F(CatalogWindow, IsWalkedByMouseAndKeys) {
         EXPECT_EQ(levels(), QStringLiteral("mod.cat"));
 
         support::putEntry(catalog, "new.txt", "new");
+        click(2);
         QTest::keyClick(&window, Qt::Key_F5);
         EXPECT_EQ(rows(), QStringLiteral("types types.old new.txt readme.txt"));
+        EXPECT_EQ(name(), QStringLiteral("readme.txt"));
+        EXPECT_EQ(child<QTreeView>("FileView")->currentIndex().row(), 3);
+        key(Qt::Key_Home);
         key(Qt::Key_R); // type ahead
         EXPECT_EQ(name(), QStringLiteral("readme.txt"));
         click(2);
@@ -173,6 +181,26 @@ TEST_F(CatalogWindow, IsWalkedByMouseAndKeys) {
     });
     open(catalog);
     EXPECT_EQ(dialog.FileName, catalog + "::new.txt");
+}
+
+TEST_F(CatalogWindow, TakesAFileNamedAsADirectory) {
+    support::putEntry(catalog, "types", "x");
+    user.Then([&](frmCATDialog&) {
+        EXPECT_EQ(rows(), QStringLiteral("types types.old readme.txt types"));
+        click(3, true);
+    });
+    open(catalog);
+    EXPECT_EQ(dialog.FileName, catalog + "::types");
+}
+
+TEST_F(CatalogWindow, LeavesACatalogThatIsGoneWhenListedAgain) {
+    user.Then([&](frmCATDialog& window) {
+        ASSERT_TRUE(QFile::remove(native("mod.cat")));
+        script.Box(QStringLiteral("Error opening file %1:\n\n").arg(native("mod.cat")));
+        QTest::keyClick(&window, Qt::Key_F5);
+    });
+    open(catalog);
+    EXPECT_EQ(dialog.ModalResult(), 1);
 }
 
 TEST_F(CatalogWindow, GivesBackNamesOfAnyBytes) {
@@ -198,6 +226,7 @@ TEST_F(CatalogWindow, AddsTheExtensionInASave) {
         {"types\\TWareT.txt", 2, nullptr, "types\\TWareT.txt", 2},
         {"types\\TWareT.txt", 2, "new", "types\\new.txt", 2},
         {"types\\TWareT.txt", 3, "old|new", "types\\old\\new.txt", 3},
+        {"types\\mine.txt", 2, "old|", "types\\old\\mine.txt", 2},
         {"new\\deep\\T.pck", 2, nullptr, "new\\deep\\T.pck", 2},
         {"types\\TWareT.pck", 4, "new", "types\\new.pck", 4},
         {"types\\TWareT.pck", 1, "new", "types\\new", 1},
@@ -213,7 +242,8 @@ TEST_F(CatalogWindow, AddsTheExtensionInASave) {
                 QTest::keyClick(&window, Qt::Key_Return);
             else
                 for (const QString& text : QString::fromLatin1(c.Typed).split(u'|'))
-                    user.Type(window, text);
+                    text.isEmpty() ? QTest::keyClick(&window, Qt::Key_Return)
+                                   : user.Type(window, text);
         });
         dialog.ShowSave(catalog);
         EXPECT_EQ(dialog.FileName, catalog + "::" + c.Chosen);

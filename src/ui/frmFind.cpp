@@ -118,7 +118,9 @@ void frmFind::reject() {
 }
 
 bool frmFind::eventFilter(QObject* Object, QEvent* Event) {
-    if (Object == m_FindEdit && Event->type() == QEvent::FocusIn) // behind the press that gave it
+    const bool comes = Object == m_FindEdit && Event->type() == QEvent::FocusIn &&
+                       static_cast<QFocusEvent*>(Event)->reason() != Qt::PopupFocusReason;
+    if (comes) // behind the press that gave it the focus
         QMetaObject::invokeMethod(m_FindEdit, &QLineEdit::selectAll, Qt::QueuedConnection);
     return QDialog::eventFilter(Object, Event);
 }

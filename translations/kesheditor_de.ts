@@ -17,6 +17,69 @@
     </message>
 </context>
 <context>
+    <name>CommonBoxes</name>
+    <message>
+        <source>&quot; already exists.
+
+Do you want to overwrite it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1
+There is no such file.</source>
+        <translation>%1
+Diese Datei gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1
+The file is not a program.</source>
+        <translation>%1
+Die Datei ist kein Programm.</translation>
+    </message>
+    <message>
+        <source>%1
+The system could not start it.</source>
+        <translation>%1
+Das System konnte es nicht starten.</translation>
+    </message>
+    <message>
+        <source>Error starting program: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program cannot found registry entry of Kesh Origins. You will have to specify path to the game executable in the Settings window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No browser was found to show the help:
+</source>
+        <translation>Es wurde kein Browser gefunden, der die Hilfe zeigt:
+</translation>
+    </message>
+    <message>
+        <source>Help is not installed:
+</source>
+        <translation>Die Hilfe ist nicht installiert:
+</translation>
+    </message>
+</context>
+<context>
+    <name>ExternalViewer</name>
+    <message>
+        <source>Error starting external 3D viewer: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write %1 (%2)</source>
+        <translation>%1 kann nicht geschrieben werden (%2)</translation>
+    </message>
+    <message>
+        <source>You didn&apos;t specified path to external 3D viewer.
+Go to Settings and set it up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FilesModel</name>
     <message>
         <source>VFS name</source>
@@ -52,6 +115,35 @@
     <message>
         <source>About</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LoadKeshData</name>
+    <message>
+        <source>Warning:
+Error loading active mod &quot;%1&quot;.
+This is not fatal. Maybe your &quot;Directory with data&quot; is different from real Kesh path?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error loading resources: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object descriptions and names may be unavailable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> - scanning Kesh data files. Please wait...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> - Loading resource strings. Please wait...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error reloading files: </source>
+        <translation>Fehler beim Neuladen der Dateien: </translation>
     </message>
 </context>
 <context>
@@ -93,6 +185,39 @@ Soll er angelegt werden?</translation>
     </message>
 </context>
 <context>
+    <name>OfferRecovery</name>
+    <message>
+        <source>Changes of file %1 were not saved when the program ended the last time.
+Changes: %2, the last of them at %3.</source>
+        <translation>Änderungen der Datei %1 waren nicht gespeichert, als das Programm zuletzt endete.
+Änderungen: %2, die letzte am %3.</translation>
+    </message>
+    <message>
+        <source>The file is not as it was then, so the changes cannot be brought back.</source>
+        <translation>Die Datei ist nicht mehr wie damals, darum lassen sich die Änderungen nicht zurückholen.</translation>
+    </message>
+    <message>
+        <source>Do you want to drop them?</source>
+        <translation>Möchten Sie sie verwerfen?</translation>
+    </message>
+    <message>
+        <source>Do you want to bring them back?</source>
+        <translation>Möchten Sie sie zurückholen?</translation>
+    </message>
+    <message>
+        <source>Press Yes to open the file with the changes.</source>
+        <translation>Ja öffnet die Datei mit den Änderungen.</translation>
+    </message>
+    <message>
+        <source>Press No to drop them.</source>
+        <translation>Nein verwirft sie.</translation>
+    </message>
+    <message>
+        <source>Press Cancel to be asked at the next start.</source>
+        <translation>Abbrechen fragt beim nächsten Start wieder.</translation>
+    </message>
+</context>
+<context>
     <name>RecordDataModel</name>
     <message>
         <source>[off]</source>
@@ -122,16 +247,33 @@ Soll er angelegt werden?</translation>
     </message>
 </context>
 <context>
-    <name>Show</name>
+    <name>TFileDialog</name>
+    <message>
+        <source>Kesh T files (*.txt; *.pck; *.cat)|*.txt;*.pck;*.cat|Lorn Catalogs (*.cat)|*.cat|All files (*.*)|*.*</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kesh T files - plain (*.txt)|*.txt|Kesh T files - compressed (*.pck)|*.pck|Kesh Catalogs (*.cat)|*.cat</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message>
         <source>TXT Editor</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>UserInterface</name>
     <message>
-        <source>File name</source>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*.*)|*.*</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -178,12 +320,12 @@ Soll er angelegt werden?</translation>
         <translation>Von den Autoren des Kesh Editors. Bilder: eigene.</translation>
     </message>
     <message>
-        <source>Free software under the MIT licence:</source>
-        <translation>Freie Software unter der MIT-Lizenz:</translation>
-    </message>
-    <message>
         <source>Libraries and licences</source>
         <translation>Bibliotheken und Lizenzen</translation>
+    </message>
+    <message>
+        <source>Free software under the MIT licence.</source>
+        <translation>Freie Software unter der MIT-Lizenz.</translation>
     </message>
 </context>
 <context>
@@ -194,7 +336,7 @@ Soll er angelegt werden?</translation>
     </message>
     <message>
         <source>File &amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei&amp;name</translation>
     </message>
     <message>
         <source>Files</source>
@@ -210,11 +352,11 @@ Soll er angelegt werden?</translation>
     </message>
     <message>
         <source>Up one level</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Ebene nach oben</translation>
     </message>
     <message>
         <source>Up out of the catalog</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus dem Katalog heraus</translation>
     </message>
     <message>
         <source>Save As</source>
@@ -263,6 +405,18 @@ Soll er angelegt werden?</translation>
     <message>
         <source>&quot;%1&quot; cannot be a name in a catalog.</source>
         <translation>„%1“ kann kein Name in einem Katalog sein.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;name</source>
+        <translation>Nach &amp;Namen sortieren</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;type</source>
+        <translation>Nach &amp;Typ sortieren</translation>
     </message>
 </context>
 <context>
@@ -1029,10 +1183,6 @@ Soll er angelegt werden?</translation>
         <translation>Geht zum Filter der Liste</translation>
     </message>
     <message>
-        <source>Copy val&amp;ues</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Copy the selected fields as text</source>
         <translation>Kopiert die gewählten Felder als Text</translation>
     </message>
@@ -1140,6 +1290,10 @@ Soll sie neu geladen werden?</translation>
     <message>
         <source>Your changes are lost then.</source>
         <translation>Ihre Änderungen gehen dann verloren.</translation>
+    </message>
+    <message>
+        <source>C&amp;opy values</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -13,9 +13,9 @@
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("LoadKeshData", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LoadKeshData)
+};
 
 QString title() {
     return QString::fromStdString(ProgramTitle());
@@ -33,9 +33,9 @@ void createView(QWidget* owner) {
     if (mod.empty() || KeshVFS_AppendCatalog(mod) != 0)
         return;
     const QString text =
-        tr("Warning:\nError loading active mod \"%1\".\n"
-           "This is not fatal. Maybe your \"Directory with data\" is different from "
-           "real Kesh path?");
+        Texts::tr("Warning:\nError loading active mod \"%1\".\n"
+                  "This is not fatal. Maybe your \"Directory with data\" is different from "
+                  "real Kesh path?");
     ShowBox(owner, title(), text.arg(QString::fromStdString(ShownPath(mod))), BoxIcon::Exclamation);
 }
 
@@ -43,9 +43,9 @@ void loadResources(QWidget* owner) {
     if (DescServer->LoadResources(Settings->DescLangID()) || Settings->DataRoot().empty())
         return;
     ShowBox(owner, title(),
-            tr("Error loading resources: ") + QStringLiteral("\n\n") +
+            Texts::tr("Error loading resources: ") + QStringLiteral("\n\n") +
                 ToScreen(DescServer->GetLastError()) + QStringLiteral("\n\n") +
-                tr("Object descriptions and names may be unavailable."),
+                Texts::tr("Object descriptions and names may be unavailable."),
             BoxIcon::Critical);
 }
 
@@ -53,7 +53,10 @@ void loadResources(QWidget* owner) {
 
 void LoadKeshData(QWidget* Owner) {
     std::vector<Phase> phases = {
-        {"", [&] { ShowWait(title() + tr(" - scanning Kesh data files. Please wait..."), Owner); }},
+        {"",
+         [&] {
+             ShowWait(title() + Texts::tr(" - scanning Kesh data files. Please wait..."), Owner);
+         }},
         {"KeshVFS_CreateVFS",
          [&] {
              createView(Owner);
@@ -62,9 +65,10 @@ void LoadKeshData(QWidget* Owner) {
         {"Archive.Clear", [] { Archive->Clear(); }},
     };
     if (Settings->LoadDescriptions()) {
-        phases.push_back(
-            {"Archive.Clear",
-             [] { UpdateWait(title() + tr(" - Loading resource strings. Please wait...")); }});
+        phases.push_back({"Archive.Clear", [] {
+                              UpdateWait(title() +
+                                         Texts::tr(" - Loading resource strings. Please wait..."));
+                          }});
         phases.push_back({"DescServer.Unload", [] { DescServer->Unload(); }});
         phases.push_back({"DescServer.LoadResources", [&] { loadResources(Owner); }});
     }
@@ -78,7 +82,7 @@ bool ReloadKeshData(QWidget* Owner) {
         return true;
     } catch (const std::exception& failure) {
         CloseWait(Owner);
-        ShowBox(Owner, title(), tr("Error reloading files: ") + ToScreen(failure.what()),
+        ShowBox(Owner, title(), Texts::tr("Error reloading files: ") + ToScreen(failure.what()),
                 BoxIcon::Critical);
         return false;
     }

@@ -8,14 +8,15 @@
 #include "files/mdlPaths.h"
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
+#include "ui/TextCodec.h"
 
 namespace {
 
 constexpr const char* directoriesKey = "Dialogs";
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("LornFileDialog", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LornFileDialog)
+};
 
 QString shown(const std::string& path) {
     return QString::fromStdString(ShownPath(path));
@@ -50,7 +51,7 @@ void LornFileDialog::ShowSave() {
 
 void LornFileDialog::Show(bool Save) {
     if (DialogTitle.isEmpty())
-        DialogTitle = Save ? tr("Save") : tr("Open");
+        DialogTitle = Save ? Texts::tr("Save") : Texts::tr("Open");
     Cancelled = false;
     if (const std::string kept = KeptDirectory(Kind); QFileInfo(shown(kept)).isDir())
         InitDir = kept;
@@ -93,7 +94,7 @@ bool LornFileDialog::ShowCatalog(bool Save) {
         return GoUp(catalog);
     frmCATDialog dialog(m_owner);
     dialog.Title = DialogTitle;
-    dialog.Filter = Save ? Filter : tr("All Files (*.*)|*.*");
+    dialog.Filter = Save ? Filter : Texts::tr("All Files (*.*)|*.*");
     dialog.FilterIndex = FilterIndex;
     dialog.InitDir = InitDir;
     dialog.FileName = IsVFSPath(FileName) ? StripVFS(FileName) : EntryPart(FileName);
@@ -125,8 +126,8 @@ bool LornFileDialog::GoUp(const std::string& Catalog) {
 }
 
 bool LornFileDialog::MayMakeCatalog(const std::string& Catalog) const {
-    const QString text =
-        tr("Catalog \"%1\" does not exist.\n\nDo you want to create it?").arg(shown(Catalog));
+    const QString text = Texts::tr("Catalog \"%1\" does not exist.\n\nDo you want to create it?")
+                             .arg(shown(Catalog));
     return Ui().ShowMessage(m_owner, {DialogTitle, text, BoxIcon::Question, BoxButtons::YesNo}) ==
            Answer::Yes;
 }
@@ -138,8 +139,8 @@ bool LornFileDialog::MakeCatalog(const std::string& Catalog) const {
         return true;
     }
     ShowBox(m_owner, DialogTitle,
-            tr("Error opening file ") + shown(Catalog) + QStringLiteral(":\n\n") +
-                QString::fromStdString(LornFDErrorText()),
+            Texts::tr("Error opening file ") + shown(Catalog) + QStringLiteral(":\n\n") +
+                ToScreen(LornFDErrorText()),
             BoxIcon::Critical);
     return false;
 }

@@ -6,6 +6,7 @@
 #include "core/mdlCommon.h"
 #include "files/LornFileDialog.h"
 #include "files/frmCATDialog.h"
+#include "ui/TextCodec.h"
 #include "ui/UserInterface.h"
 
 namespace {
@@ -14,18 +15,19 @@ namespace {
 constexpr const char* openKind = "TE open";
 constexpr const char* viewKind = "TE vfs";
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("TFileDialog", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(TFileDialog)
+};
 
 QString openFilter() {
-    return tr("Kesh T files (*.txt; *.pck; *.cat)|*.txt;*.pck;*.cat|Lorn Catalogs (*.cat)|*.cat|"
-              "All files (*.*)|*.*");
+    return Texts::tr(
+        "Kesh T files (*.txt; *.pck; *.cat)|*.txt;*.pck;*.cat|Lorn Catalogs (*.cat)|*.cat|"
+        "All files (*.*)|*.*");
 }
 
 QString saveFilter() {
-    return tr("Kesh T files - plain (*.txt)|*.txt|Kesh T files - compressed (*.pck)|*.pck|"
-              "Kesh Catalogs (*.cat)|*.cat");
+    return Texts::tr("Kesh T files - plain (*.txt)|*.txt|Kesh T files - compressed (*.pck)|*.pck|"
+                     "Kesh Catalogs (*.cat)|*.cat");
 }
 
 /// False after Cancel and after a failure, which is told.
@@ -35,7 +37,7 @@ bool chosen(QWidget* owner, Show show) {
         return show();
     } catch (const KeshError& error) {
         if (error.Number() != errnum::Cancelled)
-            ShowBox(owner, tr("TXT Editor"), QString::fromStdString(error.what()),
+            ShowBox(owner, Texts::tr("TXT Editor"), ToScreen(error.what()),
                     BoxIcon::Critical);
         return false;
     }
@@ -45,7 +47,7 @@ bool chosen(QWidget* owner, Show show) {
 
 std::optional<std::string> ChooseTFileToOpen(QWidget* Owner) {
     LornFileDialog dialog(Owner);
-    dialog.DialogTitle = tr("Open");
+    dialog.DialogTitle = Texts::tr("Open");
     dialog.Filter = openFilter();
     dialog.InitDir = Settings->DataRoot();
     dialog.Kind = openKind;
@@ -58,8 +60,8 @@ std::optional<std::string> ChooseTFileToOpen(QWidget* Owner) {
 
 std::optional<std::string> ChooseTFileInView(QWidget* Owner) {
     frmCATDialog dialog(Owner);
-    dialog.Title = tr("Select file");
-    dialog.Filter = tr("All files (*.*)|*.*");
+    dialog.Title = Texts::tr("Select file");
+    dialog.Filter = Texts::tr("All files (*.*)|*.*");
     dialog.InitDir = LornFileDialog::KeptDirectory(viewKind);
     const auto show = [&] {
         dialog.ShowOpen("vfs://", Owner);
@@ -73,7 +75,7 @@ std::optional<std::string> ChooseTFileInView(QWidget* Owner) {
 
 std::optional<SaveChoice> ChooseTFileToSave(QWidget* Owner, const std::string& Present) {
     LornFileDialog dialog(Owner);
-    dialog.DialogTitle = tr("Save");
+    dialog.DialogTitle = Texts::tr("Save");
     dialog.Filter = saveFilter();
     dialog.FileName = Present;
     dialog.NewEntry = IsCatalogPath(Present)

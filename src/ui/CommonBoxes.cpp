@@ -8,9 +8,9 @@
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("CommonBoxes", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(CommonBoxes)
+};
 
 /// A stored path as the platform finds it.
 QString nativePath(const std::string& path) {
@@ -27,7 +27,8 @@ bool OverwriteQuestion(const std::string& Name, const QString& Shown, const QStr
                        QWidget* Owner, BoxIcon Icon) {
     if (LornFD_FileExists(Name) == 0)
         return true;
-    const QString text = u'"' + Shown + tr("\" already exists.\n\nDo you want to overwrite it?");
+    const QString text =
+        u'"' + Shown + Texts::tr("\" already exists.\n\nDo you want to overwrite it?");
     return Ui().ShowMessage(Owner, {Title, text, Icon, BoxButtons::YesNo}) == Answer::Yes;
 }
 
@@ -37,9 +38,10 @@ bool RunProgram(const std::string& Path, const QStringList& Arguments) {
 
 QString NotStartedText(const std::string& Path) {
     const QFileInfo program(nativePath(Path));
-    const QString reason = !program.isFile()         ? tr("%1\nThere is no such file.")
-                           : !program.isExecutable() ? tr("%1\nThe file is not a program.")
-                                                     : tr("%1\nThe system could not start it.");
+    const QString reason = !program.isFile() ? Texts::tr("%1\nThere is no such file.")
+                           : !program.isExecutable()
+                               ? Texts::tr("%1\nThe file is not a program.")
+                               : Texts::tr("%1\nThe system could not start it.");
     return reason.arg(program.filePath());
 }
 
@@ -47,7 +49,7 @@ bool StartProgram(QWidget* Owner, const std::string& Path) {
     if (RunProgram(Path))
         return true;
     ShowBox(Owner, QString::fromStdString(ProgramTitle()),
-            tr("Error starting program: ") + NotStartedText(Path), BoxIcon::Exclamation);
+            Texts::tr("Error starting program: ") + NotStartedText(Path), BoxIcon::Exclamation);
     return false;
 }
 
@@ -55,10 +57,12 @@ bool RunGame(QWidget* Owner) {
     const std::string game = Settings->KeshEXEPath();
     if (!game.empty())
         return StartProgram(Owner, game);
-    ShowBox(Owner, QString::fromStdString(ProgramTitle()),
-            tr("Program cannot found registry entry of Kesh Origins. You will have to specify path "
-               "to the game executable in the Settings window."),
-            BoxIcon::Exclamation);
+    ShowBox(
+        Owner, QString::fromStdString(ProgramTitle()),
+        Texts::tr(
+            "Program cannot found registry entry of Kesh Origins. You will have to specify path "
+            "to the game executable in the Settings window."),
+        BoxIcon::Exclamation);
     return false;
 }
 
@@ -70,8 +74,8 @@ void ShowHelp(QWidget* Owner, std::string_view Topic) {
     const bool installed = QFileInfo::exists(page);
     if (installed && Ui().OpenUrl(QUrl::fromLocalFile(page)))
         return;
-    const QString what =
-        installed ? tr("No browser was found to show the help:\n") : tr("Help is not installed:\n");
+    const QString what = installed ? Texts::tr("No browser was found to show the help:\n")
+                                   : Texts::tr("Help is not installed:\n");
     ShowBox(Owner, QString::fromStdString(ProgramTitle()), what + QDir::toNativeSeparators(page),
             BoxIcon::Exclamation);
 }

@@ -11,16 +11,16 @@
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("ExternalViewer", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ExternalViewer)
+};
 
 void say(QWidget* owner, const QString& text, BoxIcon icon) {
     ShowBox(owner, QString::fromStdString(ProgramTitle()), text, icon);
 }
 
 void sayFailure(QWidget* owner, const QString& reason) {
-    say(owner, tr("Error starting external 3D viewer: ") + reason, BoxIcon::Exclamation);
+    say(owner, Texts::tr("Error starting external 3D viewer: ") + reason, BoxIcon::Exclamation);
 }
 
 /// Writes the entry to a file of its own and puts that file's path in place of it; else a reason.
@@ -42,7 +42,7 @@ QString unpack(std::string& path) {
                          copy.flush();
     LornFD_CloseFile(file);
     return written ? QString()
-                   : tr("cannot write %1 (%2)").arg(copy.fileName(), copy.errorString());
+                   : Texts::tr("cannot write %1 (%2)").arg(copy.fileName(), copy.errorString());
 }
 
 } // namespace
@@ -61,7 +61,8 @@ void ShowIn3DViewer(QWidget* Owner, const std::string& Path, const std::string& 
     const std::string viewer = Settings->Ext3DViewerPath();
     if (viewer.empty()) {
         say(Owner,
-            tr("You didn't specified path to external 3D viewer.\nGo to Settings and set it up."),
+            Texts::tr(
+                "You didn't specified path to external 3D viewer.\nGo to Settings and set it up."),
             BoxIcon::Information);
         return;
     }

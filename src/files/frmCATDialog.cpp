@@ -18,17 +18,17 @@ constexpr const char* positionKey = "CATDialog";
 constexpr int levelIndent = 4; ///< blanks
 
 /// Entries chosen in this run of the program, newest first, as "\directory\name".
-QStringList& recentEntries() {
-    static QStringList entries;
+QByteArrayList& recentEntries() {
+    static QByteArrayList entries;
     return entries;
 }
 
 void remember(const std::string& entry) {
     constexpr int most = 10;
-    QStringList& entries = recentEntries();
-    const QString text = u'\\' + ToScreen(entry);
-    entries.removeAll(text);
-    entries.prepend(text);
+    QByteArrayList& entries = recentEntries();
+    const QByteArray path = '\\' + QByteArray::fromStdString(entry);
+    entries.removeAll(path);
+    entries.prepend(path);
     entries.resize(std::min<qsizetype>(entries.size(), most));
 }
 
@@ -266,7 +266,8 @@ void frmCATDialog::Start() {
     m_proposed = m_fileName = m_copied = ToScreen(rest);
     m_picked = {rest, false};
     m_cmbFileName->clear();
-    m_cmbFileName->addItems(recentEntries());
+    for (const QByteArray& path : recentEntries())
+        m_cmbFileName->addItem(ToScreen(path.toStdString()), path);
     Enter(directory);
     m_cmbFileName->setEditText(m_fileName);
     if (!m_fileName.isEmpty())
@@ -361,7 +362,11 @@ void frmCATDialog::CopyName(const QModelIndex& Index) {
 
 std::string frmCATDialog::TypedName() const {
     const QString text = m_cmbFileName->currentText();
-    return text == m_copied ? m_picked.Name : text.trimmed().toStdString();
+    if (text == m_copied)
+        return m_picked.Name;
+    const int recent = m_cmbFileName->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    return recent >= 0 ? m_cmbFileName->itemData(recent).toByteArray().toStdString()
+                       : text.trimmed().toStdString();
 }
 
 /// A file and a directory may have one name: a row stands for what it shows.

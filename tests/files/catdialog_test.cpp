@@ -211,6 +211,14 @@ TEST_F(CatalogWindow, GivesBackNamesOfAnyBytes) {
     });
     open(catalog);
     EXPECT_EQ(dialog.FileName, catalog + "::\xE9t\xE9.txt");
+
+    dialog.FileName.clear();
+    user.Then([&](frmCATDialog& window) { // the one chosen last stands first
+        child<QComboBox>("cmbFileName")->setCurrentIndex(0);
+        QTest::keyClick(&window, Qt::Key_Return);
+    });
+    open(catalog);
+    EXPECT_EQ(dialog.FileName, catalog + "::\xE9t\xE9.txt");
 }
 
 struct SaveCase {

@@ -1,3 +1,5 @@
+#include "app/killdriver.h"
+
 #include <QApplication>
 #include <gtest/gtest.h>
 
@@ -5,6 +7,9 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    if (qEnvironmentVariableIsSet(driveLog))
+        return DriveProgram(qEnvironmentVariable(driveLog),
+                            qEnvironmentVariable(driveSeed).toUInt());
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -14,9 +14,9 @@ namespace {
 
 constexpr int records = 40;
 constexpr int shortestDrive = 100; ///< milliseconds
-constexpr int longestDrive = 1300;
+constexpr int longestDrive = 2000;
 constexpr std::int64_t mostLost = 1000; ///< milliseconds
-constexpr std::int64_t slack = 500;     ///< for a machine under load
+constexpr std::int64_t slack = 200;     ///< for a machine under load
 
 struct Line {
     std::int64_t Time = 0; ///< milliseconds

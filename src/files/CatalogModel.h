@@ -3,7 +3,7 @@
 
 #include "files/CatalogListing.h"
 
-#include <QtWidgets>
+#include <QtGui>
 
 class CatalogModel : public QAbstractTableModel {
     Q_OBJECT

@@ -1,9 +1,11 @@
 // A file dialog that looks inside catalogs and the merged view.
 #pragma once
 
-#include <QtWidgets>
+#include <QtCore>
 
 #include <string>
+
+class QWidget;
 
 class LornFileDialog {
 public:

@@ -268,7 +268,8 @@ const std::vector<clsTXTObject*>& clsTxtParser::ByName() const {
     for (const auto& record : m_byIndex)
         named.emplace_back(record->ObjectName(), record.get());
     std::ranges::stable_sort(
-        named, [](std::string_view a, std::string_view b) { return lornfd::compareNoCase(a, b) < 0; },
+        named,
+        [](std::string_view a, std::string_view b) { return lornfd::compareNoCase(a, b) < 0; },
         [](const auto& entry) { return entry.first; });
     m_byName.reserve(named.size());
     for (const auto& entry : named)

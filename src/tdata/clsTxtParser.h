@@ -76,8 +76,8 @@ private:
     friend std::string NewObjectName(const clsTxtParser& Parser);
     /// While many records are added at one place.
     struct Bulk {
-        std::size_t From = 0;        ///< that place
-        std::vector<RecordPtr> Tail; ///< the records behind it, with the Index that they had
+        std::size_t From = 0;            ///< that place
+        std::vector<RecordPtr> Tail;     ///< the records behind it, with the Index that they had
         std::shared_ptr<NewNames> Names; ///< once one was asked for
     };
 

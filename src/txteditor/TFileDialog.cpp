@@ -37,8 +37,7 @@ bool chosen(QWidget* owner, Show show) {
         return show();
     } catch (const KeshError& error) {
         if (error.Number() != errnum::Cancelled)
-            ShowBox(owner, Texts::tr("TXT Editor"), ToScreen(error.what()),
-                    BoxIcon::Critical);
+            ShowBox(owner, Texts::tr("TXT Editor"), ToScreen(error.what()), BoxIcon::Critical);
         return false;
     }
 }

@@ -53,6 +53,12 @@ function(kesh_test folder)
   add_executable(${target} ${arg_SOURCES})
   target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${target} PRIVATE ${arg_LINK} GTest::gtest)
+  if(KESH_SANITIZE AND CMAKE_BUILD_TYPE STREQUAL "Debug")
+    target_compile_options(${target} PRIVATE -O0) # the checks of a test take longest to compile
+  endif()
+  if(Qt6::Test IN_LIST arg_LINK)
+    target_precompile_headers(${target} PRIVATE <QtWidgets> <QTest> <gtest/gtest.h>)
+  endif()
   add_test(NAME ${folder} COMMAND ${target} --gtest_brief=1 --gtest_output=xml:${CMAKE_BINARY_DIR}/results/${folder}.xml)
   set_tests_properties(${folder} PROPERTIES TIMEOUT 900
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.txt:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1")

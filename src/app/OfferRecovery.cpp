@@ -35,8 +35,8 @@ bool mayDrop(QWidget* owner, const LeftJournal& left) {
                {},
                Texts::tr("The file is not as it was then, so the changes cannot be brought back."),
                Texts::tr("Do you want to drop them?")});
-    return Ui().ShowMessage(owner, {title(), text, BoxIcon::Exclamation, BoxButtons::YesNo}) ==
-           Answer::Yes;
+    const MessageRequest request{title(), text, BoxIcon::Exclamation, BoxButtons::YesNo, true};
+    return Ui().ShowMessage(owner, request) == Answer::Yes;
 }
 
 Answer askAbout(QWidget* owner, const LeftJournal& left) {

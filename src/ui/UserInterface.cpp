@@ -65,6 +65,8 @@ public:
         box.setObjectName(QStringLiteral("MessageBox"));
         box.setTextFormat(Qt::PlainText);
         box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        if (Request.NoIsDefault)
+            box.setDefaultButton(QMessageBox::No);
         return AnswerOf(box.exec(), Request.Buttons);
     }
 

@@ -18,6 +18,7 @@ struct MessageRequest {
     QString Text; ///< shown as plain text
     BoxIcon Icon = BoxIcon::None;
     BoxButtons Buttons = BoxButtons::Ok;
+    bool NoIsDefault = false; ///< where Yes loses something
 };
 
 struct FileRequest {

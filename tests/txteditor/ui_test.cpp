@@ -152,6 +152,15 @@ TEST_F(Windows, RealBoxesGiveTheAnswerThatWasPressed) {
     }
 }
 
+TEST_F(Windows, EnterInARealBoxDoesNotLoseAnything) {
+    for (const bool careful : {false, true}) {
+        QTimer::singleShot(
+            0, qApp, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+        const MessageRequest request{{}, QStringLiteral("text"), {}, BoxButtons::YesNo, careful};
+        EXPECT_EQ(Ui().ShowMessage(nullptr, request), careful ? Answer::No : Answer::Yes);
+    }
+}
+
 TEST_F(Windows, TheRealFileDialogGivesNameAndFilter) {
     write("a.pck", "x");
     FileRequest request{

@@ -86,6 +86,8 @@ frmCATDialog::frmCATDialog(QWidget* Owner)
 frmCATDialog::~frmCATDialog() = default;
 
 void frmCATDialog::MakeControls() {
+    SetTask(false);
+    m_lblCaption->setText(tr("Look &in"));
     m_lblCaption->setBuddy(m_cmbDir);
     m_Label1->setText(tr("File &name"));
     m_Label1->setBuddy(m_cmbFileName);
@@ -198,9 +200,9 @@ void frmCATDialog::Connect() {
             [this](const QItemSelection& selected) { CopyName(selected.indexes().value(0)); });
     connect(m_FileView, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
         CopyName(index);
-        Accept();
+        TakeName();
     });
-    connect(m_btnOK, &QPushButton::clicked, this, &frmCATDialog::Accept);
+    connect(m_btnOK, &QPushButton::clicked, this, &frmCATDialog::TakeName);
     connect(m_btnCancel, &QPushButton::clicked, this, &frmCATDialog::reject);
     auto* refresh = new QShortcut(Qt::Key_F5, this);
     connect(refresh, &QShortcut::activated, this, &frmCATDialog::Refresh);
@@ -218,9 +220,15 @@ void frmCATDialog::ShowSave(const std::string& Catalog) {
     Run(Catalog, true);
 }
 
+void frmCATDialog::SetTask(bool Save) {
+    m_save = Save;
+    m_btnOK->setText(Save ? tr("&Save") : tr("&Open"));
+    m_lblFilter->setText(Save ? tr("Save as &type") : tr("Files of &type"));
+}
+
 void frmCATDialog::Run(const std::string& Catalog, bool Save) {
     m_catalog = Catalog;
-    m_save = Save;
+    SetTask(Save);
     m_leave->setEnabled(CanGoUp);
     if (!Open()) {
         m_result = WentUp;
@@ -228,9 +236,6 @@ void frmCATDialog::Run(const std::string& Catalog, bool Save) {
         return;
     }
     setWindowTitle(Title + tr(" - ") + tr("Catalog ") + ToScreen(BaseName(Catalog, false)));
-    m_btnOK->setText(Save ? tr("&Save") : tr("&Open"));
-    m_lblCaption->setText(tr("Look &in"));
-    m_lblFilter->setText(Save ? tr("Save as &type") : tr("Files of &type"));
     FillFilters();
     Start();
     m_cmbFileName->setFocus();
@@ -297,7 +302,7 @@ void frmCATDialog::ShowLevels() {
     m_cmbDir->clear();
     m_cmbDir->addItem(directory, ToScreen(BaseName(m_catalog, false)));
     for (std::size_t i = 0; i < m_directory.size(); ++i)
-        m_cmbDir->addItem(directory, QString(levelIndent * static_cast<int>(i + 1), u' ') +
+        m_cmbDir->addItem(directory, QString(levelIndent * static_cast<qsizetype>(i + 1), u' ') +
                                          ToScreen(m_directory[i]));
     m_cmbDir->setCurrentIndex(m_cmbDir->count() - 1);
     m_up->setEnabled(!m_directory.empty());
@@ -375,7 +380,7 @@ bool frmCATDialog::IsPickedFile() const {
            m_FileView->selectionModel()->hasSelection() && !m_picked.IsDirectory;
 }
 
-void frmCATDialog::Accept() {
+void frmCATDialog::TakeName() {
     const std::string name = TypedName();
     if (name.empty())
         return;

@@ -47,6 +47,7 @@ private:
     void LayOut();
     void Connect();
 
+    void SetTask(bool Save);
     void Run(const std::string& Catalog, bool Save);
     [[nodiscard]] bool Open();
     void FillFilters();
@@ -62,7 +63,7 @@ private:
     void PointAt(const QString& Name);
     void Refresh();
     void CopyName(const QModelIndex& Index);
-    void Accept();
+    void TakeName();
     void AcceptFile(std::string Entry);
     void EnterTyped(const std::string& Directory);
     void ListMask(const std::string& Directory, const std::string& Mask);

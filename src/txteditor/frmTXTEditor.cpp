@@ -13,6 +13,8 @@ constexpr int minimumSide = 133;       ///< of each pane, in pixels
 constexpr int defaultClassWidth = 133; ///< pixels
 constexpr int flushTime = 500;         ///< milliseconds from a change until it is on the disk
 constexpr int rawTab = 0;
+constexpr int narrowRaw =
+    45; ///< characters, in which fields and watch list do not fit side by side
 
 /// A view of many rows: none is measured.
 void prepareRows(QTreeView* view) {
@@ -24,6 +26,21 @@ void prepareRows(QTreeView* view) {
     view->header()->setSectionResizeMode(QHeaderView::Interactive);
     view->header()->setSectionsMovable(false);
 }
+
+/// Puts its panes one below the other where it is too narrow for both side by side.
+class FoldingSplitter : public QSplitter {
+public:
+    using QSplitter::QSplitter;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        const int narrow = narrowRaw * fontMetrics().averageCharWidth();
+        const auto way = event->size().width() < narrow ? Qt::Vertical : Qt::Horizontal;
+        if (orientation() != way)
+            setOrientation(way);
+        QSplitter::resizeEvent(event);
+    }
+};
 
 QWidget* rowOf(std::initializer_list<QWidget*> widgets, QWidget* parent) {
     auto* row = new QWidget(parent);
@@ -149,7 +166,7 @@ QWidget* frmTXTEditor::BuildObjectSide() {
 }
 
 QWidget* frmTXTEditor::BuildRawPage() {
-    auto* page = new QSplitter(this);
+    auto* page = new FoldingSplitter(this);
     page->setObjectName(QStringLiteral("RawSplitter"));
     page->setChildrenCollapsible(false);
     m_rawSplitter = page;
@@ -184,6 +201,7 @@ QWidget* frmTXTEditor::BuildWatch() {
     m_watchTo = bound(QStringLiteral("WatchTo"), tr("Index of the last field to watch"));
     auto* label = new QLabel(tr("Watch from offset"), side);
     label->setBuddy(m_watchFrom);
+    label->setWordWrap(true);
     auto* to = new QLabel(tr("to"), side);
     to->setBuddy(m_watchTo);
     m_watchList = new QListView(side);

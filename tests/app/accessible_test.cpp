@@ -1,7 +1,9 @@
-// Every window by keyboard and screen reader: each control has a name and is reached by Tab.
+// Every window by keyboard, screen reader and eye: each control has a name, is reached by Tab and
+// is not cut.
 #include "app/frmFiles.h"
 #include "app/frmSettings.h"
 #include "apptest.h"
+#include "files/frmCATDialog.h"
 #include "txteditor/frmEdit.h"
 #include "ui/frmAbout.h"
 #include "ui/frmFind.h"
@@ -18,9 +20,10 @@ std::unique_ptr<QWidget> make() {
 }
 
 const std::map<const char*, Maker> makers = {
-    {"launcher", make<frmMain>}, {"editor", make<frmTXTEditor>}, {"settings", make<frmSettings>},
-    {"value", make<frmEdit>},    {"find", make<frmFind>},        {"report", make<frmText>},
-    {"files", make<frmFiles>},   {"about", make<frmAbout>},      {"wait", make<frmWait>}};
+    {"launcher", make<frmMain>},    {"editor", make<frmTXTEditor>}, {"settings", make<frmSettings>},
+    {"value", make<frmEdit>},       {"find", make<frmFind>},        {"report", make<frmText>},
+    {"files", make<frmFiles>},      {"about", make<frmAbout>},      {"wait", make<frmWait>},
+    {"catalog", make<frmCATDialog>}};
 
 /// What a screen reader has to say of a control.
 QString spoken(const QWidget& control) {
@@ -93,6 +96,47 @@ TEST_F(Accessible, TabReachesEveryControl) {
                 << name << ": " << control->metaObject()->className() << ' '
                 << control->objectName().toStdString();
     }
+}
+
+/// A text that is meant to be seen whole.
+bool isText(const QWidget& control) {
+    const auto* label = qobject_cast<const QLabel*>(&control);
+    return control.isVisible() && !control.property("text").toString().isEmpty() &&
+           control.sizePolicy().horizontalPolicy() != QSizePolicy::Ignored &&
+           ((label && !label->wordWrap()) || qobject_cast<const QAbstractButton*>(&control));
+}
+
+void expectNothingCut(const char* name, const QWidget& window) {
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        if (control->window() != &window || !isText(*control))
+            continue;
+        const QRect place(control->mapTo(&window, QPoint()), control->size());
+        EXPECT_TRUE(window.rect().contains(place) &&
+                    place.width() >= control->minimumSizeHint().width() &&
+                    place.height() >= control->minimumSizeHint().height())
+            << name << ": " << control->property("text").toString().toStdString();
+    }
+}
+
+TEST_F(Accessible, NoTextIsCutWithAnyFontInAnySize) {
+    const QFont usual = QApplication::font();
+    for (const int scale : {1, 2}) {
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * scale);
+        QApplication::setFont(font);
+        for (const auto& [name, maker] : makers) {
+            const std::unique_ptr<QWidget> window = maker();
+            window->show();
+            for (const QSize size : {window->size(), QSize(800, 600), QSize(2560, 1440)}) {
+                SCOPED_TRACE("font " + std::to_string(scale) + ", width " +
+                             std::to_string(size.width()));
+                window->resize(size);
+                QCoreApplication::processEvents();
+                expectNothingCut(name, *window);
+            }
+        }
+    }
+    QApplication::setFont(usual);
 }
 
 QStringList texts(const QList<QAction*>& actions) {

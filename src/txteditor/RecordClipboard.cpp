@@ -1,7 +1,5 @@
 #include "txteditor/RecordClipboard.h"
 
-#include "txteditor/frmTXTEditor.h"
-
 namespace {
 
 /// Marks the text as this program's, whose records are at hand themselves.
@@ -28,15 +26,15 @@ RecordPtr RecordClipboard::ClipboardObject() const {
     return m_objects.empty() ? RecordPtr() : m_objects.front();
 }
 
-frmTXTEditor* RecordClipboard::ClipboardSource() const {
-    return qobject_cast<frmTXTEditor*>(m_source.data());
+QWidget* RecordClipboard::ClipboardSource() const {
+    return m_source;
 }
 
 bool RecordClipboard::HasObjects() const {
     return !m_objects.empty() && m_mode != Mode::Nothing;
 }
 
-void RecordClipboard::Set(std::vector<RecordPtr> Objects, Mode HowTaken, frmTXTEditor* Source,
+void RecordClipboard::Set(std::vector<RecordPtr> Objects, Mode HowTaken, QWidget* Source,
                           const QString& Text) {
     m_objects = std::move(Objects);
     m_mode = HowTaken;
@@ -48,7 +46,7 @@ void RecordClipboard::Set(std::vector<RecordPtr> Objects, Mode HowTaken, frmTXTE
     Q_EMIT Changed();
 }
 
-void RecordClipboard::SetSource(frmTXTEditor* Source) {
+void RecordClipboard::SetSource(QWidget* Source) {
     m_source = m_objects.empty() ? nullptr : Source;
     Q_EMIT Changed();
 }

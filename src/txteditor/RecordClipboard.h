@@ -8,8 +8,6 @@
 
 #include <vector>
 
-class frmTXTEditor;
-
 class RecordClipboard : public QObject {
     Q_OBJECT
 
@@ -21,14 +19,13 @@ public:
     [[nodiscard]] const std::vector<RecordPtr>& Objects() const noexcept { return m_objects; }
     [[nodiscard]] RecordPtr ClipboardObject() const; ///< the first; none if there is none
     [[nodiscard]] Mode ClipboardMode() const noexcept { return m_mode; }
-    /// None also if that window was closed.
-    [[nodiscard]] frmTXTEditor* ClipboardSource() const;
+    /// The window they came from; none also if it was closed.
+    [[nodiscard]] QWidget* ClipboardSource() const;
 
     /// Also gives the text to the system's clipboard.
-    void Set(std::vector<RecordPtr> Objects, Mode HowTaken, frmTXTEditor* Source,
-             const QString& Text);
+    void Set(std::vector<RecordPtr> Objects, Mode HowTaken, QWidget* Source, const QString& Text);
     /// The window counts as the source of what is there, if anything is.
-    void SetSource(frmTXTEditor* Source);
+    void SetSource(QWidget* Source);
     void Clear();
 
     /// Copied or cut records that can be pasted.

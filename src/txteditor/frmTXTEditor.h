@@ -138,7 +138,6 @@ private:
     [[nodiscard]] std::string SaveStart() const;
     [[nodiscard]] bool MayReplace(const std::string& Name);
     [[nodiscard]] bool MayLoseData(); ///< asks where a save drops something or cannot be read back
-    [[nodiscard]] bool MakeCatalog(const std::string& Name);
     void LoadRecent();
     void AddRecent(const std::string& Name);
     void RemoveRecent(const std::string& Name);

@@ -211,7 +211,7 @@ void frmTXTEditor::ListRecords(const std::vector<RecordPtr>& Made, const RecordP
 }
 
 void frmTXTEditor::FinishCut(const std::vector<RecordPtr>& Objects) {
-    frmTXTEditor* const source = RecordClipboard::Instance().ClipboardSource();
+    auto* const source = qobject_cast<frmTXTEditor*>(RecordClipboard::Instance().ClipboardSource());
     if (source)
         source->DeleteObjects(Objects);
     else

@@ -150,7 +150,7 @@ bool frmTXTEditor::SaveFile() {
         Say(tr("File ") + shown(choice->Name) + tr(" not found."), BoxIcon::Exclamation);
         return false;
     }
-    if (!MayReplace(*name) || !MayLoseData() || !MakeCatalog(*name))
+    if (!MayReplace(*name) || !MayLoseData())
         return false;
     TakeChanges(); // also of what was finished by going to the dialogs
     clsTFile::Result result;
@@ -204,24 +204,6 @@ bool frmTXTEditor::MayLoseData() {
     return may(notReadBack(m_objectType), anyway) &&
            may(m_file.Parser.LeftOut(), tr("Do you want to save the file without it?")) &&
            may(m_file.Parser.Misfit(), anyway);
-}
-
-bool frmTXTEditor::MakeCatalog(const std::string& Name) {
-    const std::string catalog = CatalogPart(Name);
-    if (!IsCatalogPath(Name) || LornFD_FileExists(catalog) != 0)
-        return true;
-    const QString text =
-        tr("Catalog \"%1\" does not exist.\n\nDo you want to create it?").arg(shown(catalog));
-    if (Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Question, BoxButtons::YesNo}) !=
-        Answer::Yes)
-        return false;
-    const std::int32_t handle = LornFD_OpenCatalog(catalog, LORNFD_CREATE);
-    if (handle != 0) {
-        LornFD_CloseCatalog(handle);
-        return true;
-    }
-    Say(lines({tr("Error opening file: "), ToScreen(LornFDErrorText())}), BoxIcon::Critical);
-    return false;
 }
 
 void frmTXTEditor::LoadRecent() {

@@ -530,11 +530,11 @@ Changes: %2, the last of them at %3.</source>
     </message>
     <message>
         <source>Listing... Files: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird aufgelistet... Dateien: %1</translation>
     </message>
     <message>
         <source>Files: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien: %1</translation>
     </message>
 </context>
 <context>
@@ -769,7 +769,7 @@ File type:
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchsuchen...</translation>
     </message>
     <message>
         <source>Select directory containing game data files.</source>
@@ -948,7 +948,7 @@ File type:
     </message>
     <message>
         <source>Show the Text Resource Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Text Resource Editor öffnen</translation>
     </message>
     <message>
         <source>&amp;Content</source>
@@ -1049,14 +1049,6 @@ Soll sie ersetzt werden, sodass jene Änderungen verloren gehen?</translation>
     <message>
         <source>Do you want to save the file anyway?</source>
         <translation>Soll die Datei trotzdem gespeichert werden?</translation>
-    </message>
-    <message>
-        <source>Catalog &quot;%1&quot; does not exist.
-
-Do you want to create it?</source>
-        <translation>Den Katalog „%1“ gibt es nicht.
-
-Soll er angelegt werden?</translation>
     </message>
     <message>
         <source>Error in SelectFileType: </source>
@@ -1243,7 +1235,7 @@ Uncheck the Sort checkbox and insert the object again.</source>
     </message>
     <message>
         <source>Do you really want to delete the %1 selected objects ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wirklich die %1 ausgewählten Objekte löschen?</translation>
     </message>
     <message>
         <source>Error removing object from control.</source>
@@ -1267,7 +1259,7 @@ Uncheck the Sort checkbox and insert the object again.</source>
     </message>
     <message>
         <source>%1 of %2 objects</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Objekten</translation>
     </message>
     <message>
         <source>File %1 is not as it was when it was changed. The changes cannot be brought back into it.</source>

@@ -10,8 +10,8 @@
 namespace {
 
 struct LauncherEntry {
-    const char* Key;
-    const char* Caption; ///< empty: the program's name
+    const char* Key = "";
+    const char* Caption = ""; ///< empty: the program's name
     std::string (clsSettings::*Program)() const = nullptr;
     bool Always = true; ///< also while no program is set
 };

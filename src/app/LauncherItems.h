@@ -7,7 +7,7 @@
 
 /// Items in table order, with key (Qt::UserRole), picture, a caption that the user may change, but
 /// not to nothing, and a place of their own where icons are not arranged.
-class LauncherItems : public QStandardItemModel {
+class LauncherItems final : public QStandardItemModel {
     Q_OBJECT
 
 public:

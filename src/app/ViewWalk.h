@@ -27,7 +27,7 @@ public:
 private:
     struct Directory {
         std::string Name; ///< with its final "\", or empty
-        std::size_t Level;
+        std::size_t Level = 0;
     };
 
     void Enter();

@@ -29,7 +29,7 @@ QString unpack(std::string& path) {
         LornFD_OpenFile(path, LORNFD_READ, LORNFD_OPEN_EXISTING, LORNFD_AS_IS);
     const std::string_view content = file != 0 ? LornFD_ViewFile(file) : std::string_view();
     if (!content.data()) {
-        const QString reason = QString::fromStdString(LornFDErrorText());
+        QString reason = QString::fromStdString(LornFDErrorText());
         if (file != 0)
             LornFD_CloseFile(file);
         return reason;

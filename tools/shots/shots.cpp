@@ -137,7 +137,7 @@ std::string useSample(const QTemporaryDir& place, const QString& sample) {
     qputenv("KESH_CONFIG_DIR", place.filePath(QStringLiteral("config")).toUtf8());
     qputenv("KESH_STATE_DIR", place.filePath(QStringLiteral("state")).toUtf8());
     QDir(place.path()).mkdir(QStringLiteral("config"));
-    const std::string root = QDir(sample).absolutePath().replace(u'/', u'\\').toStdString();
+    std::string root = QDir(sample).absolutePath().replace(u'/', u'\\').toStdString();
     clsSettings().SetDataRoot(root);
     return root;
 }
@@ -183,7 +183,7 @@ int main(int argc, char** argv) {
     larger.setPointSizeF(larger.pointSizeF() * font);
     QApplication::setFont(larger);
     const QTemporaryDir place;
-    const std::string root = useSample(place, QString::fromStdString(sample));
+    std::string root = useSample(place, QString::fromStdString(sample));
     return takeAll(QDir(QString::fromStdString(target)), root,
                    QString::fromStdString(suffix + ".png"));
 }

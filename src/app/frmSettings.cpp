@@ -10,6 +10,7 @@
 #include "ui/ListHelpers.h"
 #include "ui/SelectOnEntry.h"
 #include "ui/TextCodec.h"
+#include "ui/WrappedLabel.h"
 #include "ui/frmWait.h"
 
 namespace {
@@ -29,9 +30,8 @@ std::string typedPath(const QString& text) {
 }
 
 QLabel* note(const QString& text) {
-    auto* label = new QLabel(text);
+    auto* label = new WrappedLabel(text);
     label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
     return label;
 }
 

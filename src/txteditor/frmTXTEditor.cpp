@@ -4,6 +4,7 @@
 #include "txteditor/RecordDataModel.h"
 #include "txteditor/RecordListModel.h"
 #include "ui/WindowPos.h"
+#include "ui/WrappedLabel.h"
 #include "ui/frmWait.h"
 
 namespace {
@@ -199,9 +200,8 @@ QWidget* frmTXTEditor::BuildWatch() {
     };
     m_watchFrom = bound(QStringLiteral("WatchFrom"), tr("Index of the first field to watch"));
     m_watchTo = bound(QStringLiteral("WatchTo"), tr("Index of the last field to watch"));
-    auto* label = new QLabel(tr("Watch from offset"), side);
+    auto* label = new WrappedLabel(tr("Watch from offset"), side);
     label->setBuddy(m_watchFrom);
-    label->setWordWrap(true);
     auto* to = new QLabel(tr("to"), side);
     to->setBuddy(m_watchTo);
     m_watchList = new QListView(side);

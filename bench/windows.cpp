@@ -223,7 +223,7 @@ void editorRows(const Options& options, std::vector<Row>& rows) {
         limitRow("pasting 20,000 records", subject.PasteMany().blocked, mostBlockedByPaste));
 }
 
-/// Ends the clock when a view of that name is painted with rows, and closes its window.
+/// Takes the time until a view of that name was painted with rows, and closes its window.
 class PaintWatch : public QObject {
 public:
     explicit PaintWatch(const char* view) : m_view(QString::fromLatin1(view)) {
@@ -238,15 +238,18 @@ protected:
             view->model()->rowCount() == 0)
             return false;
         m_painted = true;
-        QTimer::singleShot(0, this, [this, view] {
-            seconds = secondsSince(m_start);
-            view->window()->close();
-        });
+        m_window = view->window();
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
         return false;
+    }
+    void customEvent(QEvent*) override { // before any timer of the window
+        seconds = secondsSince(m_start);
+        m_window->close();
     }
 
 private:
     QString m_view;
+    QWidget* m_window = nullptr;
     bool m_painted = false;
     Clock::time_point m_start = Clock::now();
 };
@@ -262,7 +265,7 @@ std::string writeCatalog(const Options& options) {
     return (options.directory / "window.cat").string();
 }
 
-/// What stands behind the last blank of each line but the first.
+/// What stands behind the last blank of each line but the first, in order.
 QStringList readNames(const std::string& catalog) {
     const Bytes bytes = readPlain(catalog);
     QStringList names;
@@ -273,6 +276,7 @@ QStringList readNames(const std::string& catalog) {
         names.append(QString::fromLatin1(name.data(), std::ssize(name)));
         rest.remove_prefix(line.size() + 1);
     }
+    names.sort(Qt::CaseInsensitive);
     return names;
 }
 
@@ -325,7 +329,7 @@ Row catalogRow(const Options& options) {
         options.rounds, [&] { return paintCatalog(catalog); },
         [&] { return paintBare([&] { return readNames(catalog); }); });
     return withinRow("catalog dialog to its first paint",
-                     "names split from the file into a QTreeView of texts", best, 1.5);
+                     "the file's names, split and sorted, in a QTreeView of texts", best, 1.5);
 }
 
 Row filesRow(const Options& options) {

@@ -8,7 +8,9 @@
 namespace {
 
 constexpr auto settingsKey = "files";
-constexpr int sliceTime = 15;   ///< milliseconds of reading between two looks at the user
+constexpr int firstTime = 2;    ///< milliseconds of reading before the window is shown
+constexpr int showTime = 20;    ///< milliseconds that it then has to be painted
+constexpr int sliceTime = 15;   ///< the same between two looks at the user
 constexpr int sliceFiles = 500; ///< files between two looks at the clock
 
 /// Both columns share the view's width, in the proportion that the user gave them.
@@ -117,15 +119,15 @@ void frmFiles::Refresh() {
 void frmFiles::FillFiles(const QString& Filter) {
     m_model.Clear();
     m_walk.emplace(Filter.toStdString());
-    m_timer.start(0, this); // the window is painted first
-    m_count->setText(tr("Listing... Files: %1").arg(0));
+    m_timer.start(showTime, this);
+    ReadSlice(firstTime);
 }
 
-void frmFiles::ReadSlice() {
+void frmFiles::ReadSlice(int Milliseconds) {
     QElapsedTimer clock;
     clock.start();
     std::vector<ViewFile> found;
-    while (!m_walk->AtEnd() && !clock.hasExpired(sliceTime)) {
+    while (!m_walk->AtEnd() && !clock.hasExpired(Milliseconds)) {
         std::vector<ViewFile> files = m_walk->Next(sliceFiles);
         std::move(files.begin(), files.end(), std::back_inserter(found));
     }
@@ -142,9 +144,9 @@ void frmFiles::ReadSlice() {
 
 void frmFiles::timerEvent(QTimerEvent* event) {
     if (event->timerId() != m_timer.timerId())
-        QMainWindow::timerEvent(event);
-    else if (m_walk)
-        ReadSlice();
+        return QMainWindow::timerEvent(event);
+    m_timer.start(0, this);
+    ReadSlice(sliceTime);
 }
 
 void frmFiles::Copy() {

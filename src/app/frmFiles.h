@@ -32,7 +32,7 @@ private:
     void BuildControls();
     void BuildActions();
     void FillFiles(const QString& Filter);
-    void ReadSlice();
+    void ReadSlice(int Milliseconds);
     void Copy();
     void Open();
     void UpdateActions();

@@ -2,6 +2,7 @@
 
 #include "core/KeshError.h"
 #include "core/mdlCommon.h"
+#include "lornfd/foldedsort.h"
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
 #include "tdata/NewObjectName.h"
@@ -259,21 +260,21 @@ RecordPtr clsTxtParser::FindIndex(std::int32_t Index) const {
                                                        : RecordPtr();
 }
 
-// The names are fetched once: asking the records in each comparison takes three times as long.
+// The names are fetched once: asking the records in each comparison takes three times as long. Of
+// one name the first in the file comes first.
 const std::vector<clsTXTObject*>& clsTxtParser::ByName() const {
     if (!m_byName.empty())
         return m_byName;
-    std::vector<std::pair<std::string_view, clsTXTObject*>> named;
+    std::vector<std::pair<std::string_view, std::size_t>> named;
     named.reserve(m_byIndex.size());
-    for (const auto& record : m_byIndex)
-        named.emplace_back(record->ObjectName(), record.get());
-    std::ranges::stable_sort(
-        named,
-        [](std::string_view a, std::string_view b) { return lornfd::compareNoCase(a, b) < 0; },
-        [](const auto& entry) { return entry.first; });
+    for (std::size_t i = 0; i < m_byIndex.size(); ++i)
+        named.emplace_back(m_byIndex[i]->ObjectName(), i);
+    lornfd::sortNoCase(
+        named, [](const auto& entry) { return entry.first; },
+        [](const auto& a, const auto& b) { return a.second < b.second; });
     m_byName.reserve(named.size());
     for (const auto& entry : named)
-        m_byName.push_back(entry.second);
+        m_byName.push_back(m_byIndex[entry.second].get());
     return m_byName;
 }
 

@@ -1,9 +1,13 @@
+#include "lornfd/foldedsort.h"
 #include "lornfd/paths.h"
 #include "scratch.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <numeric>
+#include <random>
 #include <string>
 
 namespace {
@@ -52,6 +56,29 @@ TEST(Paths, ComparesFoldedBytesThenLength) {
         EXPECT_EQ(compareNoCase(wanted.a, wanted.b), wanted.order);
         EXPECT_EQ(compareNoCase(wanted.b, wanted.a), -wanted.order);
         EXPECT_EQ(equalNoCase(wanted.a, wanted.b), wanted.order == 0);
+    }
+}
+
+TEST(Paths, ManyNamesAreSortedAsTwoAre) {
+    std::mt19937 random(7);
+    for (const std::string start : {"", "objects\\SHIPS_"}) {
+        std::vector<std::string> names;
+        for (int i = 0; i < 500;
+             ++i) { // often the same, and often longer than what is compared first
+            std::string name = start;
+            for (std::size_t length = random() % 12; length > 0; --length)
+                name += std::string_view("aAb_\xE9\0", 6)[random() % 6];
+            names.push_back(std::move(name));
+        }
+        std::vector<std::size_t> sorted(names.size());
+        std::iota(sorted.begin(), sorted.end(), std::size_t{0});
+        std::vector<std::size_t> expected = sorted;
+        std::stable_sort(expected.begin(), expected.end(), [&](std::size_t a, std::size_t b) {
+            return compareNoCase(names[a], names[b]) < 0;
+        });
+        sortNoCase(
+            sorted, [&](std::size_t i) -> std::string_view { return names[i]; }, std::less());
+        EXPECT_EQ(sorted, expected);
     }
 }
 

@@ -1,7 +1,7 @@
 #include "keshvfs/view.h"
 
 #include "keshvfs/wildcard.h"
-#include "lornfd/paths.h"
+#include "lornfd/foldedsort.h"
 
 #include <algorithm>
 #include <random>
@@ -233,12 +233,9 @@ const std::vector<Id>& View::sortedChildren(Id directory) const {
     Directory& sorted = m_directories[directory];
     settle(sorted);
     if (!sorted.sorted)
-        std::ranges::sort(sorted.children, [this](Id a, Id b) {
-            const Entry& first = m_entries[a];
-            const Entry& second = m_entries[b];
-            const int compared = lornfd::compareNoCase(first.name(), second.name());
-            return compared != 0 ? compared < 0 : first.isDirectory() < second.isDirectory();
-        });
+        lornfd::sortNoCase(
+            sorted.children, [this](Id id) { return m_entries[id].name(); },
+            [this](Id a, Id b) { return m_entries[a].isDirectory() < m_entries[b].isDirectory(); });
     sorted.sorted = true;
     return sorted.children;
 }

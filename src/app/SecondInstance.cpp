@@ -7,6 +7,7 @@ namespace {
 constexpr int acknowledgeTime = 2000; ///< milliseconds
 constexpr quint32 longestRequest = 1U << 20;
 constexpr char acknowledged = 'A';
+constexpr char confirmed = 'C';
 constexpr char accepted = '1';
 constexpr char refused = '0';
 
@@ -51,6 +52,7 @@ Handover HandOver(const QString& Name, const QString& Request) {
     }
     if (readByte(socket, acknowledgeTime) != acknowledged)
         return Handover::NoInstance;
+    send(socket, confirmed);
     switch (readByte(socket, -1)) {
     case accepted:
         return Handover::Accepted;
@@ -104,8 +106,18 @@ void InstanceServer::Read(QLocalSocket* Socket) {
         return; // the rest is still on its way
     Socket->disconnect(this);
     send(*Socket, acknowledged);
+    connect(Socket, &QLocalSocket::readyRead, this,
+            [this, Socket, request] { Serve(Socket, QString::fromUtf8(request)); });
+}
+
+/// Only for a sender that still waits: one that got no answer in time does its work itself.
+void InstanceServer::Serve(QLocalSocket* Socket, const QString& Request) {
+    Socket->disconnect(this);
+    char byte = 0;
+    if (!Socket->getChar(&byte) || byte != confirmed)
+        return Socket->abort();
     const QPointer<QLocalSocket> sender(Socket);
-    const bool good = m_onRequest(QString::fromUtf8(request));
+    const bool good = m_onRequest(Request);
     if (sender) // it may have given up while a box was open
         send(*sender, good ? accepted : refused);
 }

@@ -2,8 +2,8 @@
 // first.
 //
 // On a local socket the text travels whole, with its length in front. The first instance
-// acknowledges on reading, also while one of its boxes is open, and later answers whether it
-// accepted the request.
+// acknowledges on reading, also while one of its boxes is open; the second confirms that it still
+// waits, and is answered later whether the request was accepted.
 #pragma once
 
 #include <QtCore>
@@ -41,6 +41,7 @@ public:
 private:
     void Accept();
     void Read(QLocalSocket* Socket);
+    void Serve(QLocalSocket* Socket, const QString& Request);
 
     std::unique_ptr<QLocalServer> m_server;
     Handler m_onRequest;

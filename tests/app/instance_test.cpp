@@ -99,7 +99,8 @@ TEST_F(Instances, HoldsOutAgainstBrokenSenders) {
                                       QByteArray("\x00\x00\x00\x09"
                                                  "ab",
                                                  6),
-                                      QByteArray("\x7F\xFF\xFF\xFF", 4)};
+                                      QByteArray("\x7F\xFF\xFF\xFF", 4),
+                                      QByteArray("\0\0\0\1x", 5)}; // whole, but it does not wait
     for (const QByteArray& bytes : broken) {
         QLocalSocket socket;
         socket.connectToServer(name);

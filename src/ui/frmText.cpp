@@ -1,5 +1,7 @@
 #include "ui/frmText.h"
 
+#include "ui/CommonBoxes.h"
+
 frmText::frmText(QWidget* Owner) : QDialog(Owner), m_txt(new QPlainTextEdit(this)) {
     setObjectName(QStringLiteral("frmText"));
     m_txt->setObjectName(QStringLiteral("txt"));
@@ -13,6 +15,7 @@ frmText::frmText(QWidget* Owner) : QDialog(Owner), m_txt(new QPlainTextEdit(this
     auto* rows = new QVBoxLayout(this);
     rows->addWidget(m_txt);
     rows->addWidget(close, 0, Qt::AlignRight);
+    HelpOnF1(this, "report.html");
     const QFontMetrics font = fontMetrics();
     resize(80 * font.averageCharWidth(), 24 * font.height());
 }

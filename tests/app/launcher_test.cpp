@@ -7,6 +7,7 @@
 #include "ui/CommonBoxes.h"
 #include "ui/ListHelpers.h"
 #include "ui/frmAbout.h"
+#include "ui/frmText.h"
 
 namespace {
 
@@ -366,6 +367,7 @@ TEST_F(Launcher, HelpShowsThePageOfTheWindow) {
     check(frmSettings(), "/help/settings.html");
     check(frmFiles(), "/help/loadedfiles.html");
     check(frmAbout(), "/help/about.html");
+    check(frmText(), "/help/report.html");
     script.Box(QStringLiteral("Help is not installed"));
     ShowHelp(&launcher, "nothing.html");
 }

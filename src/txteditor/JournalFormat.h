@@ -26,6 +26,11 @@ struct JournalBase {
     std::int32_t ObjectType = 0;
 
     bool operator==(const JournalBase&) const = default;
+    /// True if it is the same content in the same place, whatever led there.
+    [[nodiscard]] bool IsState(const JournalBase& Other) const {
+        return StoredPath == Other.StoredPath && Content == Other.Content &&
+               ObjectType == Other.ObjectType;
+    }
 };
 
 /// A base with what was done to it.

@@ -5,6 +5,7 @@
 #include "lornfd/paths.h"
 #include "lornfd/platform.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QLockFile>
@@ -17,6 +18,10 @@
 namespace {
 
 using namespace std::chrono_literals;
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(RecoveryJournal)
+};
 
 // A living program holds a system lock on its lock file as well, so that age alone breaks none.
 constexpr auto staleAge = 1s;
@@ -174,8 +179,10 @@ std::string RecoveryJournal::Flush() {
         m_told = !reason.empty();
         return {};
     }
-    return "Changes cannot be noted for recovery in \"" + ShownPath(m_directory) + "\": " + reason +
-           ". If the program is interrupted, what is not saved is lost.";
+    return Texts::tr("Changes cannot be noted for recovery in \"%1\": %2. If the program is "
+                     "interrupted, what is not saved is lost.")
+        .arg(QString::fromStdString(ShownPath(m_directory)), QString::fromStdString(reason))
+        .toStdString();
 }
 
 std::string RecoveryJournal::WritePending() {
@@ -186,7 +193,7 @@ std::string RecoveryJournal::WritePending() {
         auto held =
             JournalFile::Hold(directory.filePath(name + QStringLiteral(".journal")).toStdString());
         if (!held)
-            return "no file can be made there";
+            return Texts::tr("no file can be made there").toStdString();
         m_file = std::move(*held);
     }
     const bool made = m_length == 0;

@@ -73,6 +73,7 @@ public:
     /// to tell the user if that failed for the first time since it last succeeded, else nothing;
     /// what could not be written is tried again by the next call.
     [[nodiscard]] std::string Flush();
+    [[nodiscard]] bool HasPending() const noexcept { return !m_pending.empty(); }
     /// The document was closed in the normal way: the file goes.
     void Discard();
 

@@ -8,6 +8,7 @@
 #include "tdata/mdlKeshConst.h"
 #include "txteditor/RecoveryJournal.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 
@@ -15,6 +16,9 @@
 #include <vector>
 
 namespace {
+
+/// Of no file: none is so large.
+constexpr ContentMark nowhere{std::int64_t{1} << 62, 0};
 
 std::string containerPath(const std::string& path) {
     return lornfd::resolvePath(CatalogPart(path));
@@ -112,8 +116,15 @@ clsTFile::Result clsTFile::Save(const std::string& Name, std::int32_t FileType,
     }
     Parser.FileName = Name;
     m_base = std::move(base);
+    if (!ReadsBack())
+        m_base.Content = nowhere;
     SetStamp(StampOf(Name));
     return {};
+}
+
+bool clsTFile::ReadsBack() const {
+    const std::int32_t type = Parser.otype();
+    return type < otype::JobWings || type > otype::IconData;
 }
 
 clsTFile::Result clsTFile::Write(std::int32_t File, const std::function<void()>& Announce) {
@@ -123,7 +134,9 @@ clsTFile::Result clsTFile::Write(std::int32_t File, const std::function<void()>&
     }
     if (Parser.ByIndex().empty()) {
         LornFD_AbandonFile(File);
-        return {Outcome::NotSaved, "There is no object to save."};
+        return {
+            Outcome::NotSaved,
+            QCoreApplication::translate("clsTFile", "There is no object to save.").toStdString()};
     }
     Announce();
     if (LornFD_CloseFile(File) == 0)

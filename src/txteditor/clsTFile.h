@@ -32,7 +32,10 @@ public:
     /// name then. `Announce` is told what will stand there, just before it does.
     Result Save(const std::string& Name, std::int32_t FileType,
                 const std::function<void(const JournalBase&)>& Announce = {});
-    /// What the document was opened from or saved as.
+    /// False if what Save writes is not read as the same records.
+    [[nodiscard]] bool ReadsBack() const;
+    /// What the document was opened from or saved as. Steps cannot go on from a file that is
+    /// not read back: its content then is one that no file has.
     [[nodiscard]] const JournalBase& Base() const noexcept { return m_base; }
     /// Where the document is really stored; empty if a "vfs://" name is nowhere now.
     [[nodiscard]] std::string StoredPath() const;

@@ -276,7 +276,10 @@ void frmTXTEditor::ConnectUndo() {
     connect(&m_undo, &RecordUndo::RecordsLeaving, this,
             [this](const RecordUndo::Records& leaving) { LeavePanel(leaving); });
     connect(&m_undo, &RecordUndo::RecordsRemoved, this, &frmTXTEditor::OnRecordsRemoved);
-    connect(&m_undo.Stack(), &QUndoStack::indexChanged, this, &frmTXTEditor::UpdateActions);
+    connect(&m_undo.Stack(), &QUndoStack::indexChanged, this, [this] {
+        UpdateCaption();
+        UpdateActions();
+    });
     connect(&m_undo, &RecordUndo::Stepped, this, [this](const RecordSteps& steps) {
         if (m_replaying)
             return; // the journal has them
@@ -381,10 +384,16 @@ bool frmTXTEditor::OnKey(const QObject* Watched, int Key) {
     if (Key == Qt::Key_Escape)
         m_filter->clear();
     else if (enter || Key == Qt::Key_Down)
-        m_objectView->setFocus();
+        GoToList();
     else
         return false;
     return true;
+}
+
+void frmTXTEditor::GoToList() {
+    m_objectView->setFocus();
+    if (!m_selected)
+        SelectRecord(m_list->Record(m_list->index(0, 0)));
 }
 
 bool frmTXTEditor::DropFile(QDropEvent* Drop) {

@@ -91,6 +91,7 @@ private:
     void SaveSettings();
     [[nodiscard]] std::array<std::pair<const char*, QSplitter*>, 2> KeptSplitters() const;
     void KeepClassWidth();
+    void GoToList();
     [[nodiscard]] bool OnKey(const QObject* Watched, int Key);
 
     // Actions
@@ -176,6 +177,7 @@ private:
 
     // Crashes, and other programs
     void FlushJournal();
+    void ShowTrouble(const std::string& Reason);
     void BeginJournal();
     void AnnounceSave(const JournalBase& Base);
     void LookAtDisk();
@@ -219,6 +221,7 @@ private:
     RecoveryJournal m_journal;
     QTimer m_flush;
     bool m_replaying = false;
+    bool m_rowsLeave = false;
     QFileSystemWatcher m_watcher;
     frmFind* m_find = nullptr;
     QVariant m_findTag; ///< of finding without the dialog

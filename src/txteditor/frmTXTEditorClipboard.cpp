@@ -65,13 +65,12 @@ void frmTXTEditor::OnNew() {
 
 void frmTXTEditor::OnPaste() {
     const RecordClipboard& clipboard = RecordClipboard::Instance();
-    if (!HasFile())
-        return;
-    const QString text = clipboard.ForeignText(); // it came after what was copied here
+    // What came from elsewhere came after what was copied here.
+    const QString text = HasFile() ? clipboard.ForeignText() : QString();
     if (text.isEmpty() && clipboard.HasObjects())
         InsertRecords({clipboard.Objects(), clipboard.ClipboardMode() == RecordClipboard::Mode::Cut,
                        tr("paste of %1").arg(nameOf(clipboard.Objects()))});
-    else if (clipboard.HasForeignText())
+    else if (HasFile() && clipboard.HasForeignText())
         PasteText(text);
 }
 
@@ -287,7 +286,10 @@ void frmTXTEditor::OnRecordsRemoved(const std::vector<RecordPtr>& Removed) {
         return;
     const int row = m_list->IndexOf(Removed.front().get()).row();
     const bool shown = std::ranges::find(Removed, m_selected) != Removed.end();
-    m_list->Remove(Removed);
+    {
+        const QScopedValueRollback leaving(m_rowsLeave, true);
+        m_list->Remove(Removed);
+    }
     UpdateCount();
     UpdateCaption();
     const QModelIndex next = m_list->index(std::min(row, m_list->rowCount() - 1), 0);

@@ -37,15 +37,6 @@ std::int32_t fileTypeOf(int filterIndex) {
     }
 }
 
-/// What is to be known before a save of a type whose written form is not its own; empty for the
-/// others.
-std::string notReadBack(std::int32_t type) {
-    return type >= otype::JobWings && type <= otype::IconData
-               ? "Files of this type have a form of their own. They are written as plain records, "
-                 "which are not read back as this file was read."
-               : std::string();
-}
-
 } // namespace
 
 void frmTXTEditor::Say(const QString& Text, BoxIcon Icon) {
@@ -189,21 +180,23 @@ bool frmTXTEditor::MayReplace(const std::string& Name) {
     const QString text = tr("\"%1\" was changed by another program since it was opened here.\n\n"
                             "Do you want to replace it, so that those changes are lost?")
                              .arg(shown(Name));
-    return Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Exclamation,
-                                   BoxButtons::YesNo}) == Answer::Yes;
+    return Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Exclamation, BoxButtons::YesNo,
+                                   true}) == Answer::Yes;
 }
 
 bool frmTXTEditor::MayLoseData() {
-    const auto may = [this](const std::string& finding, const QString& question) {
-        return finding.empty() ||
-               Ui().ShowMessage(this,
-                                {tr("TXT Editor"), lines({ToScreen(finding), QString(), question}),
-                                 BoxIcon::Exclamation, BoxButtons::YesNo}) == Answer::Yes;
+    const auto may = [this](const QString& finding, const QString& question) {
+        const QString text = lines({finding, QString(), question});
+        return finding.isEmpty() ||
+               Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Exclamation,
+                                       BoxButtons::YesNo, true}) == Answer::Yes;
     };
+    const QString otherForm = tr("Files of this type have a form of their own. They are written as "
+                                 "plain records, which are not read back as this file was read.");
     const QString anyway = tr("Do you want to save the file anyway?");
-    return may(notReadBack(m_objectType), anyway) &&
-           may(m_file.Parser.LeftOut(), tr("Do you want to save the file without it?")) &&
-           may(m_file.Parser.Misfit(), anyway);
+    return may(m_file.ReadsBack() ? QString() : otherForm, anyway) &&
+           may(ToScreen(m_file.Parser.LeftOut()), tr("Do you want to save the file without it?")) &&
+           may(ToScreen(m_file.Parser.Misfit()), anyway);
 }
 
 void frmTXTEditor::LoadRecent() {

@@ -85,6 +85,7 @@ bool frmTXTEditor::TellPanel(const std::function<void(ObjectEditor&)>& Call) {
 }
 
 void frmTXTEditor::ApplyPanelInfo(std::int32_t Info) {
+    KeepClassWidth();
     if ((Info & panelinfo::HasClasses) != 0) {
         m_list->SetClassColumn([this](const RecordPtr& record) {
             return askPanel([&] { return m_activeEditor->GetClass(record); },
@@ -94,7 +95,6 @@ void frmTXTEditor::ApplyPanelInfo(std::int32_t Info) {
         m_objectView->header()->setSectionResizeMode(0, QHeaderView::Stretch);
         m_objectView->setColumnWidth(1, m_classWidth);
     } else {
-        KeepClassWidth();
         m_list->SetClassColumn({});
         m_objectView->header()->setStretchLastSection(true);
     }
@@ -225,6 +225,8 @@ void frmTXTEditor::SelectRecords(const std::vector<RecordPtr>& Records) {
 }
 
 void frmTXTEditor::OnSelection() {
+    if (m_rowsLeave) // some that are still selected are gone from the panel
+        return;
     const QItemSelectionModel* selection = m_objectView->selectionModel();
     QModelIndex row = selection->currentIndex();
     if (!selection->isSelected(row))

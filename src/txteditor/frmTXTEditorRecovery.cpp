@@ -27,23 +27,27 @@ void frmTXTEditor::BeginJournal() {
 /// Trouble with it is said in the status bar: the work itself goes on.
 void frmTXTEditor::FlushJournal() {
     m_flush.stop();
-    const std::string trouble = m_journal.Flush();
-    if (!trouble.empty())
-        statusBar()->showMessage(ToScreen(trouble));
+    ShowTrouble(m_journal.Flush());
 }
 
 void frmTXTEditor::AnnounceSave(const JournalBase& Base) {
     m_flush.stop();
-    const std::string trouble = m_journal.AnnounceSave(Base);
-    if (!trouble.empty())
-        statusBar()->showMessage(ToScreen(trouble));
+    ShowTrouble(m_journal.AnnounceSave(Base));
+}
+
+void frmTXTEditor::ShowTrouble(const std::string& Reason) {
+    if (!Reason.empty())
+        statusBar()->showMessage(ToScreen(Reason));
+    if (m_journal.HasPending())
+        m_flush.start(); // again
 }
 
 void frmTXTEditor::Recover(LeftJournal Left) {
     const std::string document = Left.Base.Document;
-    LoadFile(document);
-    const bool fits = m_file.Parser.FileName == document && m_file.Base() == Left.Base &&
-                      StepsFit(m_file.Parser.ByIndex().size(), Left.Commands);
+    // The view may have another file under that name by now.
+    LoadFile(RealPath(document) == Left.Base.StoredPath ? document : Left.Base.StoredPath);
+    const bool fits =
+        m_file.Base().IsState(Left.Base) && StepsFit(m_file.Parser.ByIndex().size(), Left.Commands);
     if (!fits) {
         Say(tr("File %1 is not as it was when it was changed. The changes cannot be brought back "
                "into it.")
@@ -76,6 +80,8 @@ void frmTXTEditor::LookAtDisk() {
         QTimer::singleShot(lookAgain, this, &frmTXTEditor::LookAtDisk);
         return;
     }
+    if (m_watcher.files().isEmpty())
+        FollowDisk(); // what it held was replaced, perhaps by a save of ours next to this file
     // A box amid an action is no time for it either: the window becomes active again behind it.
     if (QApplication::activeModalWidget() || !isActiveWindow() || !HasFile() ||
         !m_file.NoticeChange())
@@ -83,13 +89,12 @@ void frmTXTEditor::LookAtDisk() {
     TakeChanges();
     QString question = tr("File %1 was changed by another program.\nDo you want to load it again?")
                            .arg(shown(m_file.Parser.FileName));
-    if (m_file.Parser.CheckDirty())
+    const bool changed = m_file.Parser.CheckDirty();
+    if (changed)
         question += u'\n' + tr("Your changes are lost then.");
-    if (Ui().ShowMessage(this, {tr("TXT Editor"), question, BoxIcon::Exclamation,
-                                BoxButtons::YesNo}) == Answer::Yes)
+    if (Ui().ShowMessage(this, {tr("TXT Editor"), question, BoxIcon::Exclamation, BoxButtons::YesNo,
+                                changed}) == Answer::Yes)
         LoadFile(std::string(m_file.Parser.FileName));
-    else
-        FollowDisk(); // a file that was replaced is not followed any more
 }
 
 void frmTXTEditor::changeEvent(QEvent* event) {

@@ -105,6 +105,40 @@ TEST_F(Recovery, NeverOnAnotherFile) {
     EXPECT_FALSE(left[0].Fits);
 }
 
+TEST_F(Recovery, FindsItsFileWhenTheViewHasAnother) {
+    delete window.data();
+    write("data/types/TWareT.txt", wares({"A"}));
+    write("mod/types/TWareT.txt", wares({"X"}));
+    ASSERT_NE(KeshVFS_CreateVFS(program("data")), 0);
+    start({}, {new FakePanel});
+    window->OpenFile("vfs://types\\TWareT");
+    editField(0, 4, QStringLiteral("8"));
+    auto left = crash();
+    ASSERT_EQ(left.size(), 1U);
+    ASSERT_NE(KeshVFS_CreateVFS(program("mod")), 0);
+    recover(std::move(left[0]));
+    EXPECT_EQ(names(), QStringLiteral("A"));
+    EXPECT_EQ(value(0, 4), "8");
+    EXPECT_EQ(caption(), caption("data/types/TWareT.txt", QStringLiteral("Things v.1")) +
+                             QStringLiteral(" *"));
+}
+
+TEST_F(Recovery, NotOnAFileThatIsReadInAnotherForm) {
+    delete window.data();
+    write("JobWings.txt", "1;2,3;");
+    start("JobWings.txt");
+    ASSERT_GT(window->Parser().ByIndex().size(), 0U);
+    editField(0, 0, QStringLiteral("5"));
+    script.Save(FileChoice{native("JobWings.txt"), 1});
+    script.Box(QStringLiteral("already exists"), Answer::Yes);
+    script.Box(QStringLiteral("form of their own"), Answer::Yes);
+    trigger("save");
+    editField(0, 0, QStringLiteral("6"));
+    const auto left = crash();
+    ASSERT_EQ(left.size(), 1U);
+    EXPECT_FALSE(left[0].Fits) << "its records would be others";
+}
+
 struct DiskCase {
     bool Dirty;
     Answer Reply;
@@ -123,7 +157,8 @@ TEST_P(OnDisk, AsksOnceAboutAChangeOfAnotherProgram) {
                c.Reply);
     write("TWareT.txt", wares({"OTHER", "B"}));
     QTest::qWait(200); // the system tells
-    EXPECT_EQ(script.Boxes.size(), 1U);
+    ASSERT_EQ(script.Boxes.size(), 1U);
+    EXPECT_EQ(script.Boxes[0].NoIsDefault, c.Dirty) << "Enter must not lose work";
     QEvent active(QEvent::ActivationChange);
     QApplication::sendEvent(window, &active);
     QCoreApplication::processEvents();

@@ -2,8 +2,13 @@
 
 namespace {
 
-/// Marks the text as this program's, whose records are at hand themselves.
 constexpr auto ownFormat = "application/x-kesh-records";
+
+/// Marks the text as this process's, whose records are at hand themselves.
+const QByteArray& ownMark() {
+    static const QByteArray mark = QUuid::createUuid().toByteArray();
+    return mark;
+}
 
 } // namespace
 
@@ -41,7 +46,7 @@ void RecordClipboard::Set(std::vector<RecordPtr> Objects, Mode HowTaken, QWidget
     m_source = m_objects.empty() ? nullptr : Source;
     auto data = std::make_unique<QMimeData>();
     data->setText(Text);
-    data->setData(QString::fromLatin1(ownFormat), {});
+    data->setData(QString::fromLatin1(ownFormat), ownMark());
     QGuiApplication::clipboard()->setMimeData(data.release());
     Q_EMIT Changed();
 }
@@ -60,7 +65,8 @@ void RecordClipboard::Clear() {
 
 void RecordClipboard::LookAtSystem() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    m_foreignText = data && data->hasText() && !data->hasFormat(QString::fromLatin1(ownFormat));
+    m_foreignText =
+        data && data->hasText() && data->data(QString::fromLatin1(ownFormat)) != ownMark();
     Q_EMIT Changed();
 }
 

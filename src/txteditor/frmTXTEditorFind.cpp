@@ -29,7 +29,7 @@ void frmTXTEditor::OnFindNext() {
         m_find ? m_find->FindString() : ToScreen(Settings->ReadRegValue(settingsKey, lastFind));
     if (text.isEmpty())
         OnFind();
-    else if (!FindNext(text, false, m_find ? m_find->Tag : m_findTag))
+    else if (!FindNext(text, m_find && m_find->WholeWords(), m_find ? m_find->Tag : m_findTag))
         ShowBox(this, tr("Find"), tr("No more occurencies found."), BoxIcon::Information);
 }
 

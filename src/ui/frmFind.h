@@ -13,6 +13,7 @@ public:
     QVariant Tag;
 
     [[nodiscard]] QString FindString() const;
+    [[nodiscard]] bool WholeWords() const { return m_chkWholeWords->isChecked(); }
     /// The next search starts at the beginning.
     void ClearTag() { Tag.clear(); }
     /// Shows the dialog over an owner and returns at once; Modal keeps the owner from being used.

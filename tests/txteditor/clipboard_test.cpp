@@ -71,6 +71,7 @@ TEST_P(PasteRows, GivesTheFileAndTakesItBack) {
     EXPECT_EQ(names(), QString::fromLatin1(c.Undone));
     EXPECT_EQ(panel->Known.size(), window->Parser().ByIndex().size());
     EXPECT_FALSE(window->Parser().CheckDirty());
+    EXPECT_FALSE(caption().endsWith(QStringLiteral(" *")));
     EXPECT_FALSE(child<QAction>("undo")->isEnabled()) << "one step";
     trigger("redo");
     EXPECT_EQ(names(), QString::fromLatin1(c.Names));
@@ -102,6 +103,24 @@ TEST_F(Clipboard, WhatIsCopiedIsTheWholeRecord) {
     trigger("mnuPaste");
     EXPECT_EQ(names(), QStringLiteral("A B C D NEW_OBJECT_1 NEW_OBJECT_2"));
     EXPECT_EQ(label("Bar1"), QStringLiteral("6 objects"));
+}
+
+TEST_F(Clipboard, TakesRecordsOfAnotherRunningProgram) {
+    auto* data = new QMimeData; // as it marks them, but not by this process
+    data->setText(QString::fromLatin1(record("FAR")));
+    data->setData(QStringLiteral("application/x-kesh-records"), "another");
+    QGuiApplication::clipboard()->setMimeData(data);
+    trigger("mnuPaste");
+    EXPECT_EQ(names(), QStringLiteral("A B C D FAR"));
+}
+
+TEST_F(Clipboard, APasteWithoutAFileSaysWhy) {
+    pick("ObjectView", 0);
+    trigger("mnuCopy");
+    others.push_back(window);
+    start();
+    script.Box(QStringLiteral("This type of file is not recognized."));
+    trigger("mnuPaste");
 }
 
 TEST_F(Clipboard, Refusals) {

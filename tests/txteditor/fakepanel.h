@@ -60,7 +60,11 @@ public:
     std::string GetResourceName(const RecordPtr& Object) const override {
         return Text(Object->Index == 0 ? "First" : "");
     }
-    void ShowObject(const RecordPtr& Object, std::int32_t) override { Shown = Object; }
+    void ShowObject(const RecordPtr& Object, std::int32_t) override {
+        if (Object && !Known.contains(Object.get()))
+            throw std::runtime_error("not one of mine");
+        Shown = Object;
+    }
     RecordPtr CreateObject(std::int32_t, clsTxtParser& Target, const RecordPtr& Before) override {
         if (Creations == 0)
             return {};

@@ -81,6 +81,22 @@ TEST_F(Find, DialogKeepsItsText) {
     trigger("findNext");
 }
 
+TEST_F(Find, TheNextHitIsAsWholeAsTheFirst) {
+    pick("ObjectView", 0);
+    trigger("find");
+    child<QLineEdit>("FindEdit")->setText(QStringLiteral("iron"));
+    child<QCheckBox>("chkWholeWords")->setChecked(true);
+    trigger("findNext");
+    EXPECT_EQ(selected(), 3);
+}
+
+TEST_F(Find, FilterLeadsToItsFirstRow) {
+    filter("gold");
+    QTest::keyClick(child<QLineEdit>("FilterEdit"), Qt::Key_Return);
+    EXPECT_EQ(selected(), 2);
+    EXPECT_TRUE(view("ObjectView")->hasFocus());
+}
+
 TEST_F(Find, FilterNarrowsAsTyped) {
     pick("ObjectView", 3);
     filter("iRo");

@@ -247,6 +247,17 @@ Changes: %2, the last of them at %3.</source>
     </message>
 </context>
 <context>
+    <name>RecoveryJournal</name>
+    <message>
+        <source>Changes cannot be noted for recovery in &quot;%1&quot;: %2. If the program is interrupted, what is not saved is lost.</source>
+        <translation>Änderungen lassen sich in &quot;%1&quot; nicht zur Wiederherstellung festhalten: %2. Wird das Programm unterbrochen, geht verloren, was nicht gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>no file can be made there</source>
+        <translation>dort lässt sich keine Datei anlegen</translation>
+    </message>
+</context>
+<context>
     <name>TFileDialog</name>
     <message>
         <source>Kesh T files (*.txt; *.pck; *.cat)|*.txt;*.pck;*.cat|Lorn Catalogs (*.cat)|*.cat|All files (*.*)|*.*</source>
@@ -275,6 +286,13 @@ Changes: %2, the last of them at %3.</source>
     <message>
         <source>Save</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>clsTFile</name>
+    <message>
+        <source>There is no object to save.</source>
+        <translation>Es gibt kein Objekt zum Speichern.</translation>
     </message>
 </context>
 <context>
@@ -535,6 +553,14 @@ Changes: %2, the last of them at %3.</source>
     <message>
         <source>Files: %1</source>
         <translation>Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;VFS name</source>
+        <translation>Nach &amp;VFS-Name sortieren</translation>
+    </message>
+    <message>
+        <source>Sort by &amp;real name</source>
+        <translation>Nach &amp;wirklichem Namen sortieren</translation>
     </message>
 </context>
 <context>
@@ -944,7 +970,7 @@ File type:
     </message>
     <message>
         <source>&amp;Text resources</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Textressourcen</translation>
     </message>
     <message>
         <source>Show the Text Resource Editor</source>
@@ -1160,7 +1186,7 @@ Soll sie ersetzt werden, sodass jene Änderungen verloren gehen?</translation>
     </message>
     <message>
         <source>Find &amp;next</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter&amp;suchen</translation>
     </message>
     <message>
         <source>Find the same text again</source>
@@ -1184,7 +1210,7 @@ Soll sie ersetzt werden, sodass jene Änderungen verloren gehen?</translation>
     </message>
     <message>
         <source>new object</source>
-        <translation type="unfinished"></translation>
+        <translation>neues Objekt</translation>
     </message>
     <message>
         <source>paste of %1</source>
@@ -1285,7 +1311,11 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>C&amp;opy values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte k&amp;opieren</translation>
+    </message>
+    <message>
+        <source>Files of this type have a form of their own. They are written as plain records, which are not read back as this file was read.</source>
+        <translation>Dateien dieses Typs haben eine eigene Form. Sie werden als einfache Datensätze geschrieben, die nicht so gelesen werden, wie diese Datei gelesen wurde.</translation>
     </message>
 </context>
 <context>

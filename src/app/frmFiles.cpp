@@ -2,6 +2,7 @@
 
 #include "core/clsSettings.h"
 #include "ui/CommonBoxes.h"
+#include "ui/ListHelpers.h"
 #include "ui/SelectOnEntry.h"
 #include "ui/WindowPos.h"
 
@@ -94,27 +95,12 @@ void frmFiles::BuildActions() {
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);
     m_view->addActions({m_open, m_copy});
-    AddSortAction("mnuSortName", tr("Sort by &VFS name"), Qt::CTRL | Qt::Key_1,
+    AddSortAction(*m_view, "mnuSortName", tr("Sort by &VFS name"), Qt::CTRL | Qt::Key_1,
                   FilesModel::VFSName);
-    AddSortAction("mnuSortReal", tr("Sort by &real name"), Qt::CTRL | Qt::Key_2,
+    AddSortAction(*m_view, "mnuSortReal", tr("Sort by &real name"), Qt::CTRL | Qt::Key_2,
                   FilesModel::RealName);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     UpdateActions();
-}
-
-/// Does what a click on the header does.
-void frmFiles::AddSortAction(const char* Name, const QString& Text, const QKeySequence& Shortcut,
-                             int Column) {
-    auto* action = new QAction(Text, m_view);
-    action->setObjectName(QString::fromLatin1(Name));
-    action->setShortcut(Shortcut);
-    connect(action, &QAction::triggered, this, [this, Column] {
-        QHeaderView& header = *m_view->header();
-        const bool turn = header.sortIndicatorSection() == Column &&
-                          header.sortIndicatorOrder() == Qt::AscendingOrder;
-        header.setSortIndicator(Column, turn ? Qt::DescendingOrder : Qt::AscendingOrder);
-    });
-    m_view->addAction(action);
 }
 
 void frmFiles::ShowFiles(bool Modal) {

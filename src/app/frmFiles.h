@@ -31,8 +31,6 @@ protected:
 private:
     void BuildControls();
     void BuildActions();
-    void AddSortAction(const char* Name, const QString& Text, const QKeySequence& Shortcut,
-                       int Column);
     void FillFiles(const QString& Filter);
     void ReadSlice(int Milliseconds);
     void Copy();

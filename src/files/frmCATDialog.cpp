@@ -9,6 +9,7 @@
 #include "lornfd/paths.h"
 #include "ui/CommonBoxes.h"
 #include "ui/Icons.h"
+#include "ui/ListHelpers.h"
 #include "ui/TextCodec.h"
 #include "ui/WindowPos.h"
 
@@ -124,21 +125,10 @@ void frmCATDialog::MakeControls() {
 }
 
 void frmCATDialog::MakeSortActions() {
-    const auto add = [this](const char* key, const QString& text, const QKeySequence& shortcut,
-                            CatalogModel::Column column) {
-        auto* action = new QAction(text, m_FileView);
-        action->setObjectName(QString::fromLatin1(key));
-        action->setShortcut(shortcut);
-        connect(action, &QAction::triggered, this, [this, column] {
-            const QHeaderView* header = m_FileView->header();
-            const bool turn = header->sortIndicatorSection() == column &&
-                              header->sortIndicatorOrder() == Qt::AscendingOrder;
-            m_FileView->sortByColumn(column, turn ? Qt::DescendingOrder : Qt::AscendingOrder);
-        });
-        m_FileView->addAction(action);
-    };
-    add("mnuSortName", tr("Sort by &name"), Qt::CTRL | Qt::Key_1, CatalogModel::Name);
-    add("mnuSortType", tr("Sort by &type"), Qt::CTRL | Qt::Key_2, CatalogModel::Kind);
+    AddSortAction(*m_FileView, "mnuSortName", tr("Sort by &name"), Qt::CTRL | Qt::Key_1,
+                  CatalogModel::Name);
+    AddSortAction(*m_FileView, "mnuSortType", tr("Sort by &type"), Qt::CTRL | Qt::Key_2,
+                  CatalogModel::Kind);
     m_FileView->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 

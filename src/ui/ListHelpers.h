@@ -28,6 +28,21 @@ inline void ListIndexCheck(const QAbstractItemModel& Model, int Index) {
     if (Index < 0 || Index >= Model.rowCount())
         throw KeshError(errnum::Bounds, "ListIndexCheck", "List index out of bounds.");
 }
+/// Sorts by a column as a click on its heading does, by a key while the view has the focus and from
+/// its popup.
+inline void AddSortAction(QTreeView& View, const char* Name, const QString& Text,
+                          const QKeySequence& Shortcut, int Column) {
+    auto* action = new QAction(Text, &View);
+    action->setObjectName(QString::fromLatin1(Name));
+    action->setShortcut(Shortcut);
+    QObject::connect(action, &QAction::triggered, &View, [&View, Column] {
+        QHeaderView& header = *View.header();
+        const bool turn = header.sortIndicatorSection() == Column &&
+                          header.sortIndicatorOrder() == Qt::AscendingOrder;
+        header.setSortIndicator(Column, turn ? Qt::DescendingOrder : Qt::AscendingOrder);
+    });
+    View.addAction(action);
+}
 
 /// Data of the selected row; -1 without one, which is also when an editable combo shows another
 /// text.

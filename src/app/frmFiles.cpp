@@ -11,7 +11,7 @@ namespace {
 constexpr auto settingsKey = "files";
 constexpr int firstTime = 2;    ///< milliseconds of reading before the window is shown
 constexpr int showTime = 20;    ///< milliseconds that it then has to be painted
-constexpr int sliceTime = 15;   ///< the same between two looks at the user
+constexpr int sliceTime = 15;   ///< milliseconds of reading between two looks at the user
 constexpr int sliceFiles = 500; ///< files between two looks at the clock
 
 /// Both columns share the view's width, in the proportion that the user gave them.

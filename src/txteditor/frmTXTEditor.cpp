@@ -14,8 +14,7 @@ constexpr int minimumSide = 133;       ///< of each pane, in pixels
 constexpr int defaultClassWidth = 133; ///< pixels
 constexpr int flushTime = 500;         ///< milliseconds from a change until it is on the disk
 constexpr int rawTab = 0;
-constexpr int narrowRaw =
-    45; ///< characters, in which fields and watch list do not fit side by side
+constexpr int narrowRaw = 45; ///< characters, too few for fields and watch list side by side
 
 /// A view of many rows: none is measured.
 void prepareRows(QTreeView* view) {

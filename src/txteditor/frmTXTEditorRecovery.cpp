@@ -46,8 +46,8 @@ void frmTXTEditor::Recover(LeftJournal Left) {
     const std::string document = Left.Base.Document;
     // The view may have another file under that name by now.
     LoadFile(RealPath(document) == Left.Base.StoredPath ? document : Left.Base.StoredPath);
-    const bool fits =
-        m_file.Base().IsState(Left.Base) && StepsFit(m_file.Parser.ByIndex().size(), Left.Commands);
+    const bool fits = HasFile() && m_file.Base().IsState(Left.Base) &&
+                      StepsFit(m_file.Parser.ByIndex().size(), Left.Commands);
     if (!fits) {
         Say(tr("File %1 is not as it was when it was changed. The changes cannot be brought back "
                "into it.")

@@ -11,6 +11,7 @@ inline constexpr std::uint32_t Forbidden = 0x80040065;
 inline constexpr std::uint32_t Loader = 0x80040001;    ///< a loader's own complaint
 inline constexpr std::uint32_t ReadValue = 0x8004000A; ///< a value could not be read
 inline constexpr std::uint32_t Overflow = 6;           ///< a whole number that leaves 32 bits
+inline constexpr std::uint32_t DivisionByZero = 11;
 inline constexpr std::uint32_t TypeMismatch = 13;      ///< text where a number is needed
 inline constexpr std::uint32_t Bounds = 9;             ///< an index outside its array
 inline constexpr std::uint32_t Cancelled = 32755;      ///< a cancelled file dialog; swallowed

@@ -25,7 +25,7 @@ inline constexpr std::int32_t Number = 1; ///< converted, with a unit
 inline constexpr std::int32_t List = 2;   ///< one of a list of choices
 } // namespace translation
 
-/// One field. A panel's conversions become further members, so that a type stays one table.
+/// One field. Conversions for a person are rows of a table of their own (FieldConversion.h).
 // The members stand in the order in which a row is read.
 // NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
 struct Field {

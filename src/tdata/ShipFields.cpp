@@ -1,0 +1,327 @@
+#include "tdata/ShipFields.h"
+
+#include "core/mdlComFunctions.h"
+#include "tdata/ShieldRecharge.h"
+#include "tdata/WeaponSlots.h"
+#include "tdata/clsArchive.h"
+#include "tdata/mdlKeshConst.h"
+#include "tdata/mdlKeshShips.h"
+#include "tdata/mdlKeshWare.h"
+#include "textres/ResourceText.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr std::int32_t ClassField = 5;
+constexpr std::int32_t SpeedField = 7;
+constexpr std::int32_t ReactorField = 13;
+constexpr std::int32_t EnergyField = 20;
+constexpr std::int32_t ShieldField = 22;
+constexpr std::int32_t ShieldCountField = 23;
+constexpr std::int32_t EngineTuningField = 26;
+constexpr std::int32_t RaceField = 45;
+constexpr std::int32_t VariationField = 50;
+constexpr std::int32_t TypeField = 52;
+
+// Of a shield
+constexpr std::int32_t NeedField = 7;
+constexpr std::int32_t StrengthField = 8;
+constexpr std::int32_t EfficiencyField = 10;
+
+constexpr std::int32_t NamePage = 17;
+constexpr std::int32_t FirstVariation = 10000; ///< ids of the texts, by the index
+constexpr std::int32_t RacePage = 1266;
+
+constexpr double UnitsPerMetre = 500;
+constexpr double SecondsPerMinute = 60;
+
+enum ShipList : std::int32_t { Classes, Types, ShieldTypes, Races, CargoSizes };
+
+// --- Conversions
+
+std::optional<std::string> ShowTurns(const StoredField& field, bool) {
+    const auto turns = field.Number();
+    return turns ? FixedText(*turns * SecondsPerMinute, 1) : std::nullopt;
+}
+
+std::optional<KeshValue> ReadTurns(const StoredField&, std::string_view text) {
+    constexpr double steps = 1e5; ///< that a turn is stored in
+    const auto turns = EnteredNumber(text);
+    if (!turns)
+        return {};
+    const double stored = std::nearbyint(DecimalOf(*turns / SecondsPerMinute * steps)) / steps;
+    return std::isfinite(stored) ? std::optional<KeshValue>(stored + 0.0) // no "-0"
+                                 : std::nullopt;
+}
+
+/// At least two digits in front of the point.
+std::string TwoDigits(std::string text) {
+    const std::size_t sign = text.starts_with('-') ? 1 : 0;
+    if (text.find('.') == sign + 1)
+        text.insert(sign, 1, '0');
+    return text;
+}
+
+std::optional<std::string> ShowSpeed(const StoredField& field, bool raw) {
+    const auto speed = ShipSpeed(field.Record);
+    auto text = speed ? FixedText(*speed, 2) : std::nullopt;
+    if (!text || raw)
+        return text;
+    const auto tuned = TunedShipSpeed(field.Record);
+    const auto tunedText = tuned ? FixedText(*tuned, 2) : std::nullopt;
+    return tunedText ? std::optional(*text + " - " + TwoDigits(*tunedText)) : std::nullopt;
+}
+
+std::optional<std::string> ShowAcceleration(const StoredField& field, bool) {
+    const auto units = field.Number();
+    return units ? FixedText(*units / UnitsPerMetre, 3) : std::nullopt;
+}
+
+/// A part of a unit takes a whole one.
+std::optional<KeshValue> ReadMetres(const StoredField&, std::string_view text) {
+    const auto metres = EnteredNumber(text);
+    if (!metres)
+        return {};
+    const double units = DecimalOf(*metres * UnitsPerMetre);
+    const double whole = std::trunc(units);
+    return WholeValue(whole == units ? units : whole + 1);
+}
+
+std::optional<std::string> ShowRate(const StoredField& field, bool) {
+    const auto energy = NumberAt(field.Record, EnergyField);
+    const auto rate = field.Number();
+    return energy && rate ? FixedText(*energy * *rate, 3) : std::nullopt;
+}
+
+std::optional<KeshValue> ReadRate(const StoredField& field, std::string_view text) {
+    const auto energy = NumberAt(field.Record, EnergyField);
+    const auto entered = EnteredNumber(text);
+    if (!energy || !entered || *entered == 0)
+        return {};
+    const double seconds = *energy / *entered;
+    if (seconds == 0 || !std::isfinite(seconds) || !std::isfinite(1 / seconds))
+        return {};
+    return 1 / seconds;
+}
+
+std::optional<std::string> NotEmpty(std::string text) {
+    return text.empty() ? std::nullopt : std::optional(std::move(text));
+}
+
+std::optional<std::string> ShowClass(const StoredField& field, bool) {
+    return NotEmpty(GetShipClassName(field.Record.Value(field.Index), field.Version));
+}
+
+std::optional<std::string> ShowType(const StoredField& field, bool) {
+    return NotEmpty(GetShipTypeName(field.Record.Value(field.Index), field.Version, false));
+}
+
+constexpr FieldConversion Conversions[] = {
+    {2, ShowTurns, ReadTurns, " rot/min"},
+    {3, ShowTurns, ReadTurns, " rot/min"},
+    {4, ShowTurns, ReadTurns, " rot/min"},
+    {ClassField, ShowClass, ReadChoice, "", Classes},
+    {SpeedField, ShowSpeed, ReadMetres, " m/s"},
+    {8, ShowAcceleration, ReadMetres, " m/s"},
+    {ReactorField, ShowNumber, ReadNumber, " kW"},
+    {EnergyField, ShowNumber, ReadRounded, " W"},
+    {21, ShowRate, ReadRate, " W/s"},
+    {ShieldField, ShowChoice, ReadChoice, "", ShieldTypes},
+    {44, ShowChoice, ReadChoice, "", CargoSizes},
+    {RaceField, ShowChoice, ReadChoice, "", Races},
+    {TypeField, ShowType, ReadChoice, "", Types},
+    {-6, ShowChoice, ReadChoice, "", CargoSizes},
+};
+
+// --- Lists
+
+std::shared_ptr<const clsTxtParser> FileOf(std::string_view name) {
+    return Archive ? Archive->GetFile(name) : nullptr;
+}
+
+ChoiceList ClassChoices(std::int32_t version, bool symbolic) {
+    ChoiceList list{.Keys = symbolic ? &ShipClassKeys : nullptr, .FreeText = symbolic};
+    for (std::int32_t i = 0; i < std::ssize(ShipClassKeys.Rows); ++i) {
+        const KeshValue stored = symbolic ? KeshValue(ListItemRaw(ShipClassKeys, i)) : KeshValue(i);
+        const std::string name = GetShipClassName(stored, version);
+        list.Rows.push_back(name.empty() ? ListItem(ShipClassLabels, i, true) : name);
+    }
+    return list;
+}
+
+ChoiceList TypeChoices(std::int32_t version, bool symbolic) {
+    const TextTable& stored = symbolic ? ShipObjectTypeKeys : ShipObjectTypeIDs;
+    ChoiceList list{.Keys = &stored};
+    for (const std::string_view key : stored.Rows)
+        list.Rows.push_back(GetShipTypeName(keshobjects::readValue(key), version, false));
+    return list;
+}
+
+std::string RaceName(std::int32_t race) {
+    const std::string text = ResourceText(RacePage, race).value_or("");
+    return text.empty() ? ListItem(RaceNames, race, true) : text;
+}
+
+ChoiceList RaceChoices() {
+    ChoiceList list{.First = RaceNames.First};
+    for (std::int32_t i = 0; i < std::ssize(RaceNames.Rows); ++i)
+        list.Rows.push_back(RaceName(RaceNames.First + i));
+    return list;
+}
+
+ChoiceList CargoChoices() {
+    const auto names = GetWareClassNames();
+    return {.Rows = {names.begin(), names.end()}};
+}
+
+ChoiceList ShieldChoices(const clsTxtParser* shields) {
+    ChoiceList list{.Outside = "Unknown value"};
+    if (shields == nullptr)
+        list.Rows.assign(ShieldStrengthNames.Rows.begin(), ShieldStrengthNames.Rows.end());
+    else
+        for (const RecordPtr& shield : shields->ByIndex())
+            list.Rows.push_back(WeaponName(*shield));
+    return list;
+}
+
+std::optional<float> Single(double number) {
+    return std::abs(number) <= std::numeric_limits<float>::max()
+               ? std::optional(static_cast<float>(number))
+               : std::nullopt;
+}
+
+/// The text of a variation of a ship; empty where it has none.
+std::string VariationName(const clsTXTObject& ship) {
+    const auto variation = IntegerAt(ship, VariationField);
+    if (!variation || *variation <= 0 ||
+        *variation > std::numeric_limits<std::int32_t>::max() - FirstVariation)
+        return {};
+    return ResourceText(NamePage, FirstVariation + *variation).value_or("");
+}
+
+} // namespace
+
+std::optional<float> ShipSpeed(const clsTXTObject& Ship) {
+    const auto units = NumberAt(Ship, SpeedField);
+    return units ? Single(*units / UnitsPerMetre) : std::nullopt;
+}
+
+std::optional<float> TunedShipSpeed(const clsTXTObject& Ship) {
+    const auto speed = ShipSpeed(Ship);
+    const auto tunings = NumberAt(Ship, EngineTuningField);
+    return speed && tunings ? Single(*speed + *tunings * (double{*speed} / 10)) : std::nullopt;
+}
+
+void ShipFields::LoadFiles() {
+    if (m_loaded)
+        return;
+    m_loaded = true;
+    const auto take = [](std::string_view name, File& file) {
+        if (auto found = FileOf(name))
+            file = std::move(found);
+    };
+    take("TLaser", m_lasers);
+    take("TMissiles", m_missiles);
+    const File shields = FileOf("TShields");
+    if (shields)
+        m_shields = shields;
+    if (const File cockpits = FileOf("TCockpits"))
+        m_cockpits.Load(*cockpits);
+    m_lists[ShieldTypes] = ShieldChoices(shields.get());
+    m_lists[Races] = RaceChoices();
+    m_lists[CargoSizes] = CargoChoices();
+}
+
+void ShipFields::SetVersion(std::int32_t Version) {
+    m_version = Version;
+    m_lists[Classes] = ClassChoices(Version, Symbolic());
+    m_lists[Types] = TypeChoices(Version, Symbolic());
+}
+
+bool ShipFields::Symbolic() const noexcept {
+    return m_version >= FirstSymbolicShips;
+}
+
+RecordPtr ShipFields::Shield(const clsTXTObject& Ship) const {
+    const auto index = IntegerAt(Ship, ShieldField);
+    return index ? m_shields->FindIndex(*index) : nullptr;
+}
+
+// --- Names
+
+std::string ShipFields::DisplayName(const clsTXTObject& Ship) const {
+    std::string name = WeaponName(Ship);
+    AppendLine(name, VariationName(Ship), " ");
+    return name;
+}
+
+std::string ShipFields::ResourceName(const clsTXTObject& Ship) const {
+    return Race(Ship) + " " + DisplayName(Ship);
+}
+
+std::string ShipFields::Race(const clsTXTObject& Ship) const {
+    return Shown(Ship, RaceField);
+}
+
+std::string ShipFields::Class(const clsTXTObject& Ship) const {
+    return Shown(Ship, ClassField);
+}
+
+std::string ShipFields::Shown(const clsTXTObject& Ship, std::int32_t Index) const {
+    std::string text;
+    return Translate(Ship, Index, text, false) ? text : SpellingAt(Ship, Index);
+}
+
+// --- Conversions
+
+StoredField ShipFields::FieldOf(const clsTXTObject& Ship, std::int32_t Index,
+                                const FieldConversion& Row) const {
+    return {Ship, Index, m_version, ListOf(Row)};
+}
+
+const ChoiceList* ShipFields::ListOf(const FieldConversion& Row) const {
+    return Row.List < 0 ? nullptr : &m_lists[static_cast<std::size_t>(Row.List)];
+}
+
+std::vector<std::string> ShipFields::Values(const clsTXTObject& Ship, std::int32_t Index) const {
+    const FieldConversion* const row = FindConversion(Conversions, Ship, Index);
+    const ChoiceList* const list = row != nullptr ? ListOf(*row) : nullptr;
+    return list != nullptr ? list->Rows : std::vector<std::string>();
+}
+
+bool ShipFields::Translate(const clsTXTObject& Ship, std::int32_t Index, std::string& Text,
+                           bool Raw) const {
+    const FieldConversion* const row = FindConversion(Conversions, Ship, Index);
+    const auto shown = row != nullptr ? row->Shown(FieldOf(Ship, Index, *row), Raw) : std::nullopt;
+    if (shown)
+        Text = *shown;
+    return shown.has_value();
+}
+
+bool ShipFields::TranslateBack(const clsTXTObject& Ship, const std::string& Text,
+                               std::int32_t Index, KeshValue& Value) const {
+    const FieldConversion* const row = FindConversion(Conversions, Ship, Index);
+    const auto read = row != nullptr ? row->Read(FieldOf(Ship, Index, *row), Text) : std::nullopt;
+    if (read)
+        Value = *read;
+    return read.has_value();
+}
+
+std::string ShipFields::RechargeTime(const clsTXTObject& Ship) const {
+    const RecordPtr shield = Shield(Ship);
+    if (!shield)
+        return {};
+    const auto count = IntegerAt(Ship, ShieldCountField);
+    const auto strength = IntegerAt(*shield, StrengthField);
+    const auto need = IntegerAt(*shield, NeedField);
+    const auto efficiency = NumberAt(*shield, EfficiencyField);
+    const auto reactor = IntegerAt(Ship, ReactorField);
+    if (!count || !strength || !need || !efficiency || !reactor)
+        return {};
+    const auto seconds = RechargeSeconds({*count, *strength, *need, *efficiency, *reactor});
+    return seconds ? WeaponName(*shield) + " x " + std::to_string(*count) + " = " +
+                         FormatFixed(*seconds, 0) + " s"
+                   : std::string();
+}

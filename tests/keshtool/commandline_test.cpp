@@ -9,6 +9,8 @@ TEST_F(Keshtool, WrongUsageEndsWithTwo) {
                              "dump",
                              "dump a.txt b.txt",
                              "convert a.txt",
+                             "export a.txt",
+                             "export a.txt b.txt --format html",
                              "cat",
                              "cat a.txt --json",
                              "ls a b",
@@ -35,7 +37,7 @@ TEST_F(Keshtool, WrongUsageEndsWithTwo) {
 TEST_F(Keshtool, EveryCommandHasHelp) {
     const std::string help = output("--help");
     for (const char* command :
-         {"dump", "convert", "cat", "ls", "pack", "unpack", "put", "rm", "verify"}) {
+         {"dump", "convert", "export", "cat", "ls", "pack", "unpack", "put", "rm", "verify"}) {
         EXPECT_NE(help.find(command), std::string::npos);
         const std::string own = output((std::string(command) + " --help").c_str());
         EXPECT_NE(own.find("Usage: keshtool " + std::string(command)), std::string::npos) << own;

@@ -1,27 +1,12 @@
 #include "commands.h"
 #include "files/mdlPaths.h"
 #include "lornfd/lornfd.h"
+#include "services.h"
 #include "tdata/CheckRun.h"
-#include "tdata/clsArchive.h"
-#include "textres/clsDescServer.h"
 
 #include <algorithm>
 
 namespace {
-
-/// What T files refer to and the texts, for the time of the check.
-struct Services {
-    Services() {
-        Archive = std::make_unique<clsArchive>();
-        DescServer = std::make_unique<clsDescServer>();
-    }
-    ~Services() {
-        Archive.reset();
-        DescServer.reset();
-    }
-    Services(const Services&) = delete;
-    Services& operator=(const Services&) = delete;
-};
 
 std::string placeText(std::int32_t index) {
     return index < 0 ? std::string() : std::to_string(index);

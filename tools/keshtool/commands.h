@@ -1,6 +1,7 @@
 // The commands. Each gives an exit code and throws Failure where it cannot go on.
 #pragma once
 
+#include "tdata/ShipExport.h"
 #include "tool.h"
 
 #include <cstdint>
@@ -18,6 +19,7 @@ struct Arguments {
     bool all = false;
     bool raw = false;
     std::int32_t language = 44; ///< English
+    ExportForm form = ExportForm::Table;
 };
 
 using Command = ExitCode (*)(GameView&, const Arguments&);
@@ -25,6 +27,7 @@ using Command = ExitCode (*)(GameView&, const Arguments&);
 // Records
 ExitCode dump(GameView& view, const Arguments& arguments);
 ExitCode convert(GameView& view, const Arguments& arguments);
+ExitCode exportShips(GameView& view, const Arguments& arguments);
 // Contents
 ExitCode cat(GameView& view, const Arguments& arguments);
 ExitCode ls(GameView& view, const Arguments& arguments);

@@ -9,6 +9,7 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <functional>
 #include <map>
 #include <new>
 
@@ -25,6 +26,7 @@ enum Option : unsigned {
     All = 64,
     Language = 128,
     Raw = 256,
+    Format = 512,
 };
 
 struct Row {
@@ -46,6 +48,11 @@ const Row Commands[] = {
      {"IN", "OUT"},
      Type,
      "Load a T file and save it; without --type OUT is zstd if it ends in .pck, else plain"},
+    {"export",
+     exportShips,
+     {"PATH", "OUT"},
+     Format | Language,
+     "Write all ships of a TShips file as a table for spreadsheets, or value by value"},
     {"cat", cat, {"PATH"}, NoOption, "Print a file's unpacked bytes"},
     {"ls",
      ls,
@@ -114,6 +121,33 @@ void addFlags(CLI::App& command, const Row& row, Arguments& arguments) {
             command.add_flag(flag.name, flag.value, flag.help);
 }
 
+/// An option that takes one of some words.
+template <typename Value>
+void addChoice(CLI::App& command, const char* name, const std::map<std::string, Value>& words,
+               const std::function<void(Value)>& take, const char* help, const char* shown) {
+    const auto takeWord = [&words, take](const std::string& word) { take(words.at(word)); };
+    command.add_option_function<std::string>(name, takeWord, help)
+        ->check(CLI::IsMember(&words))
+        ->option_text(shown);
+}
+
+void addType(CLI::App& command, Arguments& arguments) {
+    static const std::map<std::string, std::int32_t> forms{
+        {"plain", LORNFD_PLAIN}, {"gzip", LORNFD_GZIP}, {"zstd", LORNFD_ZSTD}};
+    addChoice<std::int32_t>(
+        command, "--type", forms, [&](std::int32_t form) { arguments.fileType = form; },
+        "The form that is stored: plain, gzip or zstd", "plain|gzip|zstd");
+}
+
+void addFormat(CLI::App& command, Arguments& arguments) {
+    static const std::map<std::string, ExportForm> forms{{"table", ExportForm::Table},
+                                                         {"records", ExportForm::Records}};
+    addChoice<ExportForm>(
+        command, "--format", forms, [&](ExportForm form) { arguments.form = form; },
+        "A line for each ship, or for each of its values: table, if not given, or records",
+        "table|records");
+}
+
 void addCommand(CLI::App& app, const Row& row, Arguments& arguments) {
     CLI::App* command = app.add_subcommand(row.name, row.help)->fallthrough();
     addPaths(*command, row, arguments);
@@ -123,16 +157,10 @@ void addCommand(CLI::App& app, const Row& row, Arguments& arguments) {
             ->add_option("--lang", arguments.language,
                          "Number of the language of texts, 44 if not given")
             ->option_text("N");
-    if (row.options & Type) {
-        static const std::map<std::string, std::int32_t> forms{
-            {"plain", LORNFD_PLAIN}, {"gzip", LORNFD_GZIP}, {"zstd", LORNFD_ZSTD}};
-        const auto take = [&](const std::string& form) { arguments.fileType = forms.at(form); };
-        command
-            ->add_option_function<std::string>("--type", take,
-                                               "The form that is stored: plain, gzip or zstd")
-            ->check(CLI::IsMember(&forms))
-            ->option_text("plain|gzip|zstd");
-    }
+    if (row.options & Type)
+        addType(*command, arguments);
+    if (row.options & Format)
+        addFormat(*command, arguments);
 }
 
 ExitCode execute(const Row& row, GameView& view, const Arguments& arguments) {

@@ -1,19 +1,9 @@
 #include "commands.h"
 #include "keshobjects/keshtexts.h"
 #include "keshobjects/value.h"
-#include "textres/clsDescServer.h"
+#include "services.h"
 
 namespace {
-
-/// Fills the store with a language's files in the view. What is wrong with single files is told on
-/// standard error and makes the exit code.
-ExitCode loadTexts(GameView& view, clsDescServer& server, std::int32_t language) {
-    const bool warned = view.build();
-    if (server.LoadResources(language))
-        return warned ? Findings : Done;
-    complain(server.GetLastError());
-    return Findings;
-}
 
 std::int32_t numberOf(const std::string& text) {
     const auto number = keshobjects::readInteger(text);

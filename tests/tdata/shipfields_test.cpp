@@ -413,9 +413,9 @@ TEST(WeaponSlots, AreWeaponsByIndexOrSubtype) {
 
 TEST(WeaponSlots, MasksKeepTheir32Bits) {
     struct Mask {
-        const char* stored;
+        const char* stored = "";
         std::optional<std::uint32_t> bits;
-        const char* written;
+        const char* written = "";
     };
     const Mask cases[] = {
         {"0", 0U, "0"},

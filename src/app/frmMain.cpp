@@ -11,6 +11,7 @@
 #include "files/mdlPaths.h"
 #include "keshobjects/keshobjects.h"
 #include "txteditor/frmTXTEditor.h"
+#include "txteditor/panels/AllPanels.h"
 #include "ui/CommonBoxes.h"
 #include "ui/WindowPos.h"
 #include "ui/frmAbout.h"
@@ -222,7 +223,7 @@ void frmMain::OpenByType(const std::string& File, const std::string& Type) {
 }
 
 frmTXTEditor* frmMain::NewEditor() {
-    auto* editor = new frmTXTEditor;
+    auto* editor = new frmTXTEditor(AllPanels());
     editor->setAttribute(Qt::WA_DeleteOnClose);
     m_editors.removeAll(nullptr);
     m_editors.append(editor);

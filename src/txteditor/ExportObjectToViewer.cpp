@@ -11,11 +11,11 @@ namespace {
 
 constexpr std::size_t bodyDigits = 5;
 
-/// Body file of a record, below "objects".
-std::string bodyPath(const clsTXTObject& record, bool cutScene) {
-    const auto number = record.ValueNumber(0);
+/// Body file that a field names, below "objects".
+std::string bodyPath(const clsTXTObject& record, std::int32_t field, bool cutScene) {
+    const auto number = record.ValueNumber(field);
     if (!number)
-        return std::string(record.ValueText(0));
+        return std::string(record.ValueText(field));
     std::string digits = FormatFixed(std::abs(*number), 0);
     if (digits.size() < bodyDigits)
         digits.insert(0, bodyDigits - digits.size(), '0');
@@ -35,9 +35,10 @@ std::string viewerData(const clsTXTObject& record) {
 
 } // namespace
 
-void ExportObjectToViewer(QWidget* Owner, const clsTXTObject& Record, bool CutScene) {
-    if (Record.size() == 0)
+void ExportObjectToViewer(QWidget* Owner, const clsTXTObject& Record, std::int32_t Field,
+                          bool CutScene) {
+    if (Field < 0 || Field >= Record.size())
         return;
-    if (const auto body = FindInVFS("objects\\" + bodyPath(Record, CutScene)))
+    if (const auto body = FindInVFS("objects\\" + bodyPath(Record, Field, CutScene)))
         ShowIn3DViewer(Owner, *body, viewerData(Record));
 }

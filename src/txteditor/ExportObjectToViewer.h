@@ -5,6 +5,7 @@
 
 #include <QtWidgets>
 
-/// Finds the body file that value 0 of the record names ("v\00012" for a number, "cut\00012" in a
-/// cut scene) and shows it, with the values of a ship or factory. Nothing if there is no such file.
-void ExportObjectToViewer(QWidget* Owner, const clsTXTObject& Record, bool CutScene);
+/// Finds the body file that a field of the record names ("v\00012" for a number, "cut\00012" of a
+/// scene) and shows it, with the values of a ship or factory. Nothing if there is no such file.
+void ExportObjectToViewer(QWidget* Owner, const clsTXTObject& Record, std::int32_t Field,
+                          bool CutScene);

@@ -6,6 +6,7 @@
 // panel changes records and tells by OnObjectChanged; it never saves.
 #pragma once
 
+#include "core/KeshError.h"
 #include "keshobjects/value.h"
 #include "tdata/FieldTable.h"
 #include "tdata/clsTxtParser.h"
@@ -88,11 +89,21 @@ public:
     [[nodiscard]] virtual bool LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
                                                       std::int32_t Index, KeshValue& Value) = 0;
 
-    /// False if the panel has no export.
+    /// Writes the file's data for reading or for other programs; false if nothing was written.
+    /// Failures are said in boxes; throws KeshError where the panel has no export.
     virtual bool KeshExportData(QWidget* Owner) {
         Q_UNUSED(Owner);
-        return false;
+        throw KeshError(errnum::General, "ObjectEditor",
+                        tr("This type of file cannot be exported.").toStdString());
     }
+    /// The record that a line of Validate's report is about; none if it names none.
+    [[nodiscard]] virtual RecordPtr ReportedObject(const QString& Line) const {
+        Q_UNUSED(Line);
+        return {};
+    }
+    /// What a person is entering in a row goes into its record. False if it is refused, which is
+    /// said, and the entry goes on.
+    [[nodiscard]] virtual bool FinishEntry() { return true; }
 
     // Undo
     /// The record's values were replaced from outside.

@@ -1,11 +1,7 @@
 // The one value dialog for a field or an ID of a record, for all panels.
 #pragma once
 
-#include "txteditor/ObjectEditor.h"
-#include "ui/TextCodec.h"
-
-#include <functional>
-#include <span>
+#include "txteditor/ValueEntry.h"
 
 class frmEdit : public QDialog {
     Q_OBJECT
@@ -28,30 +24,14 @@ public:
 private:
     void BuildControls();
     /// False after a failure, which is said.
-    [[nodiscard]] bool Load(void (frmEdit::*Step)());
-    void LoadProperty();
+    [[nodiscard]] bool Load(const std::function<void()>& Step);
+    void LoadProperty(ObjectEditor* Editor, const RecordPtr& Object, std::int32_t Index);
     void UpdateValue();
-    void ShowText(const std::string& Text);
-    [[nodiscard]] bool Untouched() const;
-    [[nodiscard]] bool Translating() const;
+    void ShowText();
     void OnOk();
-    [[nodiscard]] bool AcceptName();
-    [[nodiscard]] bool AcceptValue();
-    [[nodiscard]] std::optional<KeshValue> ReadByType(const std::string& Text) const;
-    [[nodiscard]] std::optional<std::string> EnteredText();
-    [[nodiscard]] bool CheckText(const std::string& Text);
-    bool Refuse(const QString& Text);
 
-    ObjectEditor* m_editor = nullptr;
-    RecordPtr m_object;
-    std::span<const RecordPtr> m_objects;
-    std::int32_t m_index = 0;
-    std::int32_t m_class = translation::None;
-    std::int32_t m_type = valuetype::String;
-    bool m_nameMode = false;
+    std::optional<ValueEntry> m_entry;
     int m_modalResult = 2;
-    QString m_shown; ///< the text that stands for the present value, as the edit line gives it
-    std::string m_shownBytes;
 
     QLineEdit* m_name = nullptr;
     QLabel* m_valueLabel = nullptr;

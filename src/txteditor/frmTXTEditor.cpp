@@ -3,6 +3,7 @@
 #include "core/clsSettings.h"
 #include "txteditor/RecordDataModel.h"
 #include "txteditor/RecordListModel.h"
+#include "ui/ListHelpers.h"
 #include "ui/WindowPos.h"
 #include "ui/WrappedLabel.h"
 #include "ui/frmWait.h"
@@ -15,17 +16,6 @@ constexpr int defaultClassWidth = 133; ///< pixels
 constexpr int flushTime = 500;         ///< milliseconds from a change until it is on the disk
 constexpr int rawTab = 0;
 constexpr int narrowRaw = 45; ///< characters, too few for fields and watch list side by side
-
-/// A view of many rows: none is measured.
-void prepareRows(QTreeView* view) {
-    view->setUniformRowHeights(true);
-    view->setRootIsDecorated(false);
-    view->setItemsExpandable(false);
-    view->setAllColumnsShowFocus(true);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->header()->setSectionResizeMode(QHeaderView::Interactive);
-    view->header()->setSectionsMovable(false);
-}
 
 /// Puts its panes one below the other where it is too narrow for both side by side.
 class FoldingSplitter : public QSplitter {
@@ -136,7 +126,7 @@ void frmTXTEditor::BuildObjectView(QWidget* Side) {
     m_objectView = new QTreeView(Side);
     m_objectView->setObjectName(QStringLiteral("ObjectView"));
     m_objectView->setAccessibleName(tr("Records"));
-    prepareRows(m_objectView);
+    PrepareRows(*m_objectView);
     m_objectView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_objectView->setContextMenuPolicy(Qt::PreventContextMenu); // ours comes at the release
     m_objectView->setModel(m_list);
@@ -173,7 +163,7 @@ QWidget* frmTXTEditor::BuildRawPage() {
     m_dataView = new QTreeView(page);
     m_dataView->setObjectName(QStringLiteral("ObjectDataView"));
     m_dataView->setAccessibleName(tr("Fields of the record"));
-    prepareRows(m_dataView);
+    PrepareRows(*m_dataView);
     m_dataView->setModel(m_data);
     m_dataView->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_dataView->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -246,6 +236,7 @@ void frmTXTEditor::ConnectControls() {
     connect(m_dataView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &frmTXTEditor::UpdateActions);
     connect(m_dataView, &QTreeView::doubleClicked, this, &frmTXTEditor::OnEditField);
+    connect(m_tab, &QTabWidget::currentChanged, this, &frmTXTEditor::UpdateActions);
     connect(m_watchFrom, &QLineEdit::textChanged, this, &frmTXTEditor::UpdateWatch);
     connect(m_watchTo, &QLineEdit::textChanged, this, &frmTXTEditor::UpdateWatch);
     connect(m_sort, &QCheckBox::toggled, this, &frmTXTEditor::FillList);
@@ -344,7 +335,7 @@ void frmTXTEditor::SaveSettings() {
 }
 
 void frmTXTEditor::closeEvent(QCloseEvent* event) {
-    if (!MayClose()) {
+    if (!FinishEntry() || !MayClose()) {
         event->ignore();
         return;
     }

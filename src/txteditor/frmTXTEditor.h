@@ -101,6 +101,7 @@ private:
     [[nodiscard]] bool HasFile() const { return !m_file.Parser.FileName.empty(); }
     [[nodiscard]] bool HasPanel() const { return m_activeEditor != nullptr; }
     [[nodiscard]] bool HasField() const;
+    [[nodiscard]] bool ShowsField() const;
     [[nodiscard]] bool CanPaste() const;
     [[nodiscard]] bool CanUndo() const;
     [[nodiscard]] bool CanRedo() const;
@@ -143,7 +144,6 @@ private:
     void AddRecent(const std::string& Name);
     void RemoveRecent(const std::string& Name);
     void UpdateRecentActions();
-    [[nodiscard]] TextEncoding FileEncoding() const;
     void Say(const QString& Text, BoxIcon Icon);
 
     // Copy, cut, paste, delete
@@ -188,6 +188,8 @@ private:
     /// Calls the panel, if there is one, amid other work: a failure is said in the status bar, and
     /// false then.
     bool TellPanel(const std::function<void(ObjectEditor&)>& Call);
+    /// What is being entered in the panel goes into its record; false if it is refused.
+    [[nodiscard]] bool FinishEntry();
     void ApplyPanelInfo(std::int32_t Info);
     void UpdateCaption();
     [[nodiscard]] QString TypeText() const;
@@ -217,7 +219,8 @@ private:
     static constexpr std::int32_t noType = -1; ///< served by no panel
     std::int32_t m_objectType = noType;
     RecordPtr m_selected;
-    RecordPtr m_hidden; ///< was on view until the filter took its row
+    RecordPtr m_reported; ///< picked in the report, to be shown when the list is filled
+    RecordPtr m_hidden;   ///< was on view until the filter took its row
     RecoveryJournal m_journal;
     QTimer m_flush;
     bool m_replaying = false;

@@ -17,6 +17,7 @@ struct frmTXTEditor::ActionEntry {
 
 namespace {
 
+constexpr int rawTab = 0;
 constexpr const char* separator = "";
 constexpr qsizetype shownRecent = 20;
 
@@ -89,9 +90,9 @@ const std::vector<frmTXTEditor::ActionEntry>& frmTXTEditor::ActionTable() {
         {"filter", QT_TR_NOOP("Filter the &list"), QT_TR_NOOP("Go to the filter of the list"),
          "Ctrl+L", &Window::Always, &Window::OnFilter},
         {"edit", QT_TR_NOOP("Edit &value..."), QT_TR_NOOP("Change the selected field"), "F2",
-         &Window::HasField, &Window::OnEditField},
+         &Window::ShowsField, &Window::OnEditField},
         {"copyFields", QT_TR_NOOP("C&opy values"), QT_TR_NOOP("Copy the selected fields as text"),
-         "Ctrl+C", &Window::HasField, &Window::OnCopyFields},
+         "Ctrl+C", &Window::ShowsField, &Window::OnCopyFields},
         {"kesh", QT_TR_NOOP("Run the &game"), QT_TR_NOOP("Run the game"), "", &Window::Always,
          &Window::OnKesh},
         {"desc", QT_TR_NOOP("&Text resources"), QT_TR_NOOP("Show the Text Resource Editor"), "",
@@ -111,7 +112,10 @@ void frmTXTEditor::BuildActions() {
         action->setToolTip(tr(entry.Tip));
         if (*entry.Keys != '\0')
             action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(entry.Keys)));
-        connect(action, &QAction::triggered, this, [this, run = entry.Run] { (this->*run)(); });
+        connect(action, &QAction::triggered, this, [this, run = entry.Run] {
+            if (FinishEntry())
+                (this->*run)();
+        });
         m_actions.push_back(action);
     }
 }
@@ -220,6 +224,10 @@ bool frmTXTEditor::HasField() const {
     return m_selected && m_dataView->currentIndex().isValid();
 }
 
+bool frmTXTEditor::ShowsField() const {
+    return HasField() && m_tab->currentIndex() == rawTab;
+}
+
 bool frmTXTEditor::CanUndo() const {
     return m_undo.Stack().canUndo();
 }
@@ -242,10 +250,9 @@ void frmTXTEditor::OnOpenFromView() {
 }
 
 void frmTXTEditor::OnExport() {
-    QString trouble = tr("This type of file cannot be exported.");
+    QString trouble;
     try {
-        if (m_activeEditor->KeshExportData(this))
-            trouble.clear();
+        m_activeEditor->KeshExportData(this);
     } catch (const std::exception& failure) {
         trouble = ToScreen(failure.what());
     }

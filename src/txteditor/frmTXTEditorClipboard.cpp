@@ -2,6 +2,7 @@
 #include "core/KeshError.h"
 #include "txteditor/RecordListModel.h"
 #include "txteditor/RecordText.h"
+#include "txteditor/ValueEntry.h"
 #include "txteditor/frmTXTEditor.h"
 #include "ui/frmWait.h"
 
@@ -75,7 +76,7 @@ void frmTXTEditor::OnPaste() {
 }
 
 void frmTXTEditor::PasteText(const QString& Text) {
-    const auto bytes = FromScreen(Text, FileEncoding());
+    const auto bytes = FromScreen(Text, EncodingOf(m_file.Parser));
     const ReadRecords read = bytes ? RecordsOfText(*bytes, m_file.Parser) : ReadRecords();
     if (read.Records.empty() && HasPanel()) { // without one nothing can be added at all
         Say(twoLines(tr("The text on the clipboard holds no objects of this file's type."),

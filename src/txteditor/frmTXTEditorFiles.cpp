@@ -108,6 +108,8 @@ void frmTXTEditor::ShowFile() {
     SelectFileType(HasFile() ? m_file.Parser.otype() : noType);
     FillList();
     UpdateCaption();
+    if (const RecordPtr reported = std::exchange(m_reported, {}))
+        SelectRecords({reported});
 }
 
 void frmTXTEditor::ReportOpenFailure(const std::string& Name, const clsTFile::Result& Failure) {
@@ -222,12 +224,4 @@ void frmTXTEditor::RemoveRecent(const std::string& Name) {
                   [&](const std::string& other) { return lornfd::equalNoCase(other, Name); });
     Settings->SaveRecentTFiles(m_recent);
     UpdateRecentActions();
-}
-
-TextEncoding frmTXTEditor::FileEncoding() const {
-    EncodingGuess guess;
-    for (const RecordPtr& record : m_file.Parser.ByIndex())
-        for (std::int32_t i = 0; i < record->size() && !guess.Decided(); ++i)
-            guess.Add(record->ValueText(i));
-    return guess.Result();
 }

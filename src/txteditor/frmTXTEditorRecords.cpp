@@ -69,6 +69,10 @@ std::int32_t frmTXTEditor::PickPanel(std::int32_t OType) {
     frmText text(this);
     text.setWindowTitle(tr("Errors in file data"));
     text.SetText(ToScreen(report));
+    text.SetGoTo([this](const QString& line) {
+        m_reported = m_activeEditor->ReportedObject(line);
+        return m_reported != nullptr;
+    });
     text.MyShow();
     return info;
 }
@@ -82,6 +86,11 @@ bool frmTXTEditor::TellPanel(const std::function<void(ObjectEditor&)>& Call) {
         statusBar()->showMessage(ToScreen(failure.what()), messageTime);
         return false;
     }
+}
+
+bool frmTXTEditor::FinishEntry() {
+    bool finished = true;
+    return !TellPanel([&](ObjectEditor& panel) { finished = panel.FinishEntry(); }) || finished;
 }
 
 void frmTXTEditor::ApplyPanelInfo(std::int32_t Info) {
@@ -269,7 +278,7 @@ void frmTXTEditor::OnEditField() {
     if (!HasField())
         return;
     frmEdit dialog(this);
-    dialog.FileEncoding = [this] { return FileEncoding(); };
+    dialog.FileEncoding = [this] { return EncodingOf(m_file.Parser); };
     dialog.ShowProperty(nullptr, m_selected, m_dataView->currentIndex().row());
     TakeChanges();
     if (dialog.ModalResult() != 1)

@@ -44,6 +44,17 @@ inline void AddSortAction(QTreeView& View, const char* Name, const QString& Text
     View.addAction(action);
 }
 
+/// A list of many rows: none is measured, none unfolds.
+inline void PrepareRows(QTreeView& View) {
+    View.setUniformRowHeights(true);
+    View.setRootIsDecorated(false);
+    View.setItemsExpandable(false);
+    View.setAllColumnsShowFocus(true);
+    View.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    View.header()->setSectionResizeMode(QHeaderView::Interactive);
+    View.header()->setSectionsMovable(false);
+}
+
 /// Data of the selected row; -1 without one, which is also when an editable combo shows another
 /// text.
 [[nodiscard]] inline int ComboItemData(const QComboBox& Combo) {

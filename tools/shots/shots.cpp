@@ -8,6 +8,7 @@
 #include "files/frmCATDialog.h"
 #include "txteditor/frmEdit.h"
 #include "txteditor/frmTXTEditor.h"
+#include "txteditor/panels/AllPanels.h"
 #include "ui/frmAbout.h"
 #include "ui/frmFind.h"
 #include "ui/frmText.h"
@@ -73,7 +74,7 @@ void setDark() {
 }
 
 frmTXTEditor* openEditor() {
-    auto* editor = new frmTXTEditor;
+    auto* editor = new frmTXTEditor(AllPanels());
     editor->setAttribute(Qt::WA_DeleteOnClose);
     editor->MyShow();
     editor->OpenFile("vfs://types\\TShips.pck");

@@ -1,0 +1,67 @@
+#include "txteditor/panels/PropertyModel.h"
+
+#include <algorithm>
+
+void PropertyModel::SetRows(QList<PropertyRow> Rows) {
+    const bool same =
+        std::equal(Rows.begin(), Rows.end(), m_rows.begin(), m_rows.end(),
+                   [](const PropertyRow& a, const PropertyRow& b) { return a.Field == b.Field; });
+    if (!same) {
+        beginResetModel();
+        m_rows = std::move(Rows);
+        endResetModel();
+        return;
+    }
+    if (Rows == m_rows)
+        return;
+    m_rows = std::move(Rows);
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+const PropertyRow* PropertyModel::Row(const QModelIndex& index) const {
+    return index.isValid() && index.row() < m_rows.size() ? &m_rows.at(index.row()) : nullptr;
+}
+
+int PropertyModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int PropertyModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : 3;
+}
+
+QVariant PropertyModel::data(const QModelIndex& index, int role) const {
+    const PropertyRow* row = Row(index);
+    if (!row)
+        return {};
+    if (role == Qt::UserRole + 1 && row->Field != PropertyRow::Computed)
+        return row->Field == PropertyRow::IdField ? QVariant(QStringLiteral("name"))
+                                                  : QVariant(row->Field);
+    if (role != Qt::DisplayRole && (role != Qt::ToolTipRole || index.column() != ValueColumn))
+        return {};
+    switch (index.column()) {
+    case 0:
+        return row->Name;
+    case ValueColumn:
+        return row->Value;
+    default:
+        return row->Field >= 0 ? QVariant(row->Field) : QVariant();
+    }
+}
+
+QVariant PropertyModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return QStringList{tr("Name"), tr("Value"), tr("[offset]")}.value(section);
+}
+
+Qt::ItemFlags PropertyModel::flags(const QModelIndex& index) const {
+    const PropertyRow* row = Row(index);
+    const bool edited = row && row->Field != PropertyRow::Computed;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren |
+           (edited && index.column() == ValueColumn ? Qt::ItemIsEditable : Qt::NoItemFlags);
+}
+
+QModelIndex PropertyModel::buddy(const QModelIndex& index) const {
+    return index.siblingAtColumn(ValueColumn);
+}

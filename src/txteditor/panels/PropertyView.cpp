@@ -1,0 +1,172 @@
+#include "txteditor/panels/PropertyView.h"
+
+#include "txteditor/frmEdit.h"
+#include "txteditor/panels/RecordPanel.h"
+#include "ui/ListHelpers.h"
+#include "ui/UserInterface.h"
+
+namespace {
+
+QLineEdit* lineOf(QWidget* editor) {
+    auto* combo = qobject_cast<QComboBox*>(editor);
+    return combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(editor);
+}
+
+QLineEdit* newLine(QWidget* parent) {
+    auto* line = new QLineEdit(parent);
+    line->setFrame(false);
+    return line;
+}
+
+QComboBox* newCombo(const QStringList& choices, QWidget* parent) {
+    auto* combo = new QComboBox(parent);
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setCompleter(nullptr); // it would change what is typed
+    combo->addItems(choices);
+    return combo;
+}
+
+/// Makes the editor of a value, and lets the list decide what becomes of its text.
+class EntryDelegate : public QStyledItemDelegate {
+public:
+    explicit EntryDelegate(PropertyView& view) : QStyledItemDelegate(&view), m_view(view) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                          const QModelIndex& index) const override {
+        return m_view.OpenEntry(parent, index);
+    }
+    void setEditorData(QWidget* editor, const QModelIndex&) const override {
+        m_view.ShowEntry(editor);
+    }
+    /// As high as it needs, though the row is lower.
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex&) const override {
+        QRect place = option.rect;
+        place.setHeight(std::max(place.height(), editor->minimumSizeHint().height()));
+        place.moveCenter(option.rect.center());
+        editor->setGeometry(place);
+    }
+    void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex&) const override {
+        m_view.TakeEntry(editor);
+    }
+
+private:
+    PropertyView& m_view;
+};
+
+} // namespace
+
+PropertyView::PropertyView(const char* Name, RecordPanel& Editor, QWidget* Parent)
+    : QTreeView(Parent), m_panel(Editor), m_model(new PropertyModel(this)) {
+    setObjectName(QString::fromLatin1(Name));
+    setAccessibleName(tr("Fields"));
+    PrepareRows(*this);
+    setModel(m_model);
+    setItemDelegate(new EntryDelegate(*this));
+    setEditTriggers(SelectedClicked | EditKeyPressed);
+    setColumnWidth(0, 26 * fontMetrics().averageCharWidth());
+    setColumnWidth(2, 8 * fontMetrics().averageCharWidth());
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(PropertyModel::ValueColumn, QHeaderView::Stretch);
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] { m_entry.reset(); });
+    connect(this, &QTreeView::doubleClicked, this, &PropertyView::EditRow);
+}
+
+QWidget* PropertyView::OpenEntry(QWidget* Parent, const QModelIndex& Index) {
+    const PropertyRow* row = m_model->Row(Index);
+    if (!row)
+        return nullptr;
+    const std::int32_t field = row->Field;
+    m_panel.HandleKey([&] { m_entry = m_panel.BeginEntry(field); });
+    if (!m_entry)
+        return nullptr;
+    m_field = field;
+    m_refused = m_taken = false;
+    const bool choice = m_entry->Class() == translation::List;
+    m_editor =
+        choice ? static_cast<QWidget*>(newCombo(m_entry->Choices(), Parent)) : newLine(Parent);
+    m_editor->setObjectName(QStringLiteral("ValueEditor"));
+    m_editor->setAccessibleName(tr("Value"));
+    return m_editor;
+}
+
+void PropertyView::ShowEntry(QWidget* Editor) {
+    QLineEdit* line = lineOf(Editor);
+    if (!m_entry || Editor != m_editor || line->isModified())
+        return;
+    m_panel.HandleKey([&] {
+        line->setText(m_entry->Text());
+        m_entry->SetShown(line->text());
+    });
+    line->selectAll();
+}
+
+void PropertyView::TakeEntry(QWidget* Editor) {
+    if (!m_entry || Editor != m_editor || m_taken)
+        return;
+    const QString refusal = m_entry->Take(lineOf(Editor)->text());
+    m_refused = !refusal.isEmpty();
+    m_taken = !m_refused;
+    if (m_refused)
+        ShowBox(this, frmEdit::tr("Value Edit"), refusal, BoxIcon::Exclamation);
+}
+
+void PropertyView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    if (m_refused && editor == m_editor) {
+        m_refused = false;
+        ReturnTo(editor);
+        return;
+    }
+    const bool taken = std::exchange(m_taken, false);
+    const bool ours = m_entry && editor == m_editor;
+    m_entry.reset();
+    QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (ours)
+        m_panel.EndEntry(m_field, taken);
+    const bool back = hint == QAbstractItemDelegate::EditPreviousItem;
+    if (!back && hint != QAbstractItemDelegate::EditNextItem)
+        return;
+    const QModelIndex next = back ? indexAbove(currentIndex()) : indexBelow(currentIndex());
+    setCurrentIndex(next);
+    if (next.isValid())
+        edit(next);
+}
+
+void PropertyView::ReturnTo(QWidget* Editor) {
+    QTimer::singleShot(0, Editor, [Editor] {
+        Editor->setFocus();
+        lineOf(Editor)->selectAll();
+    });
+}
+
+bool PropertyView::FinishEntry() {
+    const QPointer<QWidget> editor = m_entry ? m_editor : nullptr;
+    if (!editor)
+        return true;
+    commitData(editor);
+    const bool refused = m_refused;
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+    return !refused;
+}
+
+void PropertyView::EditRow() {
+    if (const PropertyRow* row = m_model->Row(currentIndex()))
+        m_panel.EditField(row->Field);
+}
+
+void PropertyView::CopyValue() const {
+    if (const PropertyRow* row = m_model->Row(currentIndex()))
+        QGuiApplication::clipboard()->setText(row->Value);
+}
+
+void PropertyView::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && state() != EditingState)
+        EditRow();
+    else if (event->matches(QKeySequence::Copy) ||
+             (event->key() == Qt::Key_Insert && event->modifiers() == Qt::ControlModifier))
+        m_panel.HandleKey([this] { CopyValue(); });
+    else
+        QTreeView::keyPressEvent(event);
+}

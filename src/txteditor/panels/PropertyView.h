@@ -1,0 +1,42 @@
+// A list of a record's fields. F2, or a click on the selected row, edits the value in its place; a
+// double click or Enter does it in the value dialog; Ctrl+Insert copies it.
+#pragma once
+
+#include "txteditor/ValueEntry.h"
+#include "txteditor/panels/PropertyModel.h"
+
+class RecordPanel;
+
+class PropertyView : public QTreeView {
+    Q_OBJECT
+
+public:
+    PropertyView(const char* Name, RecordPanel& Editor, QWidget* Parent);
+
+    void SetRows(QList<PropertyRow> Rows) { m_model->SetRows(std::move(Rows)); }
+    /// What is being entered goes into the record; false if it is refused, and stays open.
+    [[nodiscard]] bool FinishEntry();
+
+    // For the delegate
+    /// The editor of a row's value; none if it may not be changed.
+    [[nodiscard]] QWidget* OpenEntry(QWidget* Parent, const QModelIndex& Index);
+    void ShowEntry(QWidget* Editor);
+    void TakeEntry(QWidget* Editor);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+private:
+    void EditRow();
+    void CopyValue() const;
+    void ReturnTo(QWidget* Editor);
+
+    RecordPanel& m_panel;
+    PropertyModel* m_model;
+    std::optional<ValueEntry> m_entry;
+    QPointer<QWidget> m_editor; ///< of m_entry
+    std::int32_t m_field = 0;   ///< of m_entry
+    bool m_refused = false;
+    bool m_taken = false;
+};

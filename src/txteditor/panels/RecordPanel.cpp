@@ -1,0 +1,205 @@
+#include "txteditor/panels/RecordPanel.h"
+
+#include "core/mdlCommon.h"
+#include "tdata/FieldLookup.h"
+#include "tdata/NewObjectName.h"
+#include "txteditor/frmEdit.h"
+#include "txteditor/panels/PropertyView.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int resultOk = 1;
+
+} // namespace
+
+// The contract, as far as the tables and the record alone answer it
+
+bool RecordPanel::Init(clsTxtParser& Parser) {
+    m_parser = &Parser;
+    m_object.reset();
+    return true;
+}
+
+bool RecordPanel::Validate(std::string& Text) {
+    Q_UNUSED(Text);
+    return true;
+}
+
+std::string RecordPanel::ObjectName(const RecordPtr& Object) const {
+    return std::string(Object->ObjectName());
+}
+
+std::string RecordPanel::GetClass(const RecordPtr& Object) const {
+    Q_UNUSED(Object);
+    return {};
+}
+
+std::string RecordPanel::GetRace(const RecordPtr& Object) const {
+    Q_UNUSED(Object);
+    return {};
+}
+
+std::string RecordPanel::GetResourceName(const RecordPtr& Object) const {
+    Q_UNUSED(Object);
+    return {};
+}
+
+bool RecordPanel::InitObject(const RecordPtr& Object) {
+    return Object != nullptr;
+}
+
+bool RecordPanel::RemoveObject(const RecordPtr& Object) {
+    return Object != nullptr;
+}
+
+bool RecordPanel::LornAssignUniqueObjectName(const RecordPtr& Object) {
+    Object->SetObjectName(NewObjectName(*m_parser));
+    return true;
+}
+
+std::string RecordPanel::LornGetPropertyName(const RecordPtr& Object, std::int32_t Index) const {
+    return FieldName(*Object, Index);
+}
+
+std::int32_t RecordPanel::LornGetValueType(const RecordPtr& Object, std::int32_t Index) const {
+    return FieldValueType(Object->otype, Object->size(), Index);
+}
+
+std::string RecordPanel::LornGetValueUnit(const RecordPtr& Object, std::int32_t Index) const {
+    return std::string(FieldUnit(Object->otype, Object->size(), Index));
+}
+
+std::int32_t RecordPanel::LornSupportValueTranslate(const RecordPtr& Object,
+                                                    std::int32_t Index) const {
+    return FieldTranslation(Object->otype, m_parser->Version(), Object->size(), Index);
+}
+
+std::vector<std::string> RecordPanel::LornGetPropertyValues(const RecordPtr& Object,
+                                                            std::int32_t Index) const {
+    Q_UNUSED(Object);
+    Q_UNUSED(Index);
+    return {};
+}
+
+bool RecordPanel::LornTranslateValue(const RecordPtr& Object, std::int32_t Index, std::string& Text,
+                                     bool Raw) const {
+    Q_UNUSED(Object);
+    Q_UNUSED(Index);
+    Q_UNUSED(Text);
+    Q_UNUSED(Raw);
+    return false;
+}
+
+bool RecordPanel::SetLastError(std::string Text) {
+    m_lastError = std::move(Text);
+    return false;
+}
+
+std::function<TextEncoding()> RecordPanel::FileEncoding() const {
+    return [this] { return EncodingOf(*m_parser); };
+}
+
+// Rows
+
+PropertyRow RecordPanel::IdRow() const {
+    return {PropertyRow::IdField, tr("ID"), ToScreen(m_object->ObjectName())};
+}
+
+PropertyRow RecordPanel::RowOf(std::int32_t Field) const {
+    const QString stored = ToScreen(m_object->ValueText(Field));
+    PropertyRow row{Field, ToScreen(LornGetPropertyName(m_object, Field)), stored};
+    std::string translated;
+    try {
+        if (LornTranslateValue(m_object, Field, translated, false))
+            row.Value = RowText(ToScreen(translated), stored);
+    } catch (const std::exception&) { // it stands there as it is stored
+    }
+    return row;
+}
+
+QString RecordPanel::RowText(const QString& Translated, const QString& Stored) const {
+    Q_UNUSED(Stored);
+    return Translated;
+}
+
+QList<PropertyRow> RecordPanel::RowsOf(std::span<const std::int32_t> Fields) const {
+    QList<PropertyRow> rows;
+    for (const std::int32_t field : Fields)
+        if (m_object && field >= 0 && field < m_object->size())
+            rows.append(RowOf(field));
+    return rows;
+}
+
+// Entry
+
+bool RecordPanel::MayEdit(std::int32_t Field) {
+    Q_UNUSED(Field);
+    return true;
+}
+
+bool RecordPanel::FollowEdit(std::int32_t Field) {
+    Q_UNUSED(Field);
+    return false;
+}
+
+std::optional<ValueEntry> RecordPanel::BeginEntry(std::int32_t Field) {
+    if (ReadOnly() || !m_object || Field == PropertyRow::Computed || !MayEdit(Field))
+        return {};
+    ValueEntry entry = Field == PropertyRow::IdField ? ValueEntry(m_object, m_parser->ByIndex())
+                                                     : ValueEntry(this, m_object, Field);
+    entry.FileEncoding = FileEncoding();
+    return entry;
+}
+
+void RecordPanel::EndEntry(std::int32_t Field, bool Accepted) {
+    HandleKey([&] {
+        const bool followed = Field >= 0 && FollowEdit(Field);
+        if (!Accepted && !followed)
+            return;
+        Q_EMIT OnObjectChanged(m_object);
+        RefreshViews();
+    });
+}
+
+bool RecordPanel::EditField(std::int32_t Field) {
+    bool accepted = false;
+    HandleKey([&] {
+        if (ReadOnly() || !m_object || Field == PropertyRow::Computed || !MayEdit(Field))
+            return;
+        frmEdit dialog(this);
+        dialog.FileEncoding = FileEncoding();
+        if (Field == PropertyRow::IdField)
+            dialog.ShowName(m_object, m_parser->ByIndex());
+        else
+            dialog.ShowProperty(this, m_object, Field);
+        accepted = dialog.ModalResult() == resultOk;
+        EndEntry(Field, accepted);
+    });
+    return accepted;
+}
+
+void RecordPanel::HandleKey(const std::function<void()>& Work) {
+    try {
+        Work();
+    } catch (const std::exception& failure) {
+        Say(tr("Error in key handler: ") + ToScreen(failure.what()), BoxIcon::Critical);
+    }
+}
+
+void RecordPanel::Say(const QString& Text, BoxIcon Icon) {
+    ShowBox(this, QString::fromStdString(ProgramTitle()), Text, Icon);
+}
+
+bool RecordPanel::Confirm(const QString& Question) {
+    const MessageRequest request{QString::fromStdString(ProgramTitle()), Question,
+                                 BoxIcon::Question, BoxButtons::YesNo};
+    return Ui().ShowMessage(this, request) == Answer::Yes;
+}
+
+bool RecordPanel::FinishEntry() {
+    const auto views = findChildren<PropertyView*>();
+    return std::all_of(views.begin(), views.end(),
+                       [](PropertyView* view) { return view->FinishEntry(); });
+}

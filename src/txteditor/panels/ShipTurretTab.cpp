@@ -1,0 +1,249 @@
+#include "txteditor/panels/ShipTurretTab.h"
+
+#include "tdata/clsCockpitParser.h"
+#include "tdata/clsGunGroup.h"
+#include "tdata/clsTurret.h"
+#include "txteditor/panels/RecordPanel.h"
+#include "txteditor/panels/TextRows.h"
+#include "txteditor/panels/TurretPlan.h"
+#include "txteditor/panels/frmTurretEdit.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int resultOk = 1;
+constexpr std::size_t mostTurrets = clsShip::MaxTurrets + 1; ///< with the front gun
+constexpr std::int32_t typeValue = 0;
+constexpr std::int32_t positionValue = 1;
+
+QString key(const clsTurret& turret) {
+    return QString::fromStdString(turret.key());
+}
+
+QString valueText(const KeshValue& value) {
+    return ToScreen(keshobjects::spellValue(value));
+}
+
+/// A value of the descriptor pair, with its meaning where it has one.
+QString descriptorText(const clsTurret& turret, std::int32_t i) {
+    const QString number = valueText(turret.DescriptorValue(i));
+    std::string text;
+    return turret.TranslateDescValue(i, text)
+               ? QStringLiteral("%1 (%2)").arg(ToScreen(text), number)
+               : number;
+}
+
+QStringList turretCells(const clsTurret& turret) {
+    QStringList cells{QString::number(turret.Offset())};
+    for (std::int32_t i = 0; i < clsTurret::size(); ++i)
+        cells.append(valueText(turret.Value(i)));
+    if (turret.HasDescriptor())
+        cells << descriptorText(turret, typeValue) << descriptorText(turret, positionValue);
+    return cells;
+}
+
+/// In the plan.
+int placeOf(const clsTurret& turret) {
+    constexpr int nowhere = -1;
+    if (!turret.IsTurret())
+        return 0;
+    const int position = turret.HasDescriptor() ? turret.Position() : 0;
+    return position == 0 ? nowhere : position;
+}
+
+/// Of all groups of the turret.
+int gunsOf(const clsShip& ship, const clsTurret& turret) {
+    int guns = 0;
+    for (const auto& group : ship.GunGroups())
+        if (group->turret().get() == &turret)
+            guns += std::clamp(group->PseudoGunCount(), 0, 1'000'000);
+    return guns;
+}
+
+QLabel* label(const char* name, const QString& text, QWidget* buddy, QWidget* parent) {
+    auto* made = new QLabel(text, parent);
+    made->setObjectName(QString::fromLatin1(name));
+    made->setBuddy(buddy);
+    return made;
+}
+
+} // namespace
+
+ShipTurretTab::ShipTurretTab(RecordPanel& Panel, const clsCockpitParser& Cockpits)
+    : QWidget(&Panel), m_panel(Panel), m_cockpits(Cockpits) {
+    BuildControls();
+    connect(m_turrets, &TextRowsView::Selected, this, &ShipTurretTab::ShowCockpit);
+    const auto on = [this](auto signal, void (ShipTurretTab::*work)()) {
+        connect(m_turrets, signal, this,
+                [this, work] { m_panel.HandleKey([&] { (this->*work)(); }); });
+    };
+    on(&TextRowsView::Entered, &ShipTurretTab::EditTurret);
+    on(&TextRowsView::AddAsked, &ShipTurretTab::AddTurret);
+    on(&TextRowsView::RemoveAsked, &ShipTurretTab::RemoveTurret);
+    connect(m_plan, &TurretPlan::Picked, m_turrets, &TextRowsView::SelectKey);
+}
+
+void ShipTurretTab::BuildControls() {
+    m_plan = new TurretPlan(this);
+    m_descriptors = label("lblTData", {}, nullptr, this);
+    m_descriptors->setWordWrap(true);
+    m_descriptors->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* upper = new QHBoxLayout;
+    upper->addWidget(BuildLists(), 1);
+    upper->addWidget(m_plan);
+    auto* rows = new QVBoxLayout(this);
+    rows->addLayout(upper, 3);
+    rows->addWidget(BuildCockpits(), 1);
+    rows->addWidget(m_descriptors);
+}
+
+QWidget* ShipTurretTab::BuildLists() {
+    auto* side = new QWidget(this);
+    m_turrets = new TextRowsView("TurView", tr("Turrets"), side);
+    m_turrets->SetColumns({tr("[offset]"), tr("Index"), tr("Turr. Idx"), tr("Body ID"),
+                           tr("Path Idx"), tr("Type"), tr("Position")},
+                          {9, 7, 9, 16, 9, 7, 14});
+    auto* rows = new QVBoxLayout(side);
+    rows->setContentsMargins({});
+    rows->addWidget(label("lblTurrets", tr("Turrets"), m_turrets, side));
+    rows->addWidget(m_turrets);
+    return side;
+}
+
+QWidget* ShipTurretTab::BuildCockpits() {
+    auto* part = new QWidget(this);
+    m_cockpit = new TextRowsView("CockpView", tr("Cockpits (turrets)"), part);
+    m_cockpit->SetColumns({tr("Cockpit idx"), tr("Cockpit name")}, {14, 30});
+    auto* captions = new QHBoxLayout;
+    captions->addWidget(label("lblCockp", tr("Cockpits (turrets)"), m_cockpit, part));
+    captions->addStretch();
+    captions->addWidget(
+        label("lblCockpNote", tr("To modify turrets, open TCockpits file"), nullptr, part));
+    auto* rows = new QVBoxLayout(part);
+    rows->setContentsMargins({});
+    rows->addLayout(captions);
+    rows->addWidget(m_cockpit);
+    return part;
+}
+
+void ShipTurretTab::OfferActions(const QList<QAction*>& Actions) {
+    m_turrets->addActions(Actions);
+    m_turrets->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void ShipTurretTab::Show(std::shared_ptr<clsShip> Ship) {
+    if (Ship != m_ship)
+        m_turrets->SelectKey({});
+    m_ship = std::move(Ship);
+    try {
+        FillTurrets();
+        FillPlan();
+    } catch (const std::exception& failure) {
+        m_panel.Say(tr("ucShip->ShowTurrets: Error while displaying turret data: ") + u'\n' +
+                        ToScreen(failure.what()),
+                    BoxIcon::Critical);
+    }
+    ShowDescriptors();
+    ShowCockpit();
+}
+
+void ShipTurretTab::FillTurrets() {
+    QList<TextRow> rows;
+    if (m_ship)
+        for (const auto& turret : m_ship->Turrets())
+            rows.append({key(*turret), turretCells(*turret)});
+    m_turrets->SetRows(std::move(rows));
+}
+
+void ShipTurretTab::FillPlan() {
+    QList<PlanTurret> turrets;
+    if (m_ship)
+        for (const auto& turret : m_ship->Turrets())
+            turrets.append(
+                {key(*turret), placeOf(*turret), gunsOf(*m_ship, *turret),
+                 tr("%1: %2, %3")
+                     .arg(turret->index())
+                     .arg(ToScreen(turret->PositionName()), ToScreen(turret->BodyID()))});
+    m_plan->SetTurrets(turrets);
+}
+
+void ShipTurretTab::ShowDescriptors() {
+    QString text = tr("Turrets descriptor: ");
+    const std::int32_t size = m_ship ? m_ship->size() : 0;
+    const std::int32_t end = clsShip::SectionDescriptors + 2 * clsShip::MaxTurrets;
+    for (std::int32_t i = clsShip::SectionDescriptors; i < std::min(end, size); ++i)
+        text += ToScreen(m_ship->Object->ValueText(i)) + u';';
+    m_descriptors->setText(text);
+}
+
+void ShipTurretTab::ShowCockpit() {
+    const auto turret = SelectedTurret();
+    m_plan->SetSelected(m_turrets->SelectedKey());
+    QList<TextRow> rows;
+    if (turret && turret->HasDescriptor()) {
+        const std::string type = keshobjects::spellValue(turret->DescriptorValue(typeValue));
+        const auto index = keshobjects::readInteger(type);
+        const auto cockpit = index ? m_cockpits.FindIndex(*index) : nullptr;
+        rows.append({QString::fromStdString(cockpit ? cockpit->key() : "?"),
+                     {ToScreen(type), cockpit ? ToScreen(cockpit->Object->ObjectName())
+                                              : tr("[cockpit not found]")}});
+    }
+    m_cockpit->SetRows(std::move(rows));
+}
+
+std::shared_ptr<clsTurret> ShipTurretTab::SelectedTurret() const {
+    if (!m_ship)
+        return {};
+    const std::string wanted = m_turrets->SelectedKey().toStdString();
+    const auto& turrets = m_ship->Turrets();
+    const auto found = std::find_if(turrets.begin(), turrets.end(),
+                                    [&](const auto& turret) { return turret->key() == wanted; });
+    return found == turrets.end() ? nullptr : *found;
+}
+
+void ShipTurretTab::AddTurret() {
+    if (!m_ship || m_panel.ReadOnly())
+        return;
+    if (m_ship->Turrets().size() >= mostTurrets) {
+        m_panel.Say(tr("Maximum number of turrets is %1 (+ front gun)").arg(clsShip::MaxTurrets),
+                    BoxIcon::Information);
+        return;
+    }
+    frmTurretEdit dialog(this);
+    dialog.FileEncoding = m_panel.FileEncoding();
+    dialog.NewTurret(*m_ship, m_cockpits);
+    if (dialog.ModalResult() == resultOk)
+        Q_EMIT Changed(true);
+}
+
+void ShipTurretTab::RemoveTurret() {
+    const auto turret = SelectedTurret();
+    if (!turret || m_panel.ReadOnly())
+        return;
+    if (m_ship->GetTurretIndex(*turret) < std::ssize(m_ship->Turrets())) {
+        m_panel.Say(tr("You can only delete the last turret in the list."), BoxIcon::Exclamation);
+        return;
+    }
+    const QString question = tr("Do you really want to delete the turret idx=%1 (position=%2) ?")
+                                 .arg(turret->index())
+                                 .arg(ToScreen(turret->PositionName()));
+    if (!m_panel.Confirm(question))
+        return;
+    if (!m_ship->RemoveTurret(*turret))
+        m_panel.Say(ToScreen(m_ship->GetLastError()), BoxIcon::Critical);
+    Q_EMIT Changed(true);
+}
+
+void ShipTurretTab::EditTurret() {
+    const auto turret = SelectedTurret();
+    if (!turret || m_panel.ReadOnly())
+        return;
+    frmTurretEdit dialog(this);
+    dialog.FileEncoding = m_panel.FileEncoding();
+    dialog.ShowTurret(*turret, *m_ship, m_cockpits);
+    if (dialog.ModalResult() != resultOk)
+        return;
+    Show(m_ship);
+    Q_EMIT Changed(false);
+}

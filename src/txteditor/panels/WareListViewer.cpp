@@ -1,0 +1,113 @@
+#include "txteditor/panels/WareListViewer.h"
+
+#include "tdata/clsArchive.h"
+#include "tdata/mdlWareList.h"
+#include "ui/TextCodec.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// Pixels
+constexpr int notFoundMargin = 7;
+constexpr int textMargin = 13;
+constexpr int nameWidth = 133;
+/// Beyond so many rows a list is not measured: it takes longer than it is worth.
+constexpr int measuredRows = 10000;
+
+using Widths = std::array<int, 2>;
+
+QList<TextRow> rowsOf(const clsTxtParser& merged, const clsTXTObject& record) {
+    QList<TextRow> rows;
+    rows.reserve(record.size());
+    for (std::int32_t field = 0; field < record.size(); ++field) {
+        const std::string id(record.ValueText(field));
+        const QString shown = ToScreen(id);
+        rows.append({shown, {ToScreen(GetWareName(merged, id)), shown}});
+    }
+    return rows;
+}
+
+Widths textWidths(const QList<TextRow>& rows, const QFontMetrics& metrics) {
+    Widths widths{};
+    for (const TextRow& row : rows.mid(0, measuredRows))
+        for (std::size_t column = 0; column < widths.size(); ++column)
+            widths[column] =
+                std::max(widths[column],
+                         metrics.horizontalAdvance(row.Cells.at(static_cast<qsizetype>(column))));
+    return widths;
+}
+
+/// Columns stay as they are where they are there already, and so does the selection then.
+void setColumns(TextRowsView& view, const QStringList& columns) {
+    view.header()->setStretchLastSection(false);
+    QStringList present;
+    for (int column = 0; column < view.model()->columnCount(); ++column)
+        present.append(view.model()->headerData(column, Qt::Horizontal).toString());
+    if (present != columns)
+        view.SetColumns(columns, {});
+}
+
+void showNotFound(TextRowsView& view, const QString& id) {
+    view.SetColumns({WareListViewer::tr("Ware list %1 not found").arg(id)}, {});
+    view.header()->setStretchLastSection(false);
+    view.setColumnWidth(
+        0, std::max(view.viewport()->width() - notFoundMargin, view.header()->sectionSizeHint(0)));
+}
+
+} // namespace
+
+void FillWareList(TextRowsView& View, const clsTxtParser* Merged, const clsTXTObject* Record,
+                  const QString& ID) {
+    if (!Merged || !Record) {
+        showNotFound(View, ID);
+        return;
+    }
+    QList<TextRow> rows = rowsOf(*Merged, *Record);
+    const Widths widths = textWidths(rows, View.fontMetrics());
+    setColumns(View, {WareListViewer::tr("Name"), WareListViewer::tr("ID")});
+    View.SetRows(std::move(rows));
+    View.setColumnWidth(0, std::max(widths[0] + textMargin, nameWidth));
+    View.setColumnWidth(1, std::max(widths[1] + textMargin, View.header()->sectionSizeHint(1)));
+}
+
+WareListViewer::WareListViewer(QWidget* Parent, const char* ViewName)
+    : QWidget(Parent), m_view(new TextRowsView(ViewName, tr("Wares of the list"), this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_view);
+    setFocusProxy(m_view);
+    m_view->installEventFilter(this);
+    m_view->viewport()->installEventFilter(this);
+}
+
+void WareListViewer::Init() {
+    if (m_merged)
+        return;
+    m_merged = BuildWareList();
+    if (Archive)
+        m_lists = Archive->GetFile("WareLists");
+}
+
+void WareListViewer::ShowWareList(std::int32_t ID) {
+    Init();
+    const RecordPtr record = m_lists ? m_lists->FindIndex(ID) : nullptr;
+    FillWareList(*m_view, m_merged.get(), record.get(), QString::number(ID));
+}
+
+void WareListViewer::Clear() {
+    m_view->SetRows({});
+}
+
+// The list itself tells only of rows, and there may be none.
+bool WareListViewer::eventFilter(QObject* watched, QEvent* event) {
+    const bool pressed = event->type() == QEvent::KeyPress && watched == m_view;
+    const int key = pressed ? static_cast<QKeyEvent*>(event)->key() : 0;
+    const bool clicked = event->type() == QEvent::MouseButtonDblClick && watched != m_view &&
+                         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (!clicked && key != Qt::Key_Return && key != Qt::Key_Enter)
+        return false;
+    Q_EMIT Entered();
+    return true;
+}

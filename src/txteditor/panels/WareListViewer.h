@@ -1,0 +1,41 @@
+// The wares of a ware list, with their names.
+#pragma once
+
+#include "tdata/clsTxtParser.h"
+#include "txteditor/panels/TextRows.h"
+
+#include <QtWidgets>
+
+#include <cstdint>
+#include <memory>
+
+/// Shows the wares of a record of WareLists in columns "Name" and "ID", which are as wide as the
+/// texts of the first rows need. Without the record or the merged wares one column says that the
+/// list of that ID is not found.
+void FillWareList(TextRowsView& View, const clsTxtParser* Merged, const clsTXTObject* Record,
+                  const QString& ID);
+
+/// A part of a panel that shows the ware list of an ID.
+class WareListViewer final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit WareListViewer(QWidget* Parent, const char* ViewName = "WareListView");
+
+    /// Gets the wares and WareLists, the first time only; ShowWareList does it where it was not
+    /// done.
+    void Init();
+    void ShowWareList(std::int32_t ID);
+    void Clear();
+
+Q_SIGNALS:
+    void Entered(); ///< a double click anywhere in the list, or Enter
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    TextRowsView* m_view;
+    std::unique_ptr<clsTxtParser> m_merged;
+    std::shared_ptr<clsTxtParser> m_lists;
+};

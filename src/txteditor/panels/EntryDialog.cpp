@@ -172,6 +172,11 @@ bool EntryDialog::CheckContent(const Entry& Checked) {
     return refusal.isEmpty() || Refuse(*Checked.Edit, refusal);
 }
 
+void EntryDialog::SayReason(const QString& Text) {
+    m_reason->setText(Text);
+    resize(size().expandedTo({0, heightForWidth(width())})); // more lines must not press the edits
+}
+
 bool EntryDialog::Refuse(QWidget& At, const QString& Text, bool Quiet) {
     SayReason(Text); // stays beside the edits behind the box
     if (!Quiet)

@@ -58,7 +58,7 @@ protected:
     [[nodiscard]] static bool IsNumber(const QString& Text);
     /// Says why OK was refused, beside the edits and, unless it is to be quiet, in a box; false.
     bool Refuse(QWidget& At, const QString& Text, bool Quiet = false);
-    void SayReason(const QString& Text) { m_reason->setText(Text); }
+    void SayReason(const QString& Text);
 
 private:
     /// Fills the other controls; may throw.

@@ -57,7 +57,9 @@ QVariant PropertyModel::headerData(int section, Qt::Orientation orientation, int
 
 Qt::ItemFlags PropertyModel::flags(const QModelIndex& index) const {
     const PropertyRow* row = Row(index);
-    const bool edited = row && row->Field != PropertyRow::Computed;
+    if (!row)
+        return Qt::NoItemFlags;
+    const bool edited = row->Field != PropertyRow::Computed;
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren |
            (edited && index.column() == ValueColumn ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }

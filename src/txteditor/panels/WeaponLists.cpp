@@ -53,7 +53,8 @@ public:
     }
 
     Qt::ItemFlags flags(const QModelIndex& index) const override {
-        return TextRowsModel::flags(index) | Qt::ItemIsDragEnabled;
+        const auto flags = TextRowsModel::flags(index);
+        return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags;
     }
     Qt::DropActions supportedDropActions() const override { return Qt::CopyAction; }
     QStringList mimeTypes() const override {

@@ -6,7 +6,6 @@
 
 #include <QtWidgets>
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <vector>

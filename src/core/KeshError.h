@@ -12,9 +12,9 @@ inline constexpr std::uint32_t Loader = 0x80040001;    ///< a loader's own compl
 inline constexpr std::uint32_t ReadValue = 0x8004000A; ///< a value could not be read
 inline constexpr std::uint32_t Overflow = 6;           ///< a whole number that leaves 32 bits
 inline constexpr std::uint32_t DivisionByZero = 11;
-inline constexpr std::uint32_t TypeMismatch = 13;      ///< text where a number is needed
-inline constexpr std::uint32_t Bounds = 9;             ///< an index outside its array
-inline constexpr std::uint32_t Cancelled = 32755;      ///< a cancelled file dialog; swallowed
+inline constexpr std::uint32_t TypeMismatch = 13; ///< text where a number is needed
+inline constexpr std::uint32_t Bounds = 9;        ///< an index outside its array
+inline constexpr std::uint32_t Cancelled = 32755; ///< a cancelled file dialog; swallowed
 } // namespace errnum
 
 class KeshError : public std::runtime_error {

@@ -141,7 +141,7 @@ QString ValueEntry::TakeValue(const QString& Typed) {
     const auto value = Read(entered.Bytes);
     if (!value) // a refused translation has the same words for every type
         return wrongType(m_editor && Translating() ? valuetype::Integer : m_type);
-    const QString refusal = signRefusal(keshobjects::spellValue(*value), AllowSlash);
+    QString refusal = signRefusal(keshobjects::spellValue(*value), AllowSlash);
     // An untouched text keeps the value's spelling, and what a translated one rounds away.
     if (refusal.isEmpty() && Typed != m_shown)
         m_object->SetValue(m_index, *value);

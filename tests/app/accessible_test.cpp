@@ -5,6 +5,9 @@
 #include "apptest.h"
 #include "files/frmCATDialog.h"
 #include "txteditor/frmEdit.h"
+#include "txteditor/panels/AllPanels.h"
+#include "txteditor/panels/frmGunEdit.h"
+#include "txteditor/panels/frmTurretEdit.h"
 #include "ui/frmAbout.h"
 #include "ui/frmFind.h"
 #include "ui/frmText.h"
@@ -19,11 +22,17 @@ std::unique_ptr<QWidget> make() {
     return std::make_unique<Window>();
 }
 
+std::unique_ptr<QWidget> makeEditor() {
+    return std::make_unique<frmTXTEditor>(AllPanels());
+}
+
 const std::map<const char*, Maker> makers = {
-    {"launcher", make<frmMain>},    {"editor", make<frmTXTEditor>}, {"settings", make<frmSettings>},
-    {"value", make<frmEdit>},       {"find", make<frmFind>},        {"report", make<frmText>},
-    {"files", make<frmFiles>},      {"about", make<frmAbout>},      {"wait", make<frmWait>},
-    {"catalog", make<frmCATDialog>}};
+    {"launcher", make<frmMain>},     {"editor", makeEditor},
+    {"settings", make<frmSettings>}, {"value", make<frmEdit>},
+    {"find", make<frmFind>},         {"report", make<frmText>},
+    {"files", make<frmFiles>},       {"about", make<frmAbout>},
+    {"wait", make<frmWait>},         {"catalog", make<frmCATDialog>},
+    {"turret", make<frmTurretEdit>}, {"gun", make<frmGunEdit>}};
 
 /// What a screen reader has to say of a control.
 QString spoken(const QWidget& control) {

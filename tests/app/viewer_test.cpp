@@ -69,6 +69,7 @@ TEST_F(ViewerTest, UnpacksForAViewerThatReadsNoCatalogs) {
 }
 
 struct BodyCase {
+    std::int32_t Field;
     const char* Body;
     bool CutScene;
     std::int32_t Type;
@@ -81,21 +82,24 @@ TEST_F(ViewerTest, ShowsTheBodyThatARecordNames) {
         write((std::string("data/objects/") + name).c_str(), "x");
     LoadKeshData();
     const BodyCase cases[] = {
-        {"12", false, otype::Ships, "v/00012.bod", "TShips:12;x;"},
-        {"12", true, otype::Factories, "cut/00012.bod", "TFactories:12;x;"},
-        {"123456", false, otype::Docks, "v/123456.bod", ""},
-        {"ships\\a", true, otype::Laser, "ships/a.bod", ""},
-        {"ships\\*", false, otype::Ships, "", ""},
-        {"13", false, otype::Ships, "", ""},
+        {0, "12", false, otype::Ships, "v/00012.bod", "TShips:12;x;"},
+        {0, "12", true, otype::Factories, "cut/00012.bod", "TFactories:12;x;"},
+        {0, "123456", false, otype::Docks, "v/123456.bod", ""},
+        {0, "ships\\a", true, otype::Laser, "ships/a.bod", ""},
+        {1, "ships\\a", true, otype::Ships, "ships/a.bod", "TShips:x;ships\\a;"},
+        {2, "12", false, otype::Ships, "", ""}, // beyond the record
+        {0, "ships\\*", false, otype::Ships, "", ""},
+        {0, "13", false, otype::Ships, "", ""},
     };
     for (const BodyCase& c : cases) {
         script.Started.clear();
         clsTXTObject record;
         record.Construct(2);
         record.otype = c.Type;
-        record.SetValue(0, keshobjects::readValue(c.Body));
-        record.SetValue(1, std::string("x"));
-        ExportObjectToViewer(nullptr, record, c.CutScene);
+        for (const std::int32_t field : {0, 1})
+            record.SetValue(field, field == c.Field || c.Field > 1 ? keshobjects::readValue(c.Body)
+                                                                   : KeshValue("x"));
+        ExportObjectToViewer(nullptr, record, c.Field, c.CutScene);
         ASSERT_EQ(script.Started.size(), *c.Shown ? 1 : 0) << c.Body;
         if (*c.Shown) {
             EXPECT_EQ(script.Arguments.value(0),

@@ -1,0 +1,351 @@
+// A window with a TShips file in it: what its tabs show, and what clicks and keys change.
+#include "support/gametexts.h"
+#include "tdata/clsArchive.h"
+#include "txteditor/editortest.h"
+#include "txteditor/panels/frmGunEdit.h"
+#include "txteditor/panels/frmTurretEdit.h"
+#include "txteditor/panels/ucShip.h"
+#include "ui/frmText.h"
+
+#include <QAbstractItemModelTester>
+
+namespace {
+
+using Values = QMap<int, QByteArray>;
+
+class ShipPanel : public EditorTest {
+protected:
+    ~ShipPanel() override { Archive.reset(); }
+
+    /// A ship without turrets; `own` replaces values, of which each has its own spelling.
+    static QByteArray ship(const QByteArray& name, const Values& own) {
+        QByteArray text;
+        for (int i = 0; i < 64; ++i) {
+            const bool counts = i == 19 || i == 53 || i == 54;
+            text += own.value(i, counts ? QByteArray("0") : "0" + QByteArray::number(i)) + ";";
+        }
+        return text + name + ";";
+    }
+    static QByteArray file(const QByteArray& version, const QList<QByteArray>& ships) {
+        return version + ";" + QByteArray::number(ships.size()) + ";\r\n" + ships.join("\r\n") +
+               "\r\n";
+    }
+    void useFiles() {
+        const QByteArray tail = ";9;1.5;11;12;13;14;15;16;17;18;19;";
+        write("data/types/TShields.txt", "50;2;\r\n0;1;2;3;4;5;999;100;1000" + tail +
+                                             "SH_A;\r\n0;1;2;3;4;5;999;0;1000" + tail +
+                                             "SH_ZERO;\r\n");
+        write("data/types/TCockpits.txt",
+              "50;2;\r\n0;1;2;3;4;5;6;scene;1;9;10;11;12;13;14;15;16;17;CP_B;\r\n"
+              "0;1;2;3;4;5;6;scene;1;9;10;11;12;13;14;15;16;17;CP_A;\r\n");
+        ASSERT_NE(KeshVFS_CreateVFS(program("data")), 0);
+        Archive = std::make_unique<clsArchive>();
+    }
+    void startWith(const QByteArray& version, const QList<QByteArray>& ships) {
+        write("TShips.txt", file(version, ships));
+        start("TShips.txt", {panel});
+    }
+    void showTab(int tab) const { tabs()->setCurrentIndex(tab); }
+    [[nodiscard]] QTabWidget* tabs() const {
+        return panel->findChild<QTabWidget*>(QStringLiteral("MainTab"));
+    }
+    /// "name=value" of each row.
+    [[nodiscard]] QString rows(const char* name) const {
+        QStringList texts;
+        const QStringList values = column(name, 1);
+        for (const QString& label : column(name))
+            texts.append(label + u'=' + values[texts.size()]);
+        return texts.join(u'|');
+    }
+    [[nodiscard]] QString value(const char* name, const QString& row) const {
+        return column(name, 1).value(column(name).indexOf(row));
+    }
+    [[nodiscard]] std::string stored(int field, int record = 0) const {
+        return std::string(window->Parser().FindIndex(record)->ValueText(field));
+    }
+    [[nodiscard]] std::string record(int index = 0) const {
+        return window->Parser().FindIndex(index)->GetObjectTData();
+    }
+    void typeInPlace(const char* name, const QString& row, const QString& text) {
+        QAbstractItemView* list = view(name);
+        const auto at = static_cast<int>(column(name).indexOf(row));
+        ASSERT_GE(at, 0);
+        list->setFocus();
+        list->setCurrentIndex(list->model()->index(at, 0));
+        QTest::keyClick(list, Qt::Key_F2);
+        auto* editor = list->findChild<QWidget*>(QStringLiteral("ValueEditor"));
+        ASSERT_TRUE(editor);
+        QTest::keyClicks(editor, text);
+        press(editor, Qt::Key_Return);
+    }
+    void key(const char* name, Qt::Key code) {
+        view(name)->setFocus();
+        QTest::keyClick(view(name), code);
+    }
+    /// A key whose work the view does a little later.
+    static void press(QWidget* editor, Qt::Key key) {
+        QTest::keyClick(editor, key);
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents({}, QEvent::DeferredDelete);
+    }
+    /// Fills the edits of the dialog that opens next and presses OK.
+    template <class Dialog>
+    static void answer(const QStringList& edits, const QString& position = {}) {
+        QTimer::singleShot(0, qApp, [edits, position] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            qsizetype next = 0;
+            for (QLineEdit* edit : dialog->template findChildren<QLineEdit*>())
+                if (!edit->isReadOnly() && !qobject_cast<QComboBox*>(edit->parentWidget()))
+                    edit->setText(edits.value(next++));
+            if (auto* combo = dialog->template findChild<QComboBox*>(QStringLiteral("cmbPosition"));
+                combo && !position.isEmpty())
+                combo->setEditText(position);
+            dialog->template findChild<QPushButton*>(QStringLiteral("btnOK"))->click();
+        });
+    }
+
+    ucShip* panel = new ucShip; // the window takes it over
+};
+
+TEST_F(ShipPanel, ShowsAShipOnNineTabs) {
+    useFiles();
+    startWith("49", {ship("SHIP_A", {{2, "0.5"},
+                                     {5, "SG_SH_M3"},
+                                     {7, "30000"},
+                                     {8, "500"},
+                                     {13, "150"},
+                                     {20, "2000"},
+                                     {21, "0.25"},
+                                     {22, "0"},
+                                     {23, "3"},
+                                     {26, "2"},
+                                     {45, "1"},
+                                     {50, "0"},
+                                     {52, "OBJ_SHIP_M3"}})});
+    EXPECT_EQ(caption(), caption("TShips.txt", QStringLiteral("Ships v.49")));
+    pick("ObjectView", 0);
+    EXPECT_EQ(column("ObjectView")[0], QStringLiteral("Argon SHIP_A"));
+    QStringList captions;
+    for (int tab = 0; tab < tabs()->count(); ++tab)
+        captions.append(tabs()->tabText(tab));
+    EXPECT_EQ(captions.join(u'|'),
+              QStringLiteral("Info|Performance|Model|Weapons|Cockpits (turrets)|Guns|Front lasers|"
+                             "Missiles|Wares"));
+    EXPECT_TRUE(rows("InfoView")
+                    .startsWith(QStringLiteral(
+                        "ID=SHIP_A|Class=SG_SH_M3|Type=OBJ_SHIP_M3|Race=Argon|Cargo type=")));
+    EXPECT_EQ(column("InfoView").size(), 1 + 9 + 9);
+    EXPECT_EQ(view("PerformanceView")->model()->rowCount(), 0) << "hidden tabs wait";
+    showTab(1);
+    EXPECT_EQ(value("PerformanceView", QStringLiteral("Yaw")), QStringLiteral("30.0 rot/min"));
+    EXPECT_EQ(value("PerformanceView", QStringLiteral("Speed")),
+              QStringLiteral("60.00 - 72.00 m/s"));
+    EXPECT_EQ(value("PerformanceView", QStringLiteral("Max recharge time")),
+              QStringLiteral("SH_A x 3 = 16 s"));
+    showTab(3);
+    EXPECT_EQ(value("WeaponView", QStringLiteral("Shield type")), QStringLiteral("SH_A"));
+    EXPECT_EQ(value("WeaponView", QStringLiteral("Weapons recharge rate")),
+              QStringLiteral("500.000 W/s"));
+    EXPECT_EQ(column("WeaponView", 2).join(u' '), QStringLiteral("22 23 20 21 25 19 53 54 18 24"));
+    showTab(8);
+    EXPECT_EQ(child<QLineEdit>("WareListIDEdit")->text(), QStringLiteral("030"));
+    for (const char* list : {"InfoView", "PerformanceView", "TurView", "GunView"})
+        const QAbstractItemModelTester tester(view(list)->model());
+}
+
+TEST_F(ShipPanel, SaysThatAShieldNeedsNothingWhenAllOtherRowsStand) {
+    useFiles();
+    startWith("49", {ship("A", {{13, "150"}, {22, "1"}, {23, "3"}})});
+    showTab(1);
+    script.Box(QStringLiteral("Error showing object: Division by zero"));
+    pick("ObjectView", 0);
+    EXPECT_EQ(column("PerformanceView").size(), 12);
+    EXPECT_EQ(value("PerformanceView", QStringLiteral("Max recharge time")), QString());
+}
+
+struct EntryCase {
+    int Tab;
+    const char* View;
+    const char* Row;
+    const char* Entered;
+    const char* Said; ///< a refusal, in place and in the dialog
+    int Field;
+    const char* Stored;
+};
+
+TEST_F(ShipPanel, TakesTheSameValuesInPlaceAndInTheDialog) {
+    const EntryCase cases[] = {
+        {1, "PerformanceView", "Speed", "60.001", "", 7, "30001"},
+        {1, "PerformanceView", "Speed", "fast", "must be whole number", 7, "07"},
+        {0, "InfoView", "Class", "SG_SH_NEW", "", 5, "SG_SH_NEW"},
+        {0, "InfoView", "Class", "M1", "", 5, "SG_SH_M1"},
+        {0, "InfoView", "Race", "Boron", "", 45, "2"},
+        {2, "ModelView", "Ship scene", "a;b", "semicolon", 16, "016"},
+        {0, "InfoView", "ID", "SHIP_B", "already used", 64, "SHIP_A"},
+    };
+    startWith("50", {ship("SHIP_A", {}), ship("SHIP_B", {})});
+    pick("ObjectView", 0);
+    const std::string before = record();
+    for (const bool inPlace : {true, false})
+        for (const EntryCase& c : cases) {
+            SCOPED_TRACE(c.Entered);
+            showTab(c.Tab);
+            if (*c.Said)
+                script.Box(QString::fromLatin1(c.Said));
+            const QString row = QString::fromLatin1(c.Row);
+            if (inPlace) {
+                typeInPlace(c.View, row, QString::fromLatin1(c.Entered));
+            } else {
+                view(c.View)->setCurrentIndex(
+                    view(c.View)->model()->index(static_cast<int>(column(c.View).indexOf(row)), 0));
+                typeValue(QString::fromLatin1(c.Entered));
+                key(c.View, Qt::Key_Return);
+            }
+            EXPECT_EQ(stored(c.Field), c.Stored);
+            if (*c.Said) { // it is still open in its place
+                if (auto* editor = view(c.View)->findChild<QWidget*>(QStringLiteral("ValueEditor")))
+                    press(editor, Qt::Key_Escape);
+                continue;
+            }
+            trigger("undo");
+            EXPECT_EQ(record(), before);
+        }
+}
+
+TEST_F(ShipPanel, KeepsTheCargoInOrderAndAsksAboutCounts) {
+    startWith("49", {ship("A", {{28, "10"}, {29, "20"}})});
+    pick("ObjectView", 0);
+    script.Box(
+        QStringLiteral("\"Cargo max\" was modified to be equal to new \"Cargo min (buy)\" value."));
+    typeInPlace("InfoView", QStringLiteral("Cargo min (buy)"), QStringLiteral("30"));
+    EXPECT_EQ(stored(29), "30");
+    trigger("undo");
+    EXPECT_EQ(stored(28) + stored(29), "1020") << "one step";
+    const std::string before = record();
+    showTab(3);
+    view("WeaponView")->setCurrentIndex(view("WeaponView")->model()->index(6, 0));
+    script.Box(QStringLiteral("Manually modifying this value can corrupt ship data."), Answer::No);
+    key("WeaponView", Qt::Key_Return);
+    EXPECT_TRUE(script.Boxes.back().NoIsDefault);
+    EXPECT_EQ(record(), before);
+}
+
+TEST_F(ShipPanel, AddsEditsAndRemovesTurretsAndGuns) {
+    useFiles();
+    startWith("49", {ship("A", {}), ship("B", {})});
+    pick("ObjectView", 0);
+    const std::string before = record();
+    const std::string other = record(1);
+    const auto valid = [&] {
+        clsShip ship(window->Parser().FindIndex(0));
+        return ship.LoadObjects() && ship.Validate();
+    };
+    showTab(5);
+    script.Box(QStringLiteral("There are no turrets on this ship."));
+    trigger("newgun");
+    showTab(4);
+    for (const char* body : {"front", "left"}) {
+        answer<frmTurretEdit>({QString::fromLatin1(body), QStringLiteral("7")},
+                              QStringLiteral("left"));
+        key("TurView", Qt::Key_Insert);
+    }
+    EXPECT_TRUE(valid());
+    EXPECT_EQ(column("TurView", 6).join(u'|'), QStringLiteral("|left (3)"));
+    pick("TurView", 1);
+    EXPECT_EQ(column("CockpView", 1), QStringList(QStringLiteral("[cockpit not found]")));
+    showTab(5);
+    pick("GunGroupView", 1);
+    answer<frmGunEdit>({QStringLiteral("3"), QStringLiteral("gun"), QStringLiteral("4"), {}, {}});
+    trigger("newgun");
+    EXPECT_TRUE(valid());
+    EXPECT_EQ(column("GunView", 1), QStringList(QStringLiteral("3")));
+    EXPECT_EQ(stored(19), "3");
+    child<QRadioButton>("rbGunView1")->click();
+    EXPECT_EQ(view("GunView")->model()->columnCount(), 7);
+    EXPECT_EQ(column("GunView", 6), QStringList(QStringLiteral("-1")));
+    showTab(3);
+    EXPECT_EQ(value("WeaponView", QStringLiteral("Gun group count")), QStringLiteral("2"));
+    showTab(5);
+    pick("GunView", 0);
+    script.Box(QStringLiteral("Do you really want to delete the gun idx=1?"), Answer::Yes);
+    key("GunView", Qt::Key_Delete);
+    EXPECT_EQ(stored(19), "0");
+    showTab(4);
+    pick("TurView", 0);
+    script.Box(QStringLiteral("You can only delete the last turret in the list."));
+    trigger("delturret");
+    pick("TurView", 1);
+    script.Box(QStringLiteral("delete the turret idx=2 (position=left) ?"), Answer::Yes);
+    trigger("delturret");
+    EXPECT_TRUE(valid());
+    EXPECT_EQ(column("TurView").size(), 1);
+    for (int step = 0; step < 5; ++step)
+        trigger("undo");
+    EXPECT_EQ(record(), before);
+    EXPECT_EQ(column("TurView").size(), 0);
+    EXPECT_EQ(record(1), other);
+}
+
+TEST_F(ShipPanel, RefusesAnEighthTurret) {
+    startWith("49", {ship("A", {})});
+    pick("ObjectView", 0);
+    showTab(4);
+    for (int i = 0; i < 7; ++i) {
+        answer<frmTurretEdit>({QStringLiteral("body"), QStringLiteral("1")}, QStringLiteral("top"));
+        trigger("newturret");
+    }
+    script.Box(QStringLiteral("Maximum number of turrets is 6 (+ front gun)"));
+    trigger("newturret");
+    EXPECT_EQ(column("TurView").size(), 7);
+}
+
+TEST_F(ShipPanel, ReportsWhatDoesNotFitAndLeadsToIt) {
+    write("TShips.txt", file("49", {ship("A", {}), ship("B", {{19, "5"}})}));
+    start({}, {panel});
+    QTimer::singleShot(0, qApp, [] {
+        auto* report = qobject_cast<frmText*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(report);
+        EXPECT_EQ(report->Text().section(u'\n', 0, 0), QStringLiteral("Ship index 1, name \"B\":"));
+        EXPECT_TRUE(report->Text().endsWith(
+            QStringLiteral("Section numbers in file: turrets: 0, gun groups: 0, guns: 5.\n\n"
+                           "Data in file TShips.txt are probably corrupted.")));
+        auto* text = report->findChild<QPlainTextEdit*>();
+        QTextCursor cursor = text->textCursor();
+        cursor.movePosition(QTextCursor::Down);
+        QTest::mouseDClick(text->viewport(), Qt::LeftButton, {}, text->cursorRect(cursor).center());
+    });
+    window->OpenFile(program("TShips.txt"));
+    EXPECT_EQ(window->SelectedObject()->ObjectName(), "B");
+}
+
+TEST_F(ShipPanel, ReadOnlyItChangesNothing) {
+    startWith("49", {ship("A", {})});
+    panel->SetReadOnly(true);
+    pick("ObjectView", 0);
+    view("InfoView")->setCurrentIndex(view("InfoView")->model()->index(1, 0));
+    key("InfoView", Qt::Key_F2);
+    EXPECT_FALSE(view("InfoView")->findChild<QWidget*>(QStringLiteral("ValueEditor")));
+    key("InfoView", Qt::Key_Return); // a dialog would stay
+    showTab(4);
+    EXPECT_FALSE(child<QAction>("newturret")->isVisible());
+    key("TurView", Qt::Key_Insert);
+}
+
+TEST_F(ShipPanel, TakesWhatIsBeingEnteredBeforeItSaves) {
+    startWith("49", {ship("A", {})});
+    pick("ObjectView", 0);
+    QAbstractItemView* list = view("InfoView");
+    list->setFocus();
+    list->setCurrentIndex(list->model()->index(
+        static_cast<int>(column("InfoView").indexOf(QStringLiteral("Docking slots"))), 0));
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClicks(list->findChild<QWidget*>(QStringLiteral("ValueEditor")),
+                     QStringLiteral("77"));
+    script.Save(FileChoice{native("saved.txt"), 1});
+    trigger("save");
+    EXPECT_TRUE(
+        QString::fromStdString(content(native("saved.txt"))).contains(QStringLiteral(";77;")));
+}
+
+} // namespace

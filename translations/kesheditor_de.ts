@@ -64,6 +64,36 @@ Das System konnte es nicht starten.</translation>
     </message>
 </context>
 <context>
+    <name>EntryDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExportShipsFile</name>
+    <message>
+        <source>Export TShips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon delimeted file (*.txt)|*.txt|Record structure (*.txt)|*.txt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error opening file %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error in Export file: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>%1 wird gespeichert</translation>
+    </message>
+</context>
+<context>
     <name>ExternalViewer</name>
     <message>
         <source>Error starting external 3D viewer: </source>
@@ -185,6 +215,13 @@ Soll er angelegt werden?</translation>
     </message>
 </context>
 <context>
+    <name>ObjectEditor</name>
+    <message>
+        <source>This type of file cannot be exported.</source>
+        <translation>Dateien dieser Art lassen sich nicht exportieren.</translation>
+    </message>
+</context>
+<context>
     <name>OfferRecovery</name>
     <message>
         <source>Changes of file %1 were not saved when the program ended the last time.
@@ -218,6 +255,32 @@ Changes: %2, the last of them at %3.</source>
     </message>
 </context>
 <context>
+    <name>PropertyModel</name>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[offset]</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PropertyView</name>
+    <message>
+        <source>Fields</source>
+        <translation>Felder</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>RecordDataModel</name>
     <message>
         <source>[off]</source>
@@ -240,6 +303,17 @@ Changes: %2, the last of them at %3.</source>
     </message>
 </context>
 <context>
+    <name>RecordPanel</name>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error in key handler: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>RecordUndo</name>
     <message>
         <source>change of %1</source>
@@ -255,6 +329,196 @@ Changes: %2, the last of them at %3.</source>
     <message>
         <source>no file can be made there</source>
         <translation>dort lässt sich keine Datei anlegen</translation>
+    </message>
+</context>
+<context>
+    <name>ShipGunTab</name>
+    <message>
+        <source>Gun groups</source>
+        <translation>Waffengruppen</translation>
+    </message>
+    <message>
+        <source>[offset]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Init gun idx</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source># of guns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gun entries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guns in turret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Debug View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the guns without their offsets</source>
+        <translation>Die Waffen ohne ihre Stellen zeigen</translation>
+    </message>
+    <message>
+        <source>Show the guns with their offsets in the record</source>
+        <translation>Die Waffen mit ihren Stellen im Datensatz zeigen</translation>
+    </message>
+    <message>
+        <source>Gun Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gun Count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path Idx</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body ID (2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path Idx (2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>#</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body ID (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P Idx</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error loading ship data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ucShip-&gt;ShowGuns: Error while displaying gun data:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no turrets on this ship. You must first create a turret with Add Turret button.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You can only delete the last gun in the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the gun idx=%1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ShipTurretTab</name>
+    <message>
+        <source>Turrets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[offset]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turr. Idx</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path Idx</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cockpits (turrets)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cockpit idx</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cockpit name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To modify turrets, open TCockpits file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ucShip-&gt;ShowTurrets: Error while displaying turret data: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turrets descriptor: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[cockpit not found]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum number of turrets is %1 (+ front gun)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You can only delete the last turret in the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the turret idx=%1 (position=%2) ?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -286,6 +550,122 @@ Changes: %2, the last of them at %3.</source>
     <message>
         <source>Save</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TurretPlan</name>
+    <message>
+        <source>front cockpit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plan of the turrets</source>
+        <translation>Plan der Türme</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No turrets.</source>
+        <translation>Keine Türme.</translation>
+    </message>
+    <message>
+        <source>Guns: %1.</source>
+        <translation>Waffen: %1.</translation>
+    </message>
+    <message>
+        <source> Selected: %1.</source>
+        <translation> Ausgewählt: %1.</translation>
+    </message>
+    <message>
+        <source>%1: no turret</source>
+        <translation>%1: kein Turm</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Von oben</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>Von der Seite</translation>
+    </message>
+    <message>
+        <source>%1+</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ValueEntry</name>
+    <message>
+        <source>Value holds a character that this file cannot hold.</source>
+        <translation>Der Wert enthält ein Zeichen, das in dieser Datei nicht stehen kann.</translation>
+    </message>
+    <message>
+        <source>Value cannot contain semicolon (;)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value cannot contain slash (/)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This object ID is already used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WareListViewer</name>
+    <message>
+        <source>Ware list %1 not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wares of the list</source>
+        <translation>Waren der Liste</translation>
+    </message>
+</context>
+<context>
+    <name>WeaponLists</name>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the selected weapons</source>
+        <translation>Die ausgewählten Waffen entfernen</translation>
+    </message>
+    <message>
+        <source>Add the selected weapons</source>
+        <translation>Die ausgewählten Waffen hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -472,39 +852,11 @@ Changes: %2, the last of them at %3.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Integer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Float</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>String</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source> [%1]</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>This object ID is already used.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Value holds a character that this file cannot hold.</source>
-        <translation>Der Wert enthält ein Zeichen, das in dieser Datei nicht stehen kann.</translation>
-    </message>
-    <message>
-        <source>Value cannot contain semicolon (;)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Value cannot contain slash (/)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -604,6 +956,77 @@ Changes: %2, the last of them at %3.</source>
     <message>
         <source>No more occurencies found.</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmGunEdit</name>
+    <message>
+        <source>Gun Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gun Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Primary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Primary Body ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Primary Path index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Secondary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Secondary Body ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Secondary Path index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count not specified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count must be whole number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Primary Body ID not specified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Primary Path index not specified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Primary Path index must be whole number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Secondary Path index must be whole number</source>
+        <translation>Der zweite „Path index“ muss eine ganze Zahl sein</translation>
     </message>
 </context>
 <context>
@@ -1013,10 +1436,6 @@ File type:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This type of file cannot be exported.</source>
-        <translation>Dateien dieser Art lassen sich nicht exportieren.</translation>
-    </message>
-    <message>
         <source>The Text Resource Editor is not available in this version.</source>
         <translation>Der Text Resource Editor ist in dieser Version nicht verfügbar.</translation>
     </message>
@@ -1328,6 +1747,73 @@ Soll sie neu geladen werden?</translation>
         <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Go to</source>
+        <translation>Gehe zu</translation>
+    </message>
+    <message>
+        <source>Show the object that the line with the cursor is about</source>
+        <translation>Das Objekt zeigen, von dem die Zeile mit dem Cursor handelt</translation>
+    </message>
+</context>
+<context>
+    <name>frmTurretEdit</name>
+    <message>
+        <source>Turret Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turret data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turret Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turret Descriptor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turret type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path index not specified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path index must be whole number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body ID not specified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position is neither in the list nor a whole number.</source>
+        <translation>Die Position steht weder in der Liste, noch ist sie eine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>Turret type must be whole number</source>
+        <translation>Der „Turret type“ muss eine ganze Zahl sein</translation>
+    </message>
 </context>
 <context>
     <name>frmWait</name>
@@ -1342,6 +1828,200 @@ Soll sie neu geladen werden?</translation>
     <message>
         <source>Progress</source>
         <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
+    <name>ucShip</name>
+    <message>
+        <source>[Error getting description]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ship info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning:
+Manually modifying this value can corrupt ship data.
+This value is altered automatically by the editor.
+
+Do you really want to modify it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was modified to be equal to new &quot;%2&quot; value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error showing object: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ship type: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Max recharge time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gun group count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cockpit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Cockpit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Turret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a turret behind the last one (Ins in the list)</source>
+        <translation>Einen Turm hinter dem letzten anfügen (Einfg in der Liste)</translation>
+    </message>
+    <message>
+        <source>Remove Turret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the last turret (Del in the list)</source>
+        <translation>Den letzten Turm entfernen (Entf in der Liste)</translation>
+    </message>
+    <message>
+        <source>Add Gun</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a gun to the selected group (Ins in the lists)</source>
+        <translation>Der ausgewählten Gruppe eine Waffe anfügen (Einfg in den Listen)</translation>
+    </message>
+    <message>
+        <source>Remove Gun</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the last gun of the group (Del in the list)</source>
+        <translation>Die letzte Waffe der Gruppe entfernen (Entf in der Liste)</translation>
+    </message>
+    <message>
+        <source>Ship</source>
+        <translation>Schiff</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Performance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weapons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cockpits (turrets)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Front lasers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wares</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type and description</source>
+        <translation>Typ und Beschreibung</translation>
+    </message>
+    <message>
+        <source>Compatible lasers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Available lasers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compatible missiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Available missiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ware List ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(doubleclick to change)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ucTurret</name>
+    <message>
+        <source>Compatible lasers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Available lasers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lasers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turrets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turret info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These are no turrets.</source>
+        <translation>Das sind keine Türme.</translation>
     </message>
 </context>
 </TS>

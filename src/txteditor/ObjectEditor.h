@@ -94,7 +94,7 @@ public:
     virtual bool KeshExportData(QWidget* Owner) {
         Q_UNUSED(Owner);
         throw KeshError(errnum::General, "ObjectEditor",
-                        tr("This type of file cannot be exported.").toStdString());
+                        ObjectEditor::tr("This type of file cannot be exported.").toStdString());
     }
     /// The record that a line of Validate's report is about; none if it names none.
     [[nodiscard]] virtual RecordPtr ReportedObject(const QString& Line) const {

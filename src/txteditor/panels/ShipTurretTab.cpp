@@ -89,6 +89,7 @@ void ShipTurretTab::BuildControls() {
     m_descriptors = label("lblTData", {}, nullptr, this);
     m_descriptors->setWordWrap(true);
     m_descriptors->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_descriptors->setFocusPolicy(Qt::NoFocus);
     auto* upper = new QHBoxLayout;
     upper->addWidget(BuildLists(), 1);
     upper->addWidget(m_plan);

@@ -85,16 +85,27 @@ void TextRowsView::SelectKey(const QString& Key) {
 }
 
 void TextRowsView::keyPressEvent(QKeyEvent* event) {
-    const bool row = !SelectedKey().isEmpty();
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (!plain)
+    if (!plain || !OnKey(event->key()))
         QTreeView::keyPressEvent(event);
-    else if (row && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
-        Q_EMIT Entered();
-    else if (row && event->key() == Qt::Key_Delete)
-        Q_EMIT RemoveAsked();
-    else if (event->key() == Qt::Key_Insert)
+}
+
+bool TextRowsView::OnKey(int Key) {
+    const bool row = !SelectedKey().isEmpty();
+    switch (Key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (row)
+            Q_EMIT Entered();
+        return row;
+    case Qt::Key_Delete:
+        if (row)
+            Q_EMIT RemoveAsked();
+        return row;
+    case Qt::Key_Insert:
         Q_EMIT AddAsked();
-    else
-        QTreeView::keyPressEvent(event);
+        return true;
+    default:
+        return false;
+    }
 }

@@ -57,5 +57,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    [[nodiscard]] bool OnKey(int Key); ///< false if it means nothing here
+
     TextRowsModel* m_model;
 };

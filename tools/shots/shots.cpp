@@ -6,9 +6,13 @@
 #include "app/frmSettings.h"
 #include "core/clsSettings.h"
 #include "files/frmCATDialog.h"
+#include "tdata/clsArchive.h"
+#include "tdata/clsGunGroup.h"
 #include "txteditor/frmEdit.h"
 #include "txteditor/frmTXTEditor.h"
 #include "txteditor/panels/AllPanels.h"
+#include "txteditor/panels/frmGunEdit.h"
+#include "txteditor/panels/frmTurretEdit.h"
 #include "ui/frmAbout.h"
 #include "ui/frmFind.h"
 #include "ui/frmText.h"
@@ -73,20 +77,51 @@ void setDark() {
     QApplication::setPalette(palette);
 }
 
-frmTXTEditor* openEditor() {
+frmTXTEditor* openEditor(const char* file = "vfs://types\\TShips.pck") {
     auto* editor = new frmTXTEditor(AllPanels());
     editor->setAttribute(Qt::WA_DeleteOnClose);
     editor->MyShow();
-    editor->OpenFile("vfs://types\\TShips.pck");
+    editor->OpenFile(file);
     return editor;
+}
+
+QAbstractItemView* view(QWidget& window, const char* name) {
+    return window.findChild<QAbstractItemView*>(QString::fromLatin1(name));
+}
+
+void pickRow(QWidget& window, const char* list, int row) {
+    view(window, list)->setCurrentIndex(view(window, list)->model()->index(row, 0));
+}
+
+/// A tab of a panel, with a record and, where there are some, a turret and a gun group selected.
+Shot panelShot(const QString& name, const char* file, const char* panel, int tab) {
+    return {name, "frmTXTEditor", [file] { openEditor(file); },
+            [panel, tab](QWidget& window) {
+                window.resize(1100, 760);
+                pickRow(window, "ObjectView", 2);
+                window.findChild<QWidget*>(QString::fromLatin1(panel))
+                    ->findChild<QTabWidget*>(QStringLiteral("MainTab"))
+                    ->setCurrentIndex(tab);
+                pickRow(window, "TurView", 2);
+                pickRow(window, "GunGroupView", 1);
+            }};
+}
+
+template <class Dialog>
+void openOfShip(const std::function<void(Dialog&, clsShip&)>& show) {
+    const std::unique_ptr<frmTXTEditor> editor(openEditor());
+    editor->setAttribute(Qt::WA_DeleteOnClose, false);
+    clsShip ship(editor->Parser().FindIndex(2));
+    Dialog dialog(editor.get());
+    if (ship.LoadObjects() && ship.Turrets().size() > 1)
+        show(dialog, ship);
 }
 
 Shot editorShot(const QString& name, QSize size) {
     return {name, "frmTXTEditor", [] { openEditor(); },
             [size](QWidget& window) {
                 window.resize(size);
-                auto* records = window.findChild<QAbstractItemView*>(QStringLiteral("ObjectView"));
-                records->setCurrentIndex(records->model()->index(2, 0));
+                pickRow(window, "ObjectView", 2);
             }};
 }
 
@@ -108,6 +143,25 @@ std::vector<Shot> shots(const std::string& sample) {
     all.push_back(editorShot(QStringLiteral("txteditor"), {1000, 700}));
     all.push_back(editorShot(QStringLiteral("txteditor-small"), {800, 600}));
     all.push_back(editorShot(QStringLiteral("txteditor-large"), {2560, 1440}));
+    for (int tab = 0; tab < 9; ++tab)
+        all.push_back(panelShot(QStringLiteral("ship%1").arg(tab), "vfs://types\\TShips.pck",
+                                "ShipEdit", tab));
+    for (int tab = 0; tab < 2; ++tab)
+        all.push_back(panelShot(QStringLiteral("turret%1").arg(tab), "vfs://types\\TCockpits.pck",
+                                "TurretEdit", tab));
+    all.push_back({QStringLiteral("turretedit"), "frmTurretEdit", [] {
+                       openOfShip<frmTurretEdit>([](frmTurretEdit& dialog, clsShip& ship) {
+                           clsCockpitParser cockpits;
+                           if (const auto file = Archive->GetFile("TCockpits"))
+                               cockpits.Load(*file);
+                           dialog.ShowTurret(*ship.Turrets()[1], ship, cockpits);
+                       });
+                   }});
+    all.push_back({QStringLiteral("gunedit"), "frmGunEdit", [] {
+                       openOfShip<frmGunEdit>([](frmGunEdit& dialog, clsShip& ship) {
+                           dialog.NewGun(*ship.GunGroups()[1]);
+                       });
+                   }});
     all.push_back({QStringLiteral("value"), "frmEdit", openValue});
     all.push_back({QStringLiteral("find"), "frmFind", [] {
                        frmFind find;

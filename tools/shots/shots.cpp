@@ -210,6 +210,7 @@ int takeAll(const QDir& target, const std::string& sample, const QString& suffix
             std::cerr << "No picture of \"" << shot.Name.toStdString() << "\".\n";
             result = EXIT_FAILURE;
         }
+    Archive.reset(); // before the library that it reads by ends
     return result;
 }
 

@@ -65,7 +65,7 @@ PropertyView::PropertyView(const char* Name, RecordPanel& Editor, QWidget* Paren
     setModel(m_model);
     setItemDelegate(new EntryDelegate(*this));
     setEditTriggers(SelectedClicked | EditKeyPressed);
-    setColumnWidth(0, 26 * fontMetrics().averageCharWidth());
+    setColumnWidth(0, 30 * fontMetrics().averageCharWidth());
     setColumnWidth(2, 8 * fontMetrics().averageCharWidth());
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(PropertyModel::ValueColumn, QHeaderView::Stretch);

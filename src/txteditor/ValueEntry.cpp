@@ -71,8 +71,8 @@ ValueEntry::ValueEntry(ObjectEditor* Editor, RecordPtr Object, std::int32_t Inde
     Translated = m_class == translation::Number;
 }
 
-ValueEntry::ValueEntry(RecordPtr Object, std::span<const RecordPtr> Objects)
-    : m_object(std::move(Object)), m_objects(Objects), m_ofName(true) {}
+ValueEntry::ValueEntry(RecordPtr Object, const std::vector<RecordPtr>& Objects)
+    : m_object(std::move(Object)), m_objects(&Objects) {}
 
 QString ValueEntry::Name() const {
     return m_editor ? ToScreen(m_editor->LornGetPropertyName(m_object, m_index)) : QString();
@@ -98,7 +98,7 @@ QString ValueEntry::Unit() const {
 }
 
 QString ValueEntry::Text() {
-    m_shownBytes = m_ofName ? m_object->ObjectName() : m_object->ValueText(m_index);
+    m_shownBytes = m_objects ? m_object->ObjectName() : m_object->ValueText(m_index);
     std::string translated;
     if (Translating() && m_editor->LornTranslateValue(m_object, m_index, translated, true))
         m_shownBytes = std::move(translated);
@@ -108,7 +108,7 @@ QString ValueEntry::Text() {
 
 QString ValueEntry::Take(const QString& Typed) {
     try {
-        return m_ofName ? TakeName(Typed) : TakeValue(Typed);
+        return m_objects ? TakeName(Typed) : TakeValue(Typed);
     } catch (const std::exception&) {
         return wrongType(m_type);
     }
@@ -124,9 +124,10 @@ QString ValueEntry::TakeName(const QString& Typed) {
         entered.Refusal = signRefusal(entered.Bytes, AllowSlash);
     if (!entered.Refusal.isEmpty())
         return entered.Refusal;
-    const bool used = std::any_of(m_objects.begin(), m_objects.end(), [&](const RecordPtr& other) {
-        return other != m_object && lornfd::equalNoCase(other->ObjectName(), entered.Bytes);
-    });
+    const bool used =
+        std::any_of(m_objects->begin(), m_objects->end(), [&](const RecordPtr& other) {
+            return other != m_object && lornfd::equalNoCase(other->ObjectName(), entered.Bytes);
+        });
     if (used)
         return tr("This object ID is already used.");
     if (Typed != m_shown)

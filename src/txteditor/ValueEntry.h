@@ -6,7 +6,7 @@
 #include "ui/TextCodec.h"
 
 #include <functional>
-#include <span>
+#include <vector>
 
 /// A text that was typed for a file, in the file's encoding, or why it cannot stand there.
 struct EnteredText {
@@ -27,8 +27,9 @@ public:
     /// Of a field; the panel may be missing. Throws what the panel throws, and KeshError for an
     /// index outside the record.
     ValueEntry(ObjectEditor* Editor, RecordPtr Object, std::int32_t Index);
-    /// Of the record's ID; no other of `Objects` may have it.
-    ValueEntry(RecordPtr Object, std::span<const RecordPtr> Objects);
+    /// Of the record's ID; no other of `Objects` may have it, as they are when it is taken. They
+    /// live as long as the entry.
+    ValueEntry(RecordPtr Object, const std::vector<RecordPtr>& Objects);
 
     bool AllowSlash = false; ///< lets a value hold "/"
     std::function<TextEncoding()> FileEncoding;
@@ -56,8 +57,7 @@ private:
 
     ObjectEditor* m_editor = nullptr;
     RecordPtr m_object;
-    std::span<const RecordPtr> m_objects;
-    bool m_ofName = false;
+    const std::vector<RecordPtr>* m_objects = nullptr; ///< of an ID
     std::int32_t m_index = 0;
     std::int32_t m_class = translation::None;
     std::int32_t m_type = valuetype::String;

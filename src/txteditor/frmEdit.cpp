@@ -103,7 +103,7 @@ void frmEdit::ShowText() {
     m_value->lineEdit()->selectAll();
 }
 
-void frmEdit::ShowName(const RecordPtr& Object, std::span<const RecordPtr> Objects) {
+void frmEdit::ShowName(const RecordPtr& Object, const std::vector<RecordPtr>& Objects) {
     m_entry.emplace(Object, Objects);
     m_modalResult = resultCancel;
     m_translated->setVisible(false);

@@ -19,7 +19,7 @@ public:
     /// Edits a field, modally; the panel may be missing.
     void ShowProperty(ObjectEditor* Editor, const RecordPtr& Object, std::int32_t Index);
     /// Edits the record's ID, modally; no other of `Objects` may have it.
-    void ShowName(const RecordPtr& Object, std::span<const RecordPtr> Objects);
+    void ShowName(const RecordPtr& Object, const std::vector<RecordPtr>& Objects);
 
 private:
     void BuildControls();

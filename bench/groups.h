@@ -21,6 +21,7 @@ std::vector<Row> catalogRows(const Options& options);
 std::vector<Row> viewRows(const Options& options);
 std::vector<Row> listRows(const Options& options);
 std::vector<Row> shipRows(const Options& options);
+std::vector<Row> shipPanelRows(const Options& options);
 std::vector<Row> textRows(const Options& options);
 std::vector<Row> checkRows(const Options& options);
 std::vector<Row> windowRows(const Options& options);

@@ -18,7 +18,7 @@
 namespace {
 
 using Group = std::pair<const char*, std::vector<bench::Row> (*)(const bench::Options&)>;
-constexpr std::array<Group, 10> groups = {{
+constexpr std::array<Group, 11> groups = {{
     {"load", bench::loadRows},
     {"packed", bench::packedRows},
     {"save", bench::saveRows},
@@ -26,6 +26,7 @@ constexpr std::array<Group, 10> groups = {{
     {"view", bench::viewRows},
     {"list", bench::listRows},
     {"ships", bench::shipRows},
+    {"shippanel", bench::shipPanelRows},
     {"texts", bench::textRows},
     {"check", bench::checkRows},
     {"windows", bench::windowRows},
@@ -75,9 +76,9 @@ int main(int argc, char** argv) {
         ->check(CLI::Range(1, 10000000));
     app.add_option("--rounds", options.rounds, "Rounds of which the best counts")
         ->check(CLI::Range(1, 100));
-    app.add_option(
-        "--only", only,
-        "One group: load, packed, save, catalog, view, list, ships, texts, check, windows");
+    app.add_option("--only", only,
+                   "One group: load, packed, save, catalog, view, list, ships, shippanel, texts, "
+                   "check, windows");
     app.add_option("--place", place,
                    "Directory on the disk to measure; a temporary one is made there");
     app.add_option("--write", page, "Also write the page with date, machine and table here");

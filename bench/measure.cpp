@@ -57,6 +57,13 @@ Row withinRow(std::string work, std::string reference, const Times& times, doubl
             ratio <= factor};
 }
 
+Row limitRow(std::string work, std::string what, double seconds, double limit) {
+    return {std::move(work),    std::move(what),
+            spellTime(seconds), "-",
+            seconds / limit,    "at most " + spellTime(limit),
+            seconds <= limit};
+}
+
 Row besides(Row row) {
     row.work = "(the same)";
     row.asked = "-";

@@ -20,14 +20,19 @@ void keep(const Value& value) {
     asm volatile("" : : "g"(&value) : "memory");
 }
 
+using Clock = std::chrono::steady_clock;
+
+inline double secondsSince(Clock::time_point start) {
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
 /// Seconds that `work` takes; what it returns is destroyed after the clock has stopped.
 template <class Work>
 double secondsOf(Work&& work) {
-    using Clock = std::chrono::steady_clock;
     const auto start = Clock::now();
     const auto kept = work();
     keep(kept);
-    return std::chrono::duration<double>(Clock::now() - start).count();
+    return secondsSince(start);
 }
 
 /// Runs both in turns and keeps the best time of each: what else the machine does hits both alike.
@@ -55,6 +60,8 @@ struct Row {
 Row fasterRow(std::string work, std::string reference, const Times& times, double factor);
 /// At most `factor` times the time: the ratio is our time over the reference's.
 Row withinRow(std::string work, std::string reference, const Times& times, double factor);
+/// At most so many seconds; `what` tells which of several times is taken.
+Row limitRow(std::string work, std::string what, double seconds, double limit);
 /// A further reference for the row above, of which nothing is asked.
 Row besides(Row row);
 

@@ -3,15 +3,12 @@
 #include "app/frmFiles.h"
 #include "bench/groups.h"
 #include "bench/plainread.h"
+#include "bench/program.h"
 #include "bench/tfile.h"
-#include "core/clsSettings.h"
-#include "core/mdlCommon.h"
 #include "files/frmCATDialog.h"
 #include "keshvfs/keshvfs.h"
 #include "sample/samplegame.h"
-#include "tdata/clsArchive.h"
 #include "tests/txteditor/fakepanel.h"
-#include "textres/clsDescServer.h"
 #include "txteditor/RecordListModel.h"
 #include "txteditor/frmTXTEditor.h"
 
@@ -23,14 +20,10 @@ namespace bench {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 constexpr double mostBlocked = 0.1; // seconds
 constexpr double mostBlockedByPaste = 1;
+constexpr auto unanswered = "longest time without an answer";
 constexpr int pasted = 20000;
-
-double secondsSince(Clock::time_point start) {
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
 
 struct Step {
     double total = 0;   ///< until it is done and painted
@@ -70,21 +63,6 @@ Step run(const std::function<void()>& work, const std::function<bool()>& done) {
 Step run(const std::function<void()>& work) {
     return run(work, [] { return true; });
 }
-
-/// Puts what is pasted at the end, and says yes to all else.
-class Agreeing : public UserInterface {
-public:
-    Answer ShowMessage(QWidget*, const MessageRequest& request) override {
-        return request.Buttons == BoxButtons::Ok ? Answer::Ok : Answer::No;
-    }
-    std::optional<FileChoice> ShowOpen(QWidget*, const FileRequest&) override { return {}; }
-    std::optional<FileChoice> ShowSave(QWidget*, const FileRequest&) override { return {}; }
-    std::optional<QString> PickDirectory(QWidget*, const QString&, const QString&) override {
-        return {};
-    }
-    bool RunProgram(const QString&, const QStringList&) override { return false; }
-    bool OpenUrl(const QUrl&) override { return false; }
-};
 
 class Panel : public FakePanel {
 public:
@@ -184,15 +162,10 @@ struct Both {
     }
 };
 
-Row limitRow(std::string work, double seconds, double limit) {
-    return {std::move(work), "longest time without an answer", spellTime(seconds), "-",
-            seconds / limit, "at most " + spellTime(limit),    seconds <= limit};
-}
-
 void addRows(std::vector<Row>& rows, const std::string& work, const Both& both) {
     rows.push_back(
         withinRow(work, "bare QSortFilterProxyModel with the same texts", both.times, 3));
-    rows.push_back(limitRow("(the same)", both.blocked, mostBlocked));
+    rows.push_back(limitRow("(the same)", unanswered, both.blocked, mostBlocked));
 }
 
 void editorRows(const Options& options, std::vector<Row>& rows) {
@@ -219,8 +192,8 @@ void editorRows(const Options& options, std::vector<Row>& rows) {
     addRows(rows, "filtering it by a first letter", filter);
     addRows(rows, "filtering it by a second letter", more);
     addRows(rows, "switching the name view", names);
-    rows.push_back(
-        limitRow("pasting 20,000 records", subject.PasteMany().blocked, mostBlockedByPaste));
+    rows.push_back(limitRow("pasting 20,000 records", unanswered, subject.PasteMany().blocked,
+                            mostBlockedByPaste));
 }
 
 /// Takes the time until a view of that name was painted with rows, and closes its window.
@@ -354,20 +327,11 @@ Row filesRow(const Options& options) {
 } // namespace
 
 std::vector<Row> windowRows(const Options& options) {
-    qputenv("KESH_CONFIG_DIR", QByteArray::fromStdString(options.directory.string()));
-    qputenv("KESH_STATE_DIR", QByteArray::fromStdString(options.directory.string()));
-    InitArrays();
-    Settings = std::make_unique<clsSettings>();
-    DescServer = std::make_unique<clsDescServer>();
-    Archive = std::make_unique<clsArchive>();
-    const auto former = SetUserInterface(std::make_unique<Agreeing>());
+    const Program program(options);
     std::vector<Row> rows;
     editorRows(options, rows);
     rows.push_back(catalogRow(options));
     rows.push_back(filesRow(options));
-    Archive.reset();
-    DescServer.reset();
-    Settings.reset();
     return rows;
 }
 

@@ -56,6 +56,12 @@ std::string EntryPart(std::string_view Path) {
     return sign == Path.npos ? std::string() : std::string(Path.substr(sign + EntrySign.size()));
 }
 
+std::string NameOfFile(std::string_view Path) {
+    if (IsVFSPath(Path))
+        return BaseName(StripVFS(Path), false);
+    return BaseName(IsCatalogPath(Path) ? EntryPart(Path) : std::string(Path), false);
+}
+
 std::string SplitCatalogPath(std::string_view Path, std::string& Catalog) {
     if (!IsCatalogPath(Path))
         return std::string(Path);

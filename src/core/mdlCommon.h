@@ -25,6 +25,8 @@
 /// The entry, and Catalog gets the catalog part; a path without "::" comes back whole, Catalog as
 /// it was.
 std::string SplitCatalogPath(std::string_view Path, std::string& Catalog);
+/// The name of a file under any form of path, without its directories.
+[[nodiscard]] std::string NameOfFile(std::string_view Path);
 /// Every "/" as "\", but for those of a leading "vfs://".
 [[nodiscard]] std::string WithBackslashes(std::string_view Path);
 

@@ -6,6 +6,7 @@
 #include "lornfd/paths.h"
 
 #include <algorithm>
+#include <filesystem>
 
 std::string FromPlatform(std::string_view Path) {
     return WithBackslashes(Path);
@@ -26,6 +27,13 @@ std::optional<std::string> FindInVFS(std::string_view NameInView) {
 
 std::optional<std::string> RealPath(std::string_view Path) {
     return IsVFSPath(Path) ? FindInVFS(Path) : std::optional<std::string>(Path);
+}
+
+bool SamePlace(std::string_view A, std::string_view B) {
+    std::error_code missing;
+    return lornfd::equalNoCase(EntryPart(A), EntryPart(B)) &&
+           std::filesystem::equivalent(lornfd::resolvePath(CatalogPart(A)),
+                                       lornfd::resolvePath(CatalogPart(B)), missing);
 }
 
 std::string BuildCatalogPath(std::string_view Entry, std::string_view Catalog) {

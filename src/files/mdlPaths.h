@@ -16,6 +16,8 @@
 [[nodiscard]] std::optional<std::string> FindInVFS(std::string_view NameInView);
 /// Plain and catalog paths as they are, "vfs://" paths found in the view; none if nowhere.
 [[nodiscard]] std::optional<std::string> RealPath(std::string_view Path);
+/// Whether two plain or catalog paths lead to one file, which is there.
+[[nodiscard]] bool SamePlace(std::string_view A, std::string_view B);
 
 /// "Catalog::Entry"; in the merged view, the catalog "vfs://", "vfs://Entry".
 [[nodiscard]] std::string BuildCatalogPath(std::string_view Entry, std::string_view Catalog);

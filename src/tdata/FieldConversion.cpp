@@ -16,11 +16,6 @@ bool Reaches(const clsTXTObject& record, std::int32_t index) {
     return index >= 0 && index < record.size();
 }
 
-std::string_view Trimmed(std::string_view text) {
-    const auto* const first = std::find_if_not(text.begin(), text.end(), keshobjects::isBlank);
-    return keshobjects::trimEnd({first, text.end()});
-}
-
 template <typename Float, typename... Form>
 double ThroughText(Float number, Form... form) {
     std::array<char, 64> spelling{};
@@ -96,8 +91,13 @@ std::string SpellingAt(const clsTXTObject& Record, std::int32_t Index) {
     return Reaches(Record, Index) ? std::string(Record.ValueText(Index)) : std::string();
 }
 
+std::string_view TrimmedValue(std::string_view Text) {
+    const auto* const first = std::find_if_not(Text.begin(), Text.end(), keshobjects::isBlank);
+    return keshobjects::trimEnd({first, Text.end()});
+}
+
 std::optional<double> EnteredNumber(std::string_view Text) {
-    return keshobjects::readNumber(Trimmed(Text));
+    return keshobjects::readNumber(TrimmedValue(Text));
 }
 
 std::optional<KeshValue> WholeValue(double Number) {
@@ -129,7 +129,7 @@ std::optional<std::string> ShowChoice(const StoredField& Field, bool) {
 }
 
 std::optional<KeshValue> ReadNumber(const StoredField&, std::string_view Text) {
-    return EnteredNumber(Text) ? std::optional(keshobjects::readValue(Trimmed(Text)))
+    return EnteredNumber(Text) ? std::optional(keshobjects::readValue(TrimmedValue(Text)))
                                : std::nullopt;
 }
 
@@ -141,7 +141,7 @@ std::optional<KeshValue> ReadRounded(const StoredField&, std::string_view Text) 
 std::optional<KeshValue> ReadChoice(const StoredField& Field, std::string_view Text) {
     if (auto row = ReadRow(Field, Text))
         return row;
-    const std::string_view entered = Trimmed(Text);
+    const std::string_view entered = TrimmedValue(Text);
     if (const auto position = keshobjects::readInteger(entered))
         return *position;
     return Field.Choices->FreeText && !entered.empty()

@@ -55,6 +55,9 @@ struct FieldConversion {
 [[nodiscard]] const FieldConversion* FindConversion(std::span<const FieldConversion> Rows,
                                                     const clsTXTObject& Record, std::int32_t Index);
 
+/// Without the blanks around it, which are no part of a value.
+[[nodiscard]] std::string_view TrimmedValue(std::string_view Text);
+
 // Numbers
 /// A value that is or spells a number; nothing for any other and outside the record.
 [[nodiscard]] std::optional<double> NumberAt(const clsTXTObject& Record, std::int32_t Index);

@@ -93,13 +93,6 @@ private:
     bool m_good = true;
 };
 
-/// The name of a file of any form of path, without its directories.
-std::string NameOfFile(const std::string& path) {
-    if (IsVFSPath(path))
-        return BaseName(StripVFS(path), false);
-    return BaseName(IsCatalogPath(path) ? EntryPart(path) : path, false);
-}
-
 void WriteHeader(Output& out, const std::string& fileName) {
     out.Text("TShips file " + NameOfFile(fileName) + " - generated with " + ProgramTitle() + " " +
              ProgramVersion());

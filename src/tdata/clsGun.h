@@ -21,7 +21,7 @@ public:
 
     [[nodiscard]] clsGunGroup& Group() const noexcept { return *m_group; }
     [[nodiscard]] std::int32_t Id() const noexcept { return m_id; }
-    [[nodiscard]] std::string key() const { return "k" + std::to_string(m_id); }
+    [[nodiscard]] std::string key() const { return std::to_string(m_id).insert(0, 1, 'k'); }
     /// Of the first value, in the record.
     [[nodiscard]] std::int32_t Offset() const noexcept { return m_offset; }
     void SetOffset(std::int32_t offset) noexcept { m_offset = offset; }

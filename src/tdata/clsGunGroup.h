@@ -23,7 +23,7 @@ public:
 
     [[nodiscard]] clsShip& Ship() const noexcept { return *m_ship; }
     [[nodiscard]] std::int32_t Id() const noexcept { return m_id; }
-    [[nodiscard]] std::string key() const { return "k" + std::to_string(m_id); }
+    [[nodiscard]] std::string key() const { return std::to_string(m_id).insert(0, 1, 'k'); }
     /// Of the first head value, in the record.
     [[nodiscard]] std::int32_t Offset() const noexcept { return m_offset; }
     /// In data order.

@@ -29,7 +29,7 @@ std::string clsTXTObject::GSubType() const {
 }
 
 std::string clsTXTObject::key() const {
-    return "k" + std::to_string(ID);
+    return std::to_string(ID).insert(0, 1, 'k');
 }
 
 std::string_view clsTXTObject::ObjectName() const {

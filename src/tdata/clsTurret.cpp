@@ -75,6 +75,11 @@ bool clsTurret::HasDescriptor() const {
     return IsTurret() && number >= 2 && number < 2 + clsShip::MaxTurrets;
 }
 
+std::optional<std::int32_t> clsTurret::Type() const {
+    const auto number = keshobjects::readNumber(keshobjects::spellValue(DescriptorValue(0)));
+    return number ? keshobjects::roundToInteger(*number) : std::nullopt;
+}
+
 std::int32_t clsTurret::Position() const {
     return HasDescriptor() ? m_ship->Integer(PairOffset(1)) : 0;
 }

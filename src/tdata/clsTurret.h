@@ -5,6 +5,7 @@
 #include "keshobjects/value.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,7 +24,7 @@ public:
 
     [[nodiscard]] clsShip& Ship() const noexcept { return *m_ship; }
     [[nodiscard]] std::int32_t Id() const noexcept { return m_id; }
-    [[nodiscard]] std::string key() const { return "k" + std::to_string(m_id); }
+    [[nodiscard]] std::string key() const { return std::to_string(m_id).insert(0, 1, 'k'); }
     /// Of the first value, in the record.
     [[nodiscard]] std::int32_t Offset() const noexcept { return m_offset; }
 
@@ -48,6 +49,9 @@ public:
     [[nodiscard]] std::int32_t DescriptorOffset() const;
     /// A turret proper whose index has its place among the ship's pairs.
     [[nodiscard]] bool HasDescriptor() const;
+    /// Descriptor value 0, rounded; nothing for a text or beyond 32 bits. Throws as
+    /// DescriptorValue.
+    [[nodiscard]] std::optional<std::int32_t> Type() const;
     [[nodiscard]] std::int32_t Position() const; ///< 0 for the front cockpit
     /// "front cockpit", the side, or its bare number.
     [[nodiscard]] std::string PositionName() const;

@@ -26,6 +26,11 @@ std::string TextOf(const clsTXTObject& record) {
     return text ? *text : std::string(record.ObjectName());
 }
 
+std::string NameOf(const clsTXTObject* record, std::string_view id) {
+    std::string name = record && record->otype != otype::None ? TextOf(*record) : "";
+    return name.empty() ? std::string(id) : name;
+}
+
 } // namespace
 
 std::span<const std::string_view> MergedWareFiles() {
@@ -49,7 +54,16 @@ std::unique_ptr<clsTxtParser> BuildWareList() {
 }
 
 std::string GetWareName(const clsTxtParser& Parser, const std::string& ID) {
-    const RecordPtr record = Parser.FindID(ID);
-    const std::string name = record && record->otype != otype::None ? TextOf(*record) : "";
-    return name.empty() ? ID : name;
+    return NameOf(Parser.FindID(ID).get(), ID);
+}
+
+WareNames::WareNames(std::unique_ptr<const clsTxtParser> Wares) : m_wares(std::move(Wares)) {
+    m_byName.reserve(m_wares->ByIndex().size());
+    for (const RecordPtr& record : m_wares->ByIndex())
+        m_byName.emplace(record->ObjectName(), record.get());
+}
+
+std::string WareNames::Name(std::string_view ID) const {
+    const auto found = m_byName.find(ID);
+    return NameOf(found == m_byName.end() ? nullptr : found->second, ID);
 }

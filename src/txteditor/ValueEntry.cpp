@@ -3,25 +3,18 @@
 #include "core/mdlComFunctions.h"
 #include "keshobjects/value.h"
 #include "lornfd/paths.h"
+#include "tdata/FieldConversion.h"
 
 #include <algorithm>
 
 namespace {
 
-/// Blanks around a number are no part of it.
-std::optional<double> readTypedNumber(const std::string& text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string::npos)
-        return {};
-    const auto last = text.find_last_not_of(" \t");
-    return keshobjects::readNumber(std::string_view(text).substr(first, last - first + 1));
-}
-
 QString wrongType(std::int32_t type) {
     return QString::fromStdString(ValueErrorText({}, type));
 }
 
-EnteredText encode(const QString& text, const std::function<TextEncoding()>& fileEncoding) {
+EnteredText encode(const QString& text, const std::function<TextEncoding()>& fileEncoding,
+                   bool keepBlanks) {
     auto bytes = FromScreen(text, TextEncoding::Windows1252);
     const bool ascii =
         bytes && std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
@@ -31,7 +24,7 @@ EnteredText encode(const QString& text, const std::function<TextEncoding()>& fil
         return c.isNull() || c == QChar::LineFeed || c == QChar::CarriageReturn;
     });
     if (bytes && !broken)
-        return {std::move(*bytes), {}};
+        return {keepBlanks ? std::move(*bytes) : std::string(TrimmedValue(*bytes)), {}};
     return {{}, ValueEntry::tr("Value holds a character that this file cannot hold.")};
 }
 
@@ -48,7 +41,7 @@ QString signRefusal(std::string_view text, bool allowSlash) {
 
 EnteredText BytesForFile(const QString& Text, const std::function<TextEncoding()>& FileEncoding,
                          bool AllowSlash) {
-    EnteredText entered = encode(Text, FileEncoding);
+    EnteredText entered = encode(Text, FileEncoding, AllowSlash);
     if (entered.Refusal.isEmpty())
         entered.Refusal = signRefusal(entered.Bytes, AllowSlash);
     return entered;
@@ -115,7 +108,14 @@ QString ValueEntry::Take(const QString& Typed) {
 }
 
 EnteredText ValueEntry::Encoded(const QString& Typed) const {
-    return Typed == m_shown ? EnteredText{m_shownBytes, {}} : encode(Typed, FileEncoding);
+    if (Typed == m_shown)
+        return {m_shownBytes, {}};
+    // What a choice says comes from a text that has its own encoding, and never reaches the file.
+    if (m_class == translation::List)
+        for (std::string& choice : m_editor->LornGetPropertyValues(m_object, m_index))
+            if (ToScreen(choice) == Typed)
+                return {std::move(choice), {}};
+    return encode(Typed, FileEncoding, AllowSlash);
 }
 
 QString ValueEntry::TakeName(const QString& Typed) {
@@ -159,7 +159,7 @@ std::optional<KeshValue> ValueEntry::Read(std::string& Text) {
 }
 
 std::optional<KeshValue> ValueEntry::ReadByType(const std::string& Text) const {
-    const auto number = readTypedNumber(Text);
+    const auto number = EnteredNumber(Text);
     if (!m_editor)
         return number ? KeshValue(*number) : KeshValue(Text);
     switch (m_type) {

@@ -13,6 +13,7 @@ struct EnteredText {
     std::string Bytes;
     QString Refusal; ///< empty if it can
 };
+/// Blanks around the text are left out, as the file would. `AllowSlash` keeps both.
 /// `FileEncoding` is asked when the text goes beyond ASCII; without it, it is Windows-1252.
 [[nodiscard]] EnteredText BytesForFile(const QString& Text,
                                        const std::function<TextEncoding()>& FileEncoding,
@@ -31,7 +32,7 @@ public:
     /// live as long as the entry.
     ValueEntry(RecordPtr Object, const std::vector<RecordPtr>& Objects);
 
-    bool AllowSlash = false; ///< lets a value hold "/"
+    bool AllowSlash = false; ///< lets a value hold "/", and blanks at its ends
     std::function<TextEncoding()> FileEncoding;
     bool Translated = false; ///< of a Number: shown and entered with its unit, as at first
 

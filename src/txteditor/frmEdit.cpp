@@ -42,6 +42,7 @@ void frmEdit::BuildControls() {
     m_reason = new QLabel(this);
     m_reason->setObjectName(QStringLiteral("lblReason"));
     m_reason->setWordWrap(true);
+    m_reason->setTextFormat(Qt::PlainText);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnOK"));
@@ -98,7 +99,9 @@ void frmEdit::UpdateValue() {
 }
 
 void frmEdit::ShowText() {
-    m_value->setEditText(m_entry->Text());
+    const QString text = m_entry->Text();
+    m_value->setCurrentIndex(m_value->findText(text)); // where the arrow keys go on from
+    m_value->setEditText(text);
     m_entry->SetShown(m_value->currentText());
     m_value->lineEdit()->selectAll();
 }

@@ -66,6 +66,8 @@ bool frmTXTEditor::MayClose() {
 }
 
 void frmTXTEditor::OpenFile(std::string Name) {
+    if (!FinishEntry())
+        return;
     const Answer answer = AskAboutChanges();
     if (answer == Answer::Yes)
         SaveFile();

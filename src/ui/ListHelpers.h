@@ -44,6 +44,12 @@ inline void AddSortAction(QTreeView& View, const char* Name, const QString& Text
     View.addAction(action);
 }
 
+/// The actions make the view's popup, in the order of the calls.
+inline void OfferInPopup(QWidget& View, const QList<QAction*>& Actions) {
+    View.addActions(Actions);
+    View.setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
 /// A list of many rows: none is measured, none unfolds.
 inline void PrepareRows(QTreeView& View) {
     View.setUniformRowHeights(true);

@@ -50,13 +50,18 @@ TEST_F(WareListTest, MergesCopiesInTheOrderThatListsCount) {
 
 TEST_F(WareListTest, NamesFallBackToTheID) {
     const auto merged = BuildWareList();
-    EXPECT_EQ(GetWareName(*merged, "B1"), "B1"); // no texts
+    const WareNames names(BuildWareList());
+    const auto expectName = [&](const std::string& id, const char* name) {
+        EXPECT_EQ(GetWareName(*merged, id), name);
+        EXPECT_EQ(names.Name(id), name);
+    };
+    expectName("B1", "B1"); // no texts
     const support::GameTexts texts(
         "<page id=\"17\"><string id=\"5\">Wax</string><string id=\"6\"></string></page>");
-    EXPECT_EQ(GetWareName(*merged, "B1"), "Wax");
-    EXPECT_EQ(GetWareName(*merged, "L1"), "Wax");
-    EXPECT_EQ(GetWareName(*merged, "B2"), "B2"); // an empty text
-    EXPECT_EQ(GetWareName(*merged, "T1"), "T1"); // a missing one
-    EXPECT_EQ(GetWareName(*merged, "S1"), "S1"); // no number
-    EXPECT_EQ(GetWareName(*merged, "b1"), "b1"); // no such ware
+    expectName("B1", "Wax");
+    expectName("L1", "Wax");
+    expectName("B2", "B2"); // an empty text
+    expectName("T1", "T1"); // a missing one
+    expectName("S1", "S1"); // no number
+    expectName("b1", "b1"); // no such ware
 }

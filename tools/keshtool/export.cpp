@@ -1,4 +1,5 @@
 #include "commands.h"
+#include "files/mdlPaths.h"
 #include "lornfd/lornfd.h"
 #include "services.h"
 #include "tdata/ShipExport.h"
@@ -10,7 +11,7 @@ ExitCode exportShips(GameView& view, const Arguments& arguments) {
     const std::string to = view.realPath(arguments.paths[1]);
     if (ObjectTypeFromFile(from) != otype::Ships)
         throw tFileFailure(from, "This is no TShips file.");
-    if (from == to)
+    if (SamePlace(from, to))
         throw tFileFailure(to, "The ships would be lost: an export cannot be loaded again.");
     clsTxtParser ships;
     loadTFile(ships, from);

@@ -2,6 +2,7 @@
 
 #include "core/mdlComFunctions.h"
 #include "keshobjects/value.h"
+#include "tdata/FieldConversion.h"
 #include "txteditor/ValueEntry.h"
 #include "ui/CommonBoxes.h"
 #include "ui/ListHelpers.h"
@@ -17,11 +18,6 @@ constexpr int resultCancel = 2;
 constexpr int editWidth = 30;       ///< characters
 constexpr std::int32_t noPath = -1; ///< stands for a number that may be missing
 
-/// Blanks around a number are no part of it.
-std::optional<double> typedNumber(const QString& text) {
-    return keshobjects::readNumber(text.trimmed().toStdString());
-}
-
 } // namespace
 
 EntryDialog::EntryDialog(const QString& Name, const QString& Title, QWidget* Owner)
@@ -29,6 +25,7 @@ EntryDialog::EntryDialog(const QString& Name, const QString& Title, QWidget* Own
     setObjectName(Name);
     m_reason->setObjectName(QStringLiteral("lblReason"));
     m_reason->setWordWrap(true);
+    m_reason->setTextFormat(Qt::PlainText);
     setWindowTitle(Title);
     HelpOnF1(this, "ship.html");
 }
@@ -121,14 +118,14 @@ bool EntryDialog::Typed(const Entry& Of) const {
 }
 
 std::optional<std::int32_t> EntryDialog::WholeNumber(const QString& Text) {
-    const auto number = typedNumber(Text);
+    const auto number = EnteredNumber(Text.toStdString());
     if (!number || !IsWholeNumber(keshobjects::spellNumber(*number)))
         return {};
     return static_cast<std::int32_t>(*number);
 }
 
 bool EntryDialog::IsNumber(const QString& Text) {
-    return typedNumber(Text).has_value();
+    return EnteredNumber(Text.toStdString()).has_value();
 }
 
 void EntryDialog::OnOk() {
@@ -167,9 +164,16 @@ bool EntryDialog::CheckContent(const Entry& Checked) {
     if (!Typed(Checked) || (Checked.What == Holds::Number && text.trimmed().isEmpty()))
         return true;
     if (Checked.What == Holds::Number)
-        return WholeNumber(text) || Refuse(*Checked.Edit, Checked.NotWhole);
+        return CheckNumber(Checked);
     const QString refusal = BytesForFile(text, FileEncoding).Refusal;
     return refusal.isEmpty() || Refuse(*Checked.Edit, refusal);
+}
+
+bool EntryDialog::CheckNumber(const Entry& Checked) {
+    const auto number = WholeNumber(Checked.Edit->text());
+    if (!number)
+        return Refuse(*Checked.Edit, Checked.NotWhole);
+    return *number >= 0 || Checked.Negative.isEmpty() || Refuse(*Checked.Edit, Checked.Negative);
 }
 
 void EntryDialog::SayReason(const QString& Text) {

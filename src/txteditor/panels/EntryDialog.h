@@ -29,6 +29,7 @@ protected:
         Holds What = Holds::Text;
         QString Missing = {};
         QString NotWhole = {}; ///< refuses a number that is none
+        QString Negative = {}; ///< refuses a number below 0
         QString Shown = {};    ///< the text that stands for the present value
     };
 
@@ -73,6 +74,7 @@ private:
     [[nodiscard]] bool CheckAll(bool (EntryDialog::*Check)(const Entry&));
     [[nodiscard]] bool CheckPresence(const Entry& Checked);
     [[nodiscard]] bool CheckContent(const Entry& Checked);
+    [[nodiscard]] bool CheckNumber(const Entry& Checked);
     [[nodiscard]] bool Typed(const Entry& Of) const;
     [[nodiscard]] KeshValue ValueOf(const Entry& Of) const;
 

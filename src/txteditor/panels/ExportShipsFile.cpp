@@ -24,15 +24,30 @@ QString shown(const std::string& path) {
     return QString::fromStdString(ShownPath(path));
 }
 
+QString exportError(std::string_view reason) {
+    return Texts::tr("Error in Export file: ") + ToScreen(reason);
+}
+
+/// An export cannot be loaded again.
+void mayNotBe(const std::string& target, const clsTxtParser& ships) {
+    const auto source = RealPath(ships.FileName);
+    const auto real = RealPath(target);
+    if (source && real && SamePlace(*source, *real))
+        throw KeshError(
+            errnum::General, "ExportShipsFile",
+            Texts::tr("The ships would be lost: an export cannot be loaded again.").toStdString());
+}
+
 /// False if the user does not want to replace a file.
 bool ask(QWidget* owner, const clsTxtParser& ships, LornFileDialog& dialog) {
     dialog.DialogTitle = Texts::tr("Export TShips");
     dialog.Filter =
         Texts::tr("Semicolon delimeted file (*.txt)|*.txt|Record structure (*.txt)|*.txt");
-    dialog.FileName = BaseName(ships.FileName, true) + "_export.txt";
+    dialog.FileName = BaseName(NameOfFile(ships.FileName), true) + "_export.txt";
     dialog.NewEntry = dialog.FileName;
     dialog.Kind = exportKind;
     dialog.ShowSave();
+    mayNotBe(dialog.FileName, ships);
     return OverwriteQuestion(dialog.FileName, shown(dialog.FileName), dialog.DialogTitle, owner);
 }
 
@@ -43,14 +58,17 @@ QString write(const std::string& name, const clsTxtParser& ships, const ShipFiel
     if (file == 0)
         return Texts::tr("Error opening file %1:").arg(shown(name)) + u'\n' +
                ToScreen(LornFDErrorText());
-    std::string error;
-    if (!ExportShips(file, ships, fields, form, error))
+    try {
+        std::string error;
+        if (!ExportShips(file, ships, fields, form, error))
+            LornFD_AbandonFile(file);
+        else if (LornFD_CloseFile(file) == 0)
+            error = LornFDErrorText();
+        return error.empty() ? QString() : exportError(error);
+    } catch (...) {
         LornFD_AbandonFile(file);
-    else if (LornFD_CloseFile(file) == 0)
-        error = LornFDErrorText();
-    else
-        return {};
-    return Texts::tr("Error in Export file: ") + ToScreen(error);
+        throw;
+    }
 }
 
 } // namespace
@@ -69,9 +87,9 @@ bool ExportShipsFile(QWidget* Owner, const clsTxtParser& Ships, const ShipFields
     } catch (const KeshError& error) {
         if (error.Number() == errnum::Cancelled)
             return false;
-        trouble = Texts::tr("Error in Export file: ") + ToScreen(error.what());
+        trouble = exportError(error.what());
     } catch (const std::exception& error) {
-        trouble = Texts::tr("Error in Export file: ") + ToScreen(error.what());
+        trouble = exportError(error.what());
     }
     if (!trouble.isEmpty())
         ShowBox(Owner, title, trouble, BoxIcon::Critical);

@@ -37,7 +37,9 @@ QVariant PropertyModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::UserRole + 1 && row->Field != PropertyRow::Computed)
         return row->Field == PropertyRow::IdField ? QVariant(QStringLiteral("name"))
                                                   : QVariant(row->Field);
-    if (role != Qt::DisplayRole && (role != Qt::ToolTipRole || index.column() != ValueColumn))
+    if (role == Qt::ToolTipRole && index.column() == ValueColumn)
+        return Qt::convertFromPlainText(row->Value);
+    if (role != Qt::DisplayRole)
         return {};
     switch (index.column()) {
     case 0:

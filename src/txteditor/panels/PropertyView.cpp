@@ -15,6 +15,7 @@ QLineEdit* lineOf(QWidget* editor) {
 QLineEdit* newLine(QWidget* parent) {
     auto* line = new QLineEdit(parent);
     line->setFrame(false);
+    line->setMaxLength(std::numeric_limits<int>::max());
     return line;
 }
 
@@ -24,6 +25,7 @@ QComboBox* newCombo(const QStringList& choices, QWidget* parent) {
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setCompleter(nullptr); // it would change what is typed
     combo->addItems(choices);
+    combo->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     return combo;
 }
 
@@ -70,7 +72,10 @@ PropertyView::PropertyView(const char* Name, RecordPanel& Editor, QWidget* Paren
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(PropertyModel::ValueColumn, QHeaderView::Stretch);
     connect(m_model, &QAbstractItemModel::modelReset, this, [this] { m_entry.reset(); });
-    connect(this, &QTreeView::doubleClicked, this, &PropertyView::EditRow);
+    connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+        edit(index, DoubleClicked, nullptr); // ends the wait for the entry that one click begins
+        EditRow();
+    });
 }
 
 QWidget* PropertyView::OpenEntry(QWidget* Parent, const QModelIndex& Index) {
@@ -96,7 +101,10 @@ void PropertyView::ShowEntry(QWidget* Editor) {
     if (!m_entry || Editor != m_editor || line->isModified())
         return;
     m_panel.HandleKey([&] {
-        line->setText(m_entry->Text());
+        const QString text = m_entry->Text();
+        if (auto* combo = qobject_cast<QComboBox*>(Editor))
+            combo->setCurrentIndex(combo->findText(text)); // where the arrow keys go on from
+        line->setText(text);
         m_entry->SetShown(line->text());
     });
     line->selectAll();
@@ -148,6 +156,14 @@ bool PropertyView::FinishEntry() {
     const bool refused = m_refused;
     closeEditor(editor, QAbstractItemDelegate::NoHint);
     return !refused;
+}
+
+void PropertyView::DropEntry() {
+    const QPointer<QWidget> editor = m_entry ? m_editor : nullptr;
+    m_entry.reset();
+    m_refused = m_taken = false;
+    if (editor)
+        QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
 void PropertyView::EditRow() {

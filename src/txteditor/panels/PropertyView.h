@@ -17,6 +17,8 @@ public:
     /// What is being entered goes into the record; false if it is refused, and stays open.
     [[nodiscard]] bool FinishEntry();
 
+    void DropEntry(); ///< what is being entered is gone
+
     // For the delegate
     /// The editor of a row's value; none if it may not be changed.
     [[nodiscard]] QWidget* OpenEntry(QWidget* Parent, const QModelIndex& Index);

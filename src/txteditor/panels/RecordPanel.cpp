@@ -134,6 +134,13 @@ QList<PropertyRow> RecordPanel::RowsOf(std::span<const std::int32_t> Fields) con
 
 // Entry
 
+void RecordPanel::SetCurrentObject(RecordPtr Object) {
+    if (Object != m_object)
+        for (PropertyView* view : findChildren<PropertyView*>())
+            view->DropEntry();
+    m_object = std::move(Object);
+}
+
 bool RecordPanel::MayEdit(std::int32_t Field) {
     Q_UNUSED(Field);
     return true;

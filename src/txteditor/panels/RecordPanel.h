@@ -60,8 +60,8 @@ public:
 protected:
     [[nodiscard]] const clsTxtParser* Parser() const noexcept { return m_parser; }
     [[nodiscard]] const RecordPtr& CurrentObject() const noexcept { return m_object; }
-    void SetCurrentObject(RecordPtr Object) { m_object = std::move(Object); }
-    bool SetLastError(std::string Text); ///< gives false
+    void SetCurrentObject(RecordPtr Object); ///< an entry of another record is given up
+    bool SetLastError(std::string Text);     ///< gives false
 
     /// Rows of fields, as far as the record has them.
     [[nodiscard]] QList<PropertyRow> RowsOf(std::span<const std::int32_t> Fields) const;

@@ -6,6 +6,7 @@
 #include "txteditor/panels/RecordPanel.h"
 #include "txteditor/panels/TextRows.h"
 #include "txteditor/panels/frmGunEdit.h"
+#include "ui/ListHelpers.h"
 
 #include <algorithm>
 
@@ -121,10 +122,8 @@ void ShipGunTab::SetGunColumns() {
 }
 
 void ShipGunTab::OfferActions(const QList<QAction*>& Actions) {
-    for (TextRowsView* view : {m_groups, m_guns}) {
-        view->addActions(Actions);
-        view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    }
+    for (TextRowsView* view : {m_groups, m_guns})
+        OfferInPopup(*view, Actions);
 }
 
 void ShipGunTab::Show(std::shared_ptr<clsShip> Ship) {
@@ -134,6 +133,7 @@ void ShipGunTab::Show(std::shared_ptr<clsShip> Ship) {
     try {
         FillGroups();
     } catch (const std::exception&) {
+        m_groups->SetRows({}); // not those of another ship
         m_panel.Say(tr("Error loading ship data."), BoxIcon::Critical);
     }
     FillGuns();

@@ -7,6 +7,7 @@
 #include "txteditor/panels/TextRows.h"
 #include "txteditor/panels/TurretPlan.h"
 #include "txteditor/panels/frmTurretEdit.h"
+#include "ui/ListHelpers.h"
 
 #include <algorithm>
 
@@ -52,12 +53,18 @@ int placeOf(const clsTurret& turret) {
     return position == 0 ? nowhere : position;
 }
 
-/// Of all groups of the turret.
-int gunsOf(const clsShip& ship, const clsTurret& turret) {
-    int guns = 0;
+/// A group whose count is no number has none.
+int gunsOf(const clsGunGroup& group) try {
+    return std::clamp(group.PseudoGunCount(), 0, 1'000'000);
+} catch (const KeshError&) {
+    return 0;
+}
+
+/// Of all groups of each turret.
+QHash<const clsTurret*, int> gunsByTurret(const clsShip& ship) {
+    QHash<const clsTurret*, int> guns;
     for (const auto& group : ship.GunGroups())
-        if (group->turret().get() == &turret)
-            guns += std::clamp(group->PseudoGunCount(), 0, 1'000'000);
+        guns[group->turret().get()] += gunsOf(*group);
     return guns;
 }
 
@@ -68,16 +75,33 @@ QLabel* label(const char* name, const QString& text, QWidget* buddy, QWidget* pa
     return made;
 }
 
+/// A place for a label whose text changes often: in a layout each new text would lay out and paint
+/// the whole window anew.
+class LabelPlace : public QWidget {
+public:
+    LabelPlace(QLabel& label, QWidget* parent) : QWidget(parent), m_label(label) {
+        label.setParent(this);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    }
+    [[nodiscard]] QSize sizeHint() const override { return m_label.sizeHint(); }
+
+protected:
+    void resizeEvent(QResizeEvent*) override { m_label.setGeometry(rect()); }
+
+private:
+    QLabel& m_label;
+};
+
 } // namespace
 
 ShipTurretTab::ShipTurretTab(RecordPanel& Panel, const clsCockpitParser& Cockpits)
     : QWidget(&Panel), m_panel(Panel), m_cockpits(Cockpits) {
     BuildControls();
-    connect(m_turrets, &TextRowsView::Selected, this, &ShipTurretTab::ShowCockpit);
     const auto on = [this](auto signal, void (ShipTurretTab::*work)()) {
         connect(m_turrets, signal, this,
                 [this, work] { m_panel.HandleKey([&] { (this->*work)(); }); });
     };
+    on(&TextRowsView::Selected, &ShipTurretTab::ShowCockpit);
     on(&TextRowsView::Entered, &ShipTurretTab::EditTurret);
     on(&TextRowsView::AddAsked, &ShipTurretTab::AddTurret);
     on(&TextRowsView::RemoveAsked, &ShipTurretTab::RemoveTurret);
@@ -87,7 +111,7 @@ ShipTurretTab::ShipTurretTab(RecordPanel& Panel, const clsCockpitParser& Cockpit
 void ShipTurretTab::BuildControls() {
     m_plan = new TurretPlan(this);
     m_descriptors = label("lblTData", {}, nullptr, this);
-    m_descriptors->setWordWrap(true);
+    m_descriptors->setTextFormat(Qt::PlainText);
     m_descriptors->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_descriptors->setFocusPolicy(Qt::NoFocus);
     auto* upper = new QHBoxLayout;
@@ -96,7 +120,7 @@ void ShipTurretTab::BuildControls() {
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(upper, 3);
     rows->addWidget(BuildCockpits(), 1);
-    rows->addWidget(m_descriptors);
+    rows->addWidget(new LabelPlace(*m_descriptors, this));
 }
 
 QWidget* ShipTurretTab::BuildLists() {
@@ -129,8 +153,7 @@ QWidget* ShipTurretTab::BuildCockpits() {
 }
 
 void ShipTurretTab::OfferActions(const QList<QAction*>& Actions) {
-    m_turrets->addActions(Actions);
-    m_turrets->setContextMenuPolicy(Qt::ActionsContextMenu);
+    OfferInPopup(*m_turrets, Actions);
 }
 
 void ShipTurretTab::Show(std::shared_ptr<clsShip> Ship) {
@@ -141,6 +164,8 @@ void ShipTurretTab::Show(std::shared_ptr<clsShip> Ship) {
         FillTurrets();
         FillPlan();
     } catch (const std::exception& failure) {
+        m_turrets->SetRows({}); // not those of another ship
+        m_plan->SetTurrets({});
         m_panel.Say(tr("ucShip->ShowTurrets: Error while displaying turret data: ") + u'\n' +
                         ToScreen(failure.what()),
                     BoxIcon::Critical);
@@ -158,14 +183,15 @@ void ShipTurretTab::FillTurrets() {
 }
 
 void ShipTurretTab::FillPlan() {
+    if (!m_ship)
+        return m_plan->SetTurrets({});
+    const auto guns = gunsByTurret(*m_ship);
     QList<PlanTurret> turrets;
-    if (m_ship)
-        for (const auto& turret : m_ship->Turrets())
-            turrets.append(
-                {key(*turret), placeOf(*turret), gunsOf(*m_ship, *turret),
-                 tr("%1: %2, %3")
-                     .arg(turret->index())
-                     .arg(ToScreen(turret->PositionName()), ToScreen(turret->BodyID()))});
+    for (const auto& turret : m_ship->Turrets())
+        turrets.append({key(*turret), placeOf(*turret), guns.value(turret.get()),
+                        tr("%1: %2, %3")
+                            .arg(turret->index())
+                            .arg(ToScreen(turret->PositionName()), ToScreen(turret->BodyID()))});
     m_plan->SetTurrets(turrets);
 }
 
@@ -176,6 +202,7 @@ void ShipTurretTab::ShowDescriptors() {
     for (std::int32_t i = clsShip::SectionDescriptors; i < std::min(end, size); ++i)
         text += ToScreen(m_ship->Object->ValueText(i)) + u';';
     m_descriptors->setText(text);
+    m_descriptors->setToolTip(Qt::convertFromPlainText(text)); // it may be cut at the window's edge
 }
 
 void ShipTurretTab::ShowCockpit() {
@@ -184,7 +211,7 @@ void ShipTurretTab::ShowCockpit() {
     QList<TextRow> rows;
     if (turret && turret->HasDescriptor()) {
         const std::string type = keshobjects::spellValue(turret->DescriptorValue(typeValue));
-        const auto index = keshobjects::readInteger(type);
+        const auto index = turret->Type();
         const auto cockpit = index ? m_cockpits.FindIndex(*index) : nullptr;
         rows.append({QString::fromStdString(cockpit ? cockpit->key() : "?"),
                      {ToScreen(type), cockpit ? ToScreen(cockpit->Object->ObjectName())

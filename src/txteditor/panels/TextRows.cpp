@@ -31,8 +31,9 @@ QVariant TextRowsModel::data(const QModelIndex& index, int role) const {
     const TextRow& row = m_rows.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return row.Cells.value(index.column());
+    case Qt::ToolTipRole:
+        return Qt::convertFromPlainText(row.Cells.value(index.column()));
     case Qt::UserRole:
         return row.Key;
     case Qt::UserRole + 1:

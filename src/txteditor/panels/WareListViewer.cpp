@@ -1,7 +1,6 @@
 #include "txteditor/panels/WareListViewer.h"
 
 #include "tdata/clsArchive.h"
-#include "tdata/mdlWareList.h"
 #include "ui/TextCodec.h"
 
 #include <algorithm>
@@ -18,13 +17,13 @@ constexpr int measuredRows = 10000;
 
 using Widths = std::array<int, 2>;
 
-QList<TextRow> rowsOf(const clsTxtParser& merged, const clsTXTObject& record) {
+QList<TextRow> rowsOf(const WareNames& names, const clsTXTObject& record) {
     QList<TextRow> rows;
     rows.reserve(record.size());
     for (std::int32_t field = 0; field < record.size(); ++field) {
-        const std::string id(record.ValueText(field));
+        const std::string_view id = record.ValueText(field);
         const QString shown = ToScreen(id);
-        rows.append({shown, {ToScreen(GetWareName(merged, id)), shown}});
+        rows.append({shown, {ToScreen(names.Name(id)), shown}});
     }
     return rows;
 }
@@ -58,13 +57,13 @@ void showNotFound(TextRowsView& view, const QString& id) {
 
 } // namespace
 
-void FillWareList(TextRowsView& View, const clsTxtParser* Merged, const clsTXTObject* Record,
+void FillWareList(TextRowsView& View, const WareNames* Names, const clsTXTObject* Record,
                   const QString& ID) {
-    if (!Merged || !Record) {
+    if (!Names || !Record) {
         showNotFound(View, ID);
         return;
     }
-    QList<TextRow> rows = rowsOf(*Merged, *Record);
+    QList<TextRow> rows = rowsOf(*Names, *Record);
     const Widths widths = textWidths(rows, View.fontMetrics());
     setColumns(View, {WareListViewer::tr("Name"), WareListViewer::tr("ID")});
     View.SetRows(std::move(rows));
@@ -83,21 +82,22 @@ WareListViewer::WareListViewer(QWidget* Parent, const char* ViewName)
 }
 
 void WareListViewer::Init() {
-    if (m_merged)
+    if (m_names)
         return;
-    m_merged = BuildWareList();
+    m_names = std::make_unique<WareNames>(BuildWareList());
     if (Archive)
         m_lists = Archive->GetFile("WareLists");
 }
 
-void WareListViewer::ShowWareList(std::int32_t ID) {
+void WareListViewer::ShowWareList(std::int32_t ID, const QString& Spelling) {
     Init();
     const RecordPtr record = m_lists ? m_lists->FindIndex(ID) : nullptr;
-    FillWareList(*m_view, m_merged.get(), record.get(), QString::number(ID));
+    FillWareList(*m_view, m_names.get(), record.get(),
+                 Spelling.isEmpty() ? QString::number(ID) : Spelling);
 }
 
 void WareListViewer::Clear() {
-    m_view->SetRows({});
+    m_view->SetColumns({}, {});
 }
 
 // The list itself tells only of rows, and there may be none.

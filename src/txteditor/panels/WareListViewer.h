@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tdata/clsTxtParser.h"
+#include "tdata/mdlWareList.h"
 #include "txteditor/panels/TextRows.h"
 
 #include <QtWidgets>
@@ -10,9 +11,9 @@
 #include <memory>
 
 /// Shows the wares of a record of WareLists in columns "Name" and "ID", which are as wide as the
-/// texts of the first rows need. Without the record or the merged wares one column says that the
+/// texts of the first rows need. Without the record or the names one column says that the
 /// list of that ID is not found.
-void FillWareList(TextRowsView& View, const clsTxtParser* Merged, const clsTXTObject* Record,
+void FillWareList(TextRowsView& View, const WareNames* Names, const clsTXTObject* Record,
                   const QString& ID);
 
 /// A part of a panel that shows the ware list of an ID.
@@ -25,7 +26,8 @@ public:
     /// Gets the wares and WareLists, the first time only; ShowWareList does it where it was not
     /// done.
     void Init();
-    void ShowWareList(std::int32_t ID);
+    /// `Spelling` is what the ID is told as where there is no such list.
+    void ShowWareList(std::int32_t ID, const QString& Spelling = {});
     void Clear();
 
 Q_SIGNALS:
@@ -36,6 +38,6 @@ protected:
 
 private:
     TextRowsView* m_view;
-    std::unique_ptr<clsTxtParser> m_merged;
+    std::unique_ptr<WareNames> m_names;
     std::shared_ptr<clsTxtParser> m_lists;
 };

@@ -17,13 +17,13 @@ frmGunEdit::frmGunEdit(QWidget* Owner)
         AddEdit(*secondary, QStringLiteral("BodyIdEdit1"), tr("Body ID"), tr("Secondary Body ID"));
     QLineEdit* path2 = AddEdit(*secondary, QStringLiteral("PathIdxEdit1"), tr("Path index"),
                                tr("Secondary Path index"));
-    Finish(
-        {{m_count, 1, Holds::Number, tr("Count not specified"), tr("Count must be whole number")},
-         {body, 2, Holds::Text, tr("Primary Body ID not specified")},
-         {path, 3, Holds::Number, tr("Primary Path index not specified"),
-          tr("Primary Path index must be whole number")},
-         {body2, 4, Holds::Text},
-         {path2, 5, Holds::Number, {}, tr("Secondary Path index must be whole number")}});
+    Finish({{m_count, 1, Holds::Number, tr("Count not specified"), tr("Count must be whole number"),
+             tr("Count cannot be negative")},
+            {body, 2, Holds::Text, tr("Primary Body ID not specified")},
+            {path, 3, Holds::Number, tr("Primary Path index not specified"),
+             tr("Primary Path index must be whole number")},
+            {body2, 4, Holds::Text},
+            {path2, 5, Holds::Number, {}, tr("Secondary Path index must be whole number")}});
 }
 
 void frmGunEdit::ShowGun(clsGun& Gun, clsGunGroup& Group) {

@@ -13,12 +13,6 @@ using keshobjects::spellValue;
 
 constexpr std::int32_t noType = -1;
 
-/// Nothing for a text, and for a number that leaves 32 bits.
-std::optional<std::int32_t> integerOf(const KeshValue& value) {
-    const auto number = keshobjects::readNumber(spellValue(value));
-    return number ? keshobjects::roundToInteger(*number) : std::nullopt;
-}
-
 } // namespace
 
 frmTurretEdit::frmTurretEdit(QWidget* Owner)
@@ -78,9 +72,8 @@ void frmTurretEdit::ShowType() {
     m_type->setCurrentIndex(-1);
     m_type->clearEditText();
     if (m_turret && m_turret->IsTurret()) {
-        const KeshValue type = m_turret->DescriptorValue(0);
-        if (!ComboSelectData(*m_type, integerOf(type).value_or(noType)))
-            m_type->setEditText(ToScreen(spellValue(type)));
+        if (!ComboSelectData(*m_type, m_turret->Type().value_or(noType)))
+            m_type->setEditText(ToScreen(spellValue(m_turret->DescriptorValue(0))));
     }
     m_shownType = m_type->currentText();
     m_shownTypeData = ComboItemData(*m_type);

@@ -166,8 +166,12 @@ void ucShip::ObjectReset(const RecordPtr& Object) {
 }
 
 void ucShip::RestoreObject(const RecordPtr& Object) {
-    m_ships->CreateShip(Object);
+    const auto ship = m_ships->CreateShip(Object);
     static_cast<void>(InitObject(Object));
+    if (!m_ship || m_ship->Object != Object)
+        return;
+    m_ship = ship;
+    RefreshViews();
 }
 
 // Fields
@@ -209,8 +213,10 @@ bool ucShip::MayEdit(std::int32_t Field) {
 }
 
 bool ucShip::FollowEdit(std::int32_t Field) {
-    if (KeepsCounts(Field))
+    if (KeepsCounts(Field)) {
         static_cast<void>(m_ship->LoadObjects()); // the views show what it says now
+        m_filled[Turrets] = m_filled[Guns] = false;
+    }
     if (Field == fieldCargoMax)
         return LetCargoFollow(fieldCargoMax, fieldCargoMin);
     return Field == fieldCargoMin && LetCargoFollow(fieldCargoMin, fieldCargoMax);
@@ -333,7 +339,8 @@ void ucShip::FillWares() {
     if (!has)
         m_wares->Clear();
     else
-        m_wares->ShowWareList(CurrentObject()->ValueInteger(fieldWareList).value_or(-1));
+        m_wares->ShowWareList(CurrentObject()->ValueInteger(fieldWareList).value_or(-1),
+                              m_wareListId->text());
 }
 
 void ucShip::MoveWeapons(const Weapons& Kind, std::uint32_t Mask) {

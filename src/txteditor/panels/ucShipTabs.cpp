@@ -6,6 +6,7 @@
 #include "txteditor/panels/WeaponLists.h"
 #include "txteditor/panels/ucShip.h"
 #include "ui/Icons.h"
+#include "ui/ListHelpers.h"
 
 namespace {
 
@@ -92,6 +93,7 @@ void ucShip::BuildToolbar() {
         action->setToolTip(tr(button.Tip));
         m_actions.append(action);
     }
+    m_toolbar->setMinimumHeight(m_toolbar->sizeHint().height()); // on tabs without a button too
 }
 
 void ucShip::BuildTabs() {
@@ -184,6 +186,8 @@ void ucShip::ConnectActions() {
     for (qsizetype i = 0; i < m_actions.size(); ++i)
         connect(m_actions[i], &QAction::triggered, this,
                 [this, work = works[i]] { HandleKey(work); });
+    for (PropertyView* view : {m_info, m_performance, m_model, m_weaponFields})
+        OfferInPopup(*view, m_actions.mid(0, 3));
     m_turrets->OfferActions(m_actions.mid(3, 2));
     m_guns->OfferActions(m_actions.mid(5, 2));
     connect(m_turrets, &ShipTurretTab::Changed, this, &ucShip::OnShipChanged);

@@ -57,20 +57,14 @@ TEST_F(ShipPanel, WorksWithoutTheGamesFiles) {
 TEST_F(ShipPanel, ComparesAnEnteredIdWithTheRecordsOfThatMoment) {
     startWith("49", {ship("A", {})});
     pick("ObjectView", 0);
-    QAbstractItemView* list = view("InfoView");
-    list->setFocus();
-    list->setCurrentIndex(list->model()->index(0, 0));
-    QTest::keyClick(list, Qt::Key_F2);
-    auto* editor = list->findChild<QWidget*>(QStringLiteral("ValueEditor"));
-    ASSERT_TRUE(editor);
+    beginEntry("InfoView", QStringLiteral("ID"), QStringLiteral("late"));
     auto& parser = const_cast<clsTxtParser&>(window->Parser());
     for (int i = 0; i < 100; ++i) // so that the list of records moves
         parser.CreateObject({})->Construct(65);
     parser.FindIndex(1)->SetObjectName("LATE");
-    QTest::keyClicks(editor, QStringLiteral("late"));
     script.Box(QStringLiteral("already used"));
-    press(editor, Qt::Key_Return);
-    press(editor, Qt::Key_Escape);
+    press(editorIn("InfoView"), Qt::Key_Return);
+    press(editorIn("InfoView"), Qt::Key_Escape);
     EXPECT_EQ(parser.FindIndex(0)->ObjectName(), "A");
 }
 
@@ -98,6 +92,10 @@ TEST_F(ShipPanel, ExportsThroughTheDialog) {
     trigger("export");
     lornfd::setFaultHook({});
     EXPECT_EQ(content(out), records) << "nothing is replaced by half a file";
+
+    script.Save(FileChoice{native("TShips.txt"), 1});
+    script.Box(QStringLiteral("The ships would be lost"));
+    trigger("export");
 }
 
 } // namespace

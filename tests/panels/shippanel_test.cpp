@@ -95,14 +95,13 @@ TEST_F(ShipPanel, TakesTheSameValuesInPlaceAndInTheDialog) {
             if (inPlace) {
                 typeInPlace(c.View, row, QString::fromLatin1(c.Entered));
             } else {
-                view(c.View)->setCurrentIndex(
-                    view(c.View)->model()->index(static_cast<int>(column(c.View).indexOf(row)), 0));
+                selectField(c.View, row);
                 typeValue(QString::fromLatin1(c.Entered));
                 key(c.View, Qt::Key_Return);
             }
             EXPECT_EQ(stored(c.Field), c.Stored);
             if (*c.Said) { // it is still open in its place
-                if (auto* editor = view(c.View)->findChild<QWidget*>(QStringLiteral("ValueEditor")))
+                if (QWidget* editor = editorIn(c.View))
                     press(editor, Qt::Key_Escape);
                 continue;
             }
@@ -226,9 +225,9 @@ TEST_F(ShipPanel, ReadOnlyItChangesNothing) {
     startWith("49", {ship("A", {})});
     panel->SetReadOnly(true);
     pick("ObjectView", 0);
-    view("InfoView")->setCurrentIndex(view("InfoView")->model()->index(1, 0));
+    selectField("InfoView", QStringLiteral("Class"));
     key("InfoView", Qt::Key_F2);
-    EXPECT_FALSE(view("InfoView")->findChild<QWidget*>(QStringLiteral("ValueEditor")));
+    EXPECT_FALSE(editorIn("InfoView"));
     key("InfoView", Qt::Key_Return); // a dialog would stay
     showTab(4);
     EXPECT_FALSE(child<QAction>("newturret")->isVisible());
@@ -238,13 +237,7 @@ TEST_F(ShipPanel, ReadOnlyItChangesNothing) {
 TEST_F(ShipPanel, TakesWhatIsBeingEnteredBeforeItSaves) {
     startWith("49", {ship("A", {})});
     pick("ObjectView", 0);
-    QAbstractItemView* list = view("InfoView");
-    list->setFocus();
-    list->setCurrentIndex(list->model()->index(
-        static_cast<int>(column("InfoView").indexOf(QStringLiteral("Docking slots"))), 0));
-    QTest::keyClick(list, Qt::Key_F2);
-    QTest::keyClicks(list->findChild<QWidget*>(QStringLiteral("ValueEditor")),
-                     QStringLiteral("77"));
+    beginEntry("InfoView", QStringLiteral("Docking slots"), QStringLiteral("77"));
     script.Save(FileChoice{native("saved.txt"), 1});
     trigger("save");
     EXPECT_TRUE(

@@ -63,17 +63,26 @@ protected:
     [[nodiscard]] std::string record(int index = 0) const {
         return window->Parser().FindIndex(index)->GetObjectTData();
     }
-    void typeInPlace(const char* name, const QString& row, const QString& text) {
-        QAbstractItemView* list = view(name);
+    void selectField(const char* name, const QString& row) {
         const auto at = static_cast<int>(column(name).indexOf(row));
         ASSERT_GE(at, 0);
-        list->setFocus();
-        list->setCurrentIndex(list->model()->index(at, 0));
-        QTest::keyClick(list, Qt::Key_F2);
-        auto* editor = list->findChild<QWidget*>(QStringLiteral("ValueEditor"));
-        ASSERT_TRUE(editor);
-        QTest::keyClicks(editor, text);
-        press(editor, Qt::Key_Return);
+        view(name)->setFocus();
+        view(name)->setCurrentIndex(view(name)->model()->index(at, 0));
+    }
+    /// The control for a value in its row; none if none is open.
+    [[nodiscard]] QWidget* editorIn(const char* name) const {
+        return view(name)->findChild<QWidget*>(QStringLiteral("ValueEditor"));
+    }
+    /// Begins to type into a row.
+    void beginEntry(const char* name, const QString& row, const QString& text) {
+        selectField(name, row);
+        QTest::keyClick(view(name), Qt::Key_F2);
+        ASSERT_TRUE(editorIn(name));
+        QTest::keyClicks(editorIn(name), text);
+    }
+    void typeInPlace(const char* name, const QString& row, const QString& text) {
+        beginEntry(name, row, text);
+        press(editorIn(name), Qt::Key_Return);
     }
     void key(const char* name, Qt::Key code) {
         view(name)->setFocus();

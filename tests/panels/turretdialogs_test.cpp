@@ -288,6 +288,7 @@ const GunCase gunCases[] = {
     {"", "", "", ";", "x", "Count not specified", sameGun},
     {"x", "", "", ";", "x", badCount, sameGun},
     {"0.5", nullptr, nullptr, nullptr, nullptr, badCount, sameGun},
+    {"-1", nullptr, nullptr, nullptr, nullptr, "Count cannot be negative", sameGun},
     {nullptr, "", "", ";", "x", "Primary Body ID not specified", sameGun},
     {nullptr, "/", "", ";", "x", "Primary Path index not specified", sameGun},
     {nullptr, "/", "y", ";", "x", badGunPath, sameGun},
@@ -295,7 +296,7 @@ const GunCase gunCases[] = {
     {nullptr, "/", "8", ";", "x", "Value cannot contain slash (/)", sameGun},
     {nullptr, nullptr, "8", ";", "x", "Value cannot contain semicolon (;)", sameGun},
     {nullptr, nullptr, "8", "G", "1.5", "Secondary Path index must be whole number", sameGun},
-    {"2", "G", "8", "H", "9", "", "1;2;G;8;H;9;", "2"},
+    {"2", " G ", "8", "H\t", "9", "", "1;2;G;8;H;9;", "2"},
     {"0", nullptr, "7", nullptr, "", "", "1;0;GUN_A;007;;-1;", "0"},
 };
 

@@ -195,4 +195,17 @@ TEST_F(ValueDialog, TypedTextIsEncodedAsItsFile) {
     }
 }
 
+TEST_F(ValueDialog, AChoiceStaysInTheEncodingOfItsText) {
+    const RecordPtr record = load();
+    panel.Class = translation::List;
+    panel.Choices = {"Jäger", "Träger"};
+    panel.Translated = "Jäger";
+    panel.Back = KeshValue("SG_SH_M1");
+    frmEdit dialog;
+    typeValue(QStringLiteral("Träger"));
+    dialog.ShowProperty(&panel, record, field);
+    EXPECT_EQ(panel.Entered, "Träger") << "not as the file, which is Windows-1252";
+    EXPECT_EQ(record->ValueText(field), "SG_SH_M1");
+}
+
 } // namespace

@@ -21,6 +21,7 @@ public:
     std::string Translated;        ///< of any value; empty if there is none
     std::optional<KeshValue> Back; ///< of any text; none refuses
     std::vector<std::string> Choices;
+    std::string Entered; ///< the last text that was to be translated back
 
     clsTxtParser* Parser = nullptr;
     std::set<const clsTXTObject*> Known; ///< the records of which it has views
@@ -106,8 +107,9 @@ public:
         Text = Translated;
         return !Translated.empty();
     }
-    bool LornTranslateValueBack(const RecordPtr&, std::string&, std::int32_t,
+    bool LornTranslateValueBack(const RecordPtr&, std::string& Text, std::int32_t,
                                 KeshValue& Value) override {
+        Entered = Text;
         Break();
         if (Back)
             Value = *Back;

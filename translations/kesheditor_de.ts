@@ -92,6 +92,10 @@ Das System konnte es nicht starten.</translation>
         <source>Saving %1</source>
         <translation>%1 wird gespeichert</translation>
     </message>
+    <message>
+        <source>The ships would be lost: an export cannot be loaded again.</source>
+        <translation>Die Schiffe gingen verloren: Ein Export kann nicht wieder geladen werden.</translation>
+    </message>
 </context>
 <context>
     <name>ExternalViewer</name>
@@ -1027,6 +1031,10 @@ Changes: %2, the last of them at %3.</source>
     <message>
         <source>Secondary Path index must be whole number</source>
         <translation>Der zweite „Path index“ muss eine ganze Zahl sein</translation>
+    </message>
+    <message>
+        <source>Count cannot be negative</source>
+        <translation>Die Anzahl darf nicht negativ sein</translation>
     </message>
 </context>
 <context>

@@ -100,7 +100,7 @@ frmSettings::frmSettings(QWidget* Owner) : QDialog(Owner) {
     rows->addWidget(m_tabs);
     rows->addLayout(BuildButtons());
     for (QLineEdit* edit : findChildren<QLineEdit*>())
-        new SelectOnEntry(*edit);
+        new SelectOnEntry(*edit, true);
     for (const char* check : {"chkLoadDesc", "chkUseDD"})
         connect(Check(check), &QCheckBox::toggled, this, &frmSettings::EnableControls);
     HelpOnF1(this, "settings.html");

@@ -3,6 +3,7 @@
 #include "core/clsSettings.h"
 #include "txteditor/RecordDataModel.h"
 #include "txteditor/RecordListModel.h"
+#include "ui/FoldingSplitter.h"
 #include "ui/ListHelpers.h"
 #include "ui/WindowPos.h"
 #include "ui/WrappedLabel.h"
@@ -16,21 +17,6 @@ constexpr int defaultClassWidth = 133; ///< pixels
 constexpr int flushTime = 500;         ///< milliseconds from a change until it is on the disk
 constexpr int rawTab = 0;
 constexpr int narrowRaw = 45; ///< characters, too few for fields and watch list side by side
-
-/// Puts its panes one below the other where it is too narrow for both side by side.
-class FoldingSplitter : public QSplitter {
-public:
-    using QSplitter::QSplitter;
-
-protected:
-    void resizeEvent(QResizeEvent* event) override {
-        const int narrow = narrowRaw * fontMetrics().averageCharWidth();
-        const auto way = event->size().width() < narrow ? Qt::Vertical : Qt::Horizontal;
-        if (orientation() != way)
-            setOrientation(way);
-        QSplitter::resizeEvent(event);
-    }
-};
 
 QWidget* rowOf(std::initializer_list<QWidget*> widgets, QWidget* parent) {
     auto* row = new QWidget(parent);
@@ -156,9 +142,7 @@ QWidget* frmTXTEditor::BuildObjectSide() {
 }
 
 QWidget* frmTXTEditor::BuildRawPage() {
-    auto* page = new FoldingSplitter(this);
-    page->setObjectName(QStringLiteral("RawSplitter"));
-    page->setChildrenCollapsible(false);
+    auto* page = new FoldingSplitter("RawSplitter", narrowRaw, this);
     m_rawSplitter = page;
     m_dataView = new QTreeView(page);
     m_dataView->setObjectName(QStringLiteral("ObjectDataView"));

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int nameWidth = 30; ///< characters
+
 QLineEdit* lineOf(QWidget* editor) {
     auto* combo = qobject_cast<QComboBox*>(editor);
     return combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(editor);
@@ -67,7 +69,6 @@ PropertyView::PropertyView(const char* Name, RecordPanel& Editor, QWidget* Paren
     setModel(m_model);
     setItemDelegate(new EntryDelegate(*this));
     setEditTriggers(SelectedClicked | EditKeyPressed);
-    setColumnWidth(0, 30 * fontMetrics().averageCharWidth());
     setColumnWidth(2, 8 * fontMetrics().averageCharWidth());
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(PropertyModel::ValueColumn, QHeaderView::Stretch);
@@ -174,6 +175,17 @@ void PropertyView::EditRow() {
 void PropertyView::CopyValue() const {
     if (const PropertyRow* row = m_model->Row(currentIndex()))
         QGuiApplication::clipboard()->setText(row->Value);
+}
+
+/// Where there is little room, names and values share it.
+void PropertyView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    if (m_nameWidth != 0 && columnWidth(0) != m_nameWidth)
+        return;
+    m_nameWidth = std::min(nameWidth * fontMetrics().averageCharWidth(),
+                           viewport()->width() / 2 - columnWidth(2) / 2);
+    setColumnWidth(0, m_nameWidth);
+    m_nameWidth = columnWidth(0);
 }
 
 void PropertyView::keyPressEvent(QKeyEvent* event) {

@@ -27,6 +27,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
@@ -36,6 +37,7 @@ private:
 
     RecordPanel& m_panel;
     PropertyModel* m_model;
+    int m_nameWidth = 0; ///< given last; the user may have set another
     std::optional<ValueEntry> m_entry;
     QPointer<QWidget> m_editor; ///< of m_entry
     std::int32_t m_field = 0;   ///< of m_entry

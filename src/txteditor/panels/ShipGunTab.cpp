@@ -8,20 +8,9 @@
 #include "txteditor/panels/frmGunEdit.h"
 #include "ui/ListHelpers.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr int resultOk = 1;
-
-/// The item of that key; none if there is none.
-template <class Items>
-typename Items::value_type itemOf(const Items& items, const QString& key) {
-    const std::string wanted = key.toStdString();
-    const auto found = std::find_if(items.begin(), items.end(),
-                                    [&](const auto& item) { return item->key() == wanted; });
-    return found == items.end() ? nullptr : *found;
-}
 
 QStringList groupCells(const clsGunGroup& group) {
     QStringList cells{QString::number(group.Offset())};
@@ -162,12 +151,12 @@ void ShipGunTab::FillGuns() {
 }
 
 std::shared_ptr<clsGunGroup> ShipGunTab::SelectedGunGroup() const {
-    return m_ship ? itemOf(m_ship->GunGroups(), m_groups->SelectedKey()) : nullptr;
+    return m_ship ? ItemOfKey(m_ship->GunGroups(), m_groups->SelectedKey()) : nullptr;
 }
 
 std::shared_ptr<clsGun> ShipGunTab::SelectedGun() const {
     const auto group = SelectedGunGroup();
-    return group ? itemOf(group->Guns(), m_guns->SelectedKey()) : nullptr;
+    return group ? ItemOfKey(group->Guns(), m_guns->SelectedKey()) : nullptr;
 }
 
 void ShipGunTab::GunsChanged() {

@@ -7,6 +7,7 @@
 #include "txteditor/panels/TextRows.h"
 #include "txteditor/panels/TurretPlan.h"
 #include "txteditor/panels/frmTurretEdit.h"
+#include "ui/FoldingSplitter.h"
 #include "ui/ListHelpers.h"
 
 #include <algorithm>
@@ -14,6 +15,7 @@
 namespace {
 
 constexpr int resultOk = 1;
+constexpr int narrowTurrets = 120; ///< characters, too few for list and plan side by side
 constexpr std::size_t mostTurrets = clsShip::MaxTurrets + 1; ///< with the front gun
 constexpr std::int32_t typeValue = 0;
 constexpr std::int32_t positionValue = 1;
@@ -114,11 +116,12 @@ void ShipTurretTab::BuildControls() {
     m_descriptors->setTextFormat(Qt::PlainText);
     m_descriptors->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_descriptors->setFocusPolicy(Qt::NoFocus);
-    auto* upper = new QHBoxLayout;
-    upper->addWidget(BuildLists(), 1);
+    auto* upper = new FoldingSplitter("TurretSplitter", narrowTurrets, this);
+    upper->addWidget(BuildLists());
     upper->addWidget(m_plan);
+    upper->setStretchFactor(0, 1);
     auto* rows = new QVBoxLayout(this);
-    rows->addLayout(upper, 3);
+    rows->addWidget(upper, 3);
     rows->addWidget(BuildCockpits(), 1);
     rows->addWidget(new LabelPlace(*m_descriptors, this));
 }
@@ -128,7 +131,7 @@ QWidget* ShipTurretTab::BuildLists() {
     m_turrets = new TextRowsView("TurView", tr("Turrets"), side);
     m_turrets->SetColumns({tr("[offset]"), tr("Index"), tr("Turr. Idx"), tr("Body ID"),
                            tr("Path Idx"), tr("Type"), tr("Position")},
-                          {9, 7, 9, 16, 9, 7, 14});
+                          {9, 7, 9, 20, 9, 7, 14});
     auto* rows = new QVBoxLayout(side);
     rows->setContentsMargins({});
     rows->addWidget(label("lblTurrets", tr("Turrets"), m_turrets, side));
@@ -221,13 +224,7 @@ void ShipTurretTab::ShowCockpit() {
 }
 
 std::shared_ptr<clsTurret> ShipTurretTab::SelectedTurret() const {
-    if (!m_ship)
-        return {};
-    const std::string wanted = m_turrets->SelectedKey().toStdString();
-    const auto& turrets = m_ship->Turrets();
-    const auto found = std::find_if(turrets.begin(), turrets.end(),
-                                    [&](const auto& turret) { return turret->key() == wanted; });
-    return found == turrets.end() ? nullptr : *found;
+    return m_ship ? ItemOfKey(m_ship->Turrets(), m_turrets->SelectedKey()) : nullptr;
 }
 
 void ShipTurretTab::AddTurret() {

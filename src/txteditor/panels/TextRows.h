@@ -3,6 +3,9 @@
 
 #include <QtWidgets>
 
+#include <algorithm>
+#include <string>
+
 struct TextRow {
     QString Key; ///< under Qt::UserRole
     QStringList Cells;
@@ -10,6 +13,15 @@ struct TextRow {
 
     friend bool operator==(const TextRow&, const TextRow&) = default;
 };
+
+/// The item that the key of a row names, none if there is none, in a container of pointers.
+template <class Items>
+[[nodiscard]] typename Items::value_type ItemOfKey(const Items& List, const QString& Key) {
+    const std::string wanted = Key.toStdString();
+    const auto found = std::find_if(List.begin(), List.end(),
+                                    [&](const auto& item) { return item->key() == wanted; });
+    return found == List.end() ? nullptr : *found;
+}
 
 class TextRowsModel : public QAbstractTableModel {
     Q_OBJECT

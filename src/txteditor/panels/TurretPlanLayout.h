@@ -25,7 +25,7 @@ public:
     [[nodiscard]] static QPolygonF Outline(View Of);
 
     /// All sizes in lines of text, the views side by side where the area is wide enough.
-    static constexpr QSizeF Wanted{26, 8};
+    static constexpr QSizeF Wanted{22, 8};
     static constexpr QSizeF Least{18, 6}; ///< below it markers overlap
 
     /// `Line` is the height of a line of text.

@@ -182,8 +182,10 @@ TEST_F(ShipDialogs, ShowsATurret) {
                 EXPECT_EQ(combo->isEnabled(), c.Enabled);
             }
             EXPECT_EQ(shown.join(u'|').toStdString(), c.Shown);
-            EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("BodyIdEdit"))->selectedText(),
-                      shown[2]);
+            auto* body = dialog.findChild<QLineEdit*>(QStringLiteral("BodyIdEdit"));
+            EXPECT_EQ(body->selectedText(), shown[2]);
+            QTest::mouseClick(body, Qt::LeftButton);
+            EXPECT_EQ(body->selectedText(), QString()) << "a press into it sets the cursor";
         });
         Answer(dialog, {});
         dialog.ShowTurret(*ship->Turrets()[c.Turret], *ship, cockpits);

@@ -78,6 +78,8 @@ protected:
         QApplication::sendEvent(to->viewport(), &enter);
         QDragMoveEvent move(place, actions, data, Qt::LeftButton, {});
         QApplication::sendEvent(to->viewport(), &move);
+        if (!enter.isAccepted() || !move.isAccepted()) // then nothing can be dropped
+            return false;
         QDropEvent drop(place, actions, data, Qt::LeftButton, {});
         QApplication::sendEvent(to->viewport(), &drop);
         return drop.isAccepted();

@@ -53,8 +53,9 @@ public:
     }
 
     Qt::ItemFlags flags(const QModelIndex& index) const override {
-        const auto flags = TextRowsModel::flags(index);
-        return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags;
+        // A view accepts a drag where its root takes drops.
+        return TextRowsModel::flags(index) |
+               (index.isValid() ? Qt::ItemIsDragEnabled : Qt::ItemIsDropEnabled);
     }
     Qt::DropActions supportedDropActions() const override { return Qt::CopyAction; }
     QStringList mimeTypes() const override {

@@ -151,7 +151,6 @@ TEST_F(ShipPanel, AddsEditsAndRemovesTurretsAndGuns) {
         addState();
     }
     EXPECT_EQ(column("TurView", 6).join(u'|'), QStringLiteral("|left (3)"));
-    pick("TurView", 1);
     EXPECT_EQ(column("CockpView", 1), QStringList(QStringLiteral("[cockpit not found]")));
     showTab(5);
     pick("GunGroupView", 1);
@@ -166,7 +165,6 @@ TEST_F(ShipPanel, AddsEditsAndRemovesTurretsAndGuns) {
     showTab(3);
     EXPECT_EQ(value("WeaponView", QStringLiteral("Gun group count")), QStringLiteral("2"));
     showTab(5);
-    pick("GunView", 0);
     script.Box(QStringLiteral("Do you really want to delete the gun idx=1?"), Answer::Yes);
     key("GunView", Qt::Key_Delete);
     EXPECT_EQ(stored(19), "0");

@@ -44,8 +44,10 @@ ShipGunTab::ShipGunTab(RecordPanel& Panel) : QWidget(&Panel), m_panel(Panel) {
     on(m_guns, &TextRowsView::AddAsked, &ShipGunTab::AddGun);
     on(m_guns, &TextRowsView::RemoveAsked, &ShipGunTab::RemoveGun);
     connect(m_views[1], &QRadioButton::toggled, this, [this] {
+        const QString selected = m_guns->SelectedKey();
         SetGunColumns();
         FillGuns();
+        m_guns->SelectKey(selected);
     });
 }
 
@@ -178,8 +180,10 @@ void ShipGunTab::AddGun() {
     frmGunEdit dialog(this);
     dialog.FileEncoding = m_panel.FileEncoding();
     dialog.NewGun(*group);
-    if (dialog.ModalResult() == resultOk)
-        GunsChanged();
+    if (dialog.ModalResult() != resultOk)
+        return;
+    GunsChanged();
+    m_guns->SelectKey(QString::fromStdString(group->Guns().back()->key()));
 }
 
 void ShipGunTab::RemoveGun() {

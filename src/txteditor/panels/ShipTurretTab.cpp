@@ -238,8 +238,10 @@ void ShipTurretTab::AddTurret() {
     frmTurretEdit dialog(this);
     dialog.FileEncoding = m_panel.FileEncoding();
     dialog.NewTurret(*m_ship, m_cockpits);
-    if (dialog.ModalResult() == resultOk)
-        Q_EMIT Changed(true);
+    if (dialog.ModalResult() != resultOk)
+        return;
+    Q_EMIT Changed(true);
+    m_turrets->SelectKey(key(*m_ship->Turrets().back()));
 }
 
 void ShipTurretTab::RemoveTurret() {

@@ -58,8 +58,7 @@ TEST_F(KeshtoolExport, WhatCannotBeExportedReplacesNothing) {
     const std::string ships = read("TShips.txt");
     for (const char* line : {"export TWareT.txt out.txt", "export none/TShips.txt out.txt",
                              "export broken/TShips.txt out.txt", "export TShips.txt TShips.txt",
-                             "export TShips.txt ./tships.TXT",
-                             "export TShips.txt none/out.txt"}) {
+                             "export TShips.txt ./tships.TXT", "export TShips.txt none/out.txt"}) {
         const Result result = run(line);
         EXPECT_EQ(result.code, 3) << line;
         EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << result.err;

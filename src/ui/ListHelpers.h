@@ -44,6 +44,11 @@ inline void AddSortAction(QTreeView& View, const char* Name, const QString& Text
     View.addAction(action);
 }
 
+/// A tip that shows a text of the data as it is; none for an empty one.
+[[nodiscard]] inline QVariant PlainTip(const QString& Text) {
+    return Text.isEmpty() ? QVariant() : QVariant(Qt::convertFromPlainText(Text));
+}
+
 /// The actions make the view's popup, in the order of the calls.
 inline void OfferInPopup(QWidget& View, const QList<QAction*>& Actions) {
     View.addActions(Actions);

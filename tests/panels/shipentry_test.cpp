@@ -16,9 +16,8 @@ TEST_F(ShipPanel, AnotherShipEndsAnEntryThatWasRefused) {
     const std::string before = record() + record(1);
     beginEntry("InfoView", QStringLiteral("Cargo max"), QStringLiteral("many"));
     script.Box(QStringLiteral("must be whole number"));
-    press(editorIn("InfoView"), Qt::Key_Return);
-    EXPECT_TRUE(editorIn("InfoView"));
-    view("ObjectView")->setCurrentIndex(view("ObjectView")->model()->index(1, 0));
+    pick("ObjectView", 1);
+    EXPECT_TRUE(view("ObjectView")->hasFocus());
     QCoreApplication::sendPostedEvents({}, QEvent::DeferredDelete);
     EXPECT_FALSE(editorIn("InfoView"));
     EXPECT_EQ(record() + record(1), before);

@@ -184,8 +184,10 @@ TEST_F(ShipDialogs, ShowsATurret) {
             EXPECT_EQ(shown.join(u'|').toStdString(), c.Shown);
             auto* body = dialog.findChild<QLineEdit*>(QStringLiteral("BodyIdEdit"));
             EXPECT_EQ(body->selectedText(), shown[2]);
-            QTest::mouseClick(body, Qt::LeftButton);
-            EXPECT_EQ(body->selectedText(), QString()) << "a press into it sets the cursor";
+            for (int press = 0; press < 2; ++press) { // into it sets the cursor
+                QTest::mouseClick(body, Qt::LeftButton);
+                EXPECT_EQ(body->selectedText(), QString());
+            }
         });
         Answer(dialog, {});
         dialog.ShowTurret(*ship->Turrets()[c.Turret], *ship, cockpits);

@@ -1,5 +1,7 @@
 #include "txteditor/panels/PropertyModel.h"
 
+#include "ui/ListHelpers.h"
+
 #include <algorithm>
 
 void PropertyModel::SetRows(QList<PropertyRow> Rows) {
@@ -38,7 +40,7 @@ QVariant PropertyModel::data(const QModelIndex& index, int role) const {
         return row->Field == PropertyRow::IdField ? QVariant(QStringLiteral("name"))
                                                   : QVariant(row->Field);
     if (role == Qt::ToolTipRole && index.column() == ValueColumn)
-        return Qt::convertFromPlainText(row->Value);
+        return PlainTip(row->Value);
     if (role != Qt::DisplayRole)
         return {};
     switch (index.column()) {

@@ -143,7 +143,9 @@ void PropertyView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHi
 }
 
 void PropertyView::ReturnTo(QWidget* Editor) {
-    QTimer::singleShot(0, Editor, [Editor] {
+    QTimer::singleShot(0, Editor, [this, Editor] {
+        if (!m_entry || Editor != m_editor) // it was given up meanwhile
+            return;
         Editor->setFocus();
         lineOf(Editor)->selectAll();
     });

@@ -18,7 +18,7 @@ constexpr int resultOk = 1;
 
 bool RecordPanel::Init(clsTxtParser& Parser) {
     m_parser = &Parser;
-    m_object.reset();
+    SetCurrentObject({});
     return true;
 }
 

@@ -241,7 +241,8 @@ void ShipTurretTab::AddTurret() {
     if (dialog.ModalResult() != resultOk)
         return;
     Q_EMIT Changed(true);
-    m_turrets->SelectKey(key(*m_ship->Turrets().back()));
+    m_turrets->SelectKey(key(**std::ranges::max_element(
+        m_ship->Turrets(), {}, [](const auto& turret) { return turret->Id(); })));
 }
 
 void ShipTurretTab::RemoveTurret() {

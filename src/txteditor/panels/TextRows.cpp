@@ -33,7 +33,7 @@ QVariant TextRowsModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return row.Cells.value(index.column());
     case Qt::ToolTipRole:
-        return Qt::convertFromPlainText(row.Cells.value(index.column()));
+        return PlainTip(row.Cells.value(index.column()));
     case Qt::UserRole:
         return row.Key;
     case Qt::UserRole + 1:

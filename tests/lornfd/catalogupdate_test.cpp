@@ -94,31 +94,31 @@ TEST_F(CatalogChange, CompactsWhenTheDeadOutweighTheLiving) {
 
 TEST_F(CatalogChange, BytesThatACrashLeftAreNotOverwrittenBlindly) {
     EXPECT_EQ(load("a"), "aaaaaaaaaa"); // so that the catalog is known from before
-    scratch::putBytes(directory / "c.dat", scratch::getBytes(directory / "c.dat") + "tail");
+    scratch::writeFile(directory / "c.dat", scratch::readFile(directory / "c.dat") + "tail");
     ASSERT_TRUE(scratch::save(catalog + "::new", "n"));
     EXPECT_EQ(load("a") + load("types\\b") + load("new"), "aaaaaaaaaabbbbbbbbbbn");
     EXPECT_EQ(dataSize(), 25U);
 }
 
 TEST_F(CatalogChange, ForeignFilesKeepTheirNames) {
-    scratch::putBytes(directory / "New.dat", "not a data file");
-    scratch::putBytes(directory / "c-2.dat", "nor this");
+    scratch::writeFile(directory / "New.dat", "not a data file");
+    scratch::writeFile(directory / "c-2.dat", "nor this");
     scratch::makeCatalog(directory / "new.cat", {{"a", "x"}});
     EXPECT_EQ(scratch::load(directory / "new.cat::a"), "x");
     ASSERT_TRUE(scratch::save(catalog + "::a", std::string(5, 'y')));
     ASSERT_TRUE(scratch::save(catalog + "::types\\b", std::string(5, 'z')));
     EXPECT_EQ(load("a") + load("types\\b"), "yyyyyzzzzz");
-    EXPECT_EQ(scratch::getBytes(directory / "New.dat"), "not a data file");
-    EXPECT_EQ(scratch::getBytes(directory / "c-2.dat"), "nor this");
+    EXPECT_EQ(scratch::readFile(directory / "New.dat"), "not a data file");
+    EXPECT_EQ(scratch::readFile(directory / "c-2.dat"), "nor this");
 }
 
 TEST_F(CatalogChange, IndexOfAnotherProgramIsChanged) {
-    scratch::putBytes(directory / "hand.bin", "0123456789");
-    scratch::putBytes(directory / "hand.cat", "KESHCAT 1 hand.bin\r\n8 2 45cd12f0 types/x\r\n"
-                                              "0 5 00000000 wrong sum\r\n");
+    scratch::writeFile(directory / "hand.bin", "0123456789");
+    scratch::writeFile(directory / "hand.cat", "KESHCAT 1 hand.bin\r\n8 2 45cd12f0 types/x\r\n"
+                                               "0 5 00000000 wrong sum\r\n");
     fs::create_symlink("hand.cat", directory / "link.cat");
     ASSERT_TRUE(scratch::save(directory / "link.cat::y", "new")) << scratch::errorText();
-    EXPECT_EQ(scratch::getBytes(directory / "hand.cat"),
+    EXPECT_EQ(scratch::readFile(directory / "hand.cat"),
               "KESHCAT 1 hand.bin\n8 2 45cd12f0 types\\x\n0 5 00000000 wrong sum\n10 3 "
               "6be34445 y\n")
         << "what is not changed stays, also where it is damaged";
@@ -142,8 +142,8 @@ TEST_F(CatalogChange, NamesThatAreNotAllowed) {
 TEST_F(CatalogChange, ReadAnewOnlyAfterAChange) {
     const auto index = CatalogIndex::open(catalog);
     EXPECT_EQ(CatalogIndex::open(catalog), index);
-    const std::string text = scratch::getBytes(catalog);
-    scratch::putBytes(catalog, text.substr(0, text.size() - 8) + "types\\z\n");
+    const std::string text = scratch::readFile(catalog);
+    scratch::writeFile(catalog, text.substr(0, text.size() - 8) + "types\\z\n");
     EXPECT_EQ(load("types\\z"), "bbbbbbbbbb");
     EXPECT_EQ(load("types\\b"), "error 1");
     fs::remove(catalog);
@@ -168,7 +168,7 @@ TEST_F(CatalogChange, BurstOfOpensSeesWhatThisProgramDid) {
 }
 
 TEST_F(CatalogChange, WriterLooksAtTheDiskAlsoInABurst) {
-    const std::string text = scratch::getBytes(catalog);
+    const std::string text = scratch::readFile(catalog);
     for (int i = 0; i < 100; ++i)
         ASSERT_EQ(load("a"), "aaaaaaaaaa");
     std::ofstream(catalog) << text.substr(0, text.rfind('\n', text.size() - 2) + 1); // without b

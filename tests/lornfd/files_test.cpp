@@ -17,9 +17,9 @@ using namespace lornfd;
 class Reading : public testing::TestWithParam<std::tuple<const char*, int>> {
 protected:
     Reading() : content(scratch::noise(static_cast<std::size_t>(std::get<1>(GetParam())), 3)) {
-        scratch::putBytes(directory / "plain.txt", content);
-        scratch::putBytes(directory / "gzip.pck", stored(LORNFD_GZIP));
-        scratch::putBytes(directory / "zstd.pck", stored(LORNFD_ZSTD));
+        scratch::writeFile(directory / "plain.txt", content);
+        scratch::writeFile(directory / "gzip.pck", stored(LORNFD_GZIP));
+        scratch::writeFile(directory / "zstd.pck", stored(LORNFD_ZSTD));
         scratch::makeCatalog(directory / "c.cat", {{"other", "other bytes"},
                                                    {"plain.txt", content},
                                                    {"gzip.pck", stored(LORNFD_GZIP)},
@@ -81,9 +81,9 @@ TEST(ReadingFailures, NameFileAndCause) {
     ::mkfifo((directory / "pipe").c_str(), 0600);
     scratch::makeCatalog(directory / "c.cat", {{"a", "12345"}, {"p.pck", "\x1f\x8b\x08 no gzip"}});
     scratch::makeCatalog(directory / "damaged.cat", {{"a", "12345"}});
-    scratch::putBytes(directory / "damaged.dat", "12346");
+    scratch::writeFile(directory / "damaged.dat", "12346");
     scratch::makeCatalog(directory / "short.cat", {{"a", "12345"}});
-    scratch::putBytes(directory / "short.dat", "1234");
+    scratch::writeFile(directory / "short.dat", "1234");
     scratch::makeCatalog(directory / "nodata.cat", {{"a", "12345"}});
     std::filesystem::remove(directory / "nodata.dat");
     const struct {
@@ -124,7 +124,7 @@ TEST(ReadingFailures, NameFileAndCause) {
 
 TEST(ReadingFailures, FileCutWhileOpen) {
     const scratch::Directory directory;
-    scratch::putBytes(directory / "a.txt", std::string(1000, 'x'));
+    scratch::writeFile(directory / "a.txt", std::string(1000, 'x'));
     const std::int32_t file =
         LornFD_OpenFile(directory / "a.txt", LORNFD_READ, LORNFD_OPEN_EXISTING, LORNFD_AS_IS);
     std::filesystem::resize_file(directory / "a.txt", 10);
@@ -140,7 +140,7 @@ TEST(Handles, OfTheWrongKindAreRefused) {
     const std::int32_t catalog = LornFD_OpenCatalog(directory / "c.cat", LORNFD_OPEN_EXISTING);
     const std::int32_t writer =
         LornFD_OpenFile(directory / "w", LORNFD_WRITE, LORNFD_CREATE, LORNFD_PLAIN);
-    scratch::putBytes(directory / "r", "x");
+    scratch::writeFile(directory / "r", "x");
     const std::int32_t reader =
         LornFD_OpenFile(directory / "r", LORNFD_READ, LORNFD_OPEN_EXISTING, LORNFD_AS_IS);
     ASSERT_TRUE(catalog > 0 && writer > 0 && reader > 0);

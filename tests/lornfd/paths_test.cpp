@@ -30,8 +30,8 @@ TEST(Paths, NativeFormLeavesTheEntry) {
 TEST(Paths, FoundWithoutRegardToCaseExactFirst) {
     const scratch::Directory directory;
     std::filesystem::create_directories(directory / "Mods/Inner");
-    scratch::putBytes(directory / "Mods/Inner/Ships.txt", "");
-    scratch::putBytes(directory / "Mods/Inner/SHIPS.txt", "");
+    scratch::writeFile(directory / "Mods/Inner/Ships.txt", "");
+    scratch::writeFile(directory / "Mods/Inner/SHIPS.txt", "");
     std::filesystem::create_symlink("nowhere", directory / "Mods/Dangling");
     const struct {
         const char* given;

@@ -44,14 +44,14 @@ class Scene {
 public:
     explicit Scene(const Target& target, std::size_t size = 40'000)
         : m_target(target), m_size(size), name(directory / target.name) {
-        scratch::putBytes(directory / "bystander.txt", "bystander");
+        scratch::writeFile(directory / "bystander.txt", "bystander");
         scratch::makeCatalog(directory / "c.cat", {{"first", scratch::noise(5000, 10)},
                                                    {"types\\entry", "replaced at once"},
                                                    {"last", scratch::noise(5000, 11)}});
         EXPECT_TRUE(!target.exists || scratch::save(name, old(), target.form));
         if (target.spare > 0) // a tail that a crash left
-            scratch::putBytes(directory / dataName(), scratch::getBytes(directory / dataName()) +
-                                                          std::string(target.spare, 't'));
+            scratch::writeFile(directory / dataName(), scratch::readFile(directory / dataName()) +
+                                                           std::string(target.spare, 't'));
     }
 
     [[nodiscard]] std::string old() const { return scratch::noise(m_size, 1); }
@@ -70,7 +70,7 @@ public:
         return scratch::load(name) == version(number);
     }
     [[nodiscard]] bool othersStand() const {
-        return scratch::getBytes(directory / "bystander.txt") == "bystander" &&
+        return scratch::readFile(directory / "bystander.txt") == "bystander" &&
                scratch::load(directory / "c.cat::first") == scratch::noise(5000, 10) &&
                scratch::load(directory / "c.cat::last") == scratch::noise(5000, 11);
     }

@@ -3,57 +3,22 @@
 
 #include "lornfd/catalog.h"
 #include "lornfd/lornfd.h"
+#include "support/scratchdir.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <random>
 #include <set>
 #include <string>
 #include <string_view>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
 namespace scratch {
 
-class Directory {
-public:
-    Directory() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "lornfd-XXXXXX").string();
-        m_path = ::mkdtemp(pattern.data());
-    }
-    ~Directory() {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    Directory(const Directory&) = delete;
-    Directory& operator=(const Directory&) = delete;
-
-    [[nodiscard]] std::string operator/(std::string_view name) const {
-        return (m_path / name).string();
-    }
-    /// The names of all that is in it.
-    [[nodiscard]] std::set<std::string> names() const {
-        std::set<std::string> found;
-        for (const auto& entry : std::filesystem::directory_iterator(m_path))
-            found.insert(entry.path().filename().string());
-        return found;
-    }
-
-private:
-    std::filesystem::path m_path;
-};
-
-inline void putBytes(const std::string& path, std::string_view bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
-inline std::string getBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
+using Directory = support::ScratchDir;
+using support::readFile;
+using support::writeFile;
 
 inline std::string errorText() {
     std::int32_t needed = 0;

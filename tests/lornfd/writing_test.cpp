@@ -74,7 +74,7 @@ TEST(Writing, ExistingTargetIsAskedForByCreate) {
 TEST(Writing, TargetsThatCannotBeAreRefusedAtOnce) {
     const scratch::Directory directory;
     fs::create_directory(directory / "folder");
-    scratch::putBytes(directory / "broken.cat", "KESHCAT 1 x.dat\nrubbish\n");
+    scratch::writeFile(directory / "broken.cat", "KESHCAT 1 x.dat\nrubbish\n");
     scratch::makeCatalog(directory / "c.cat", {});
     const auto before = directory.names();
     const struct {
@@ -97,7 +97,7 @@ TEST(Writing, TargetsThatCannotBeAreRefusedAtOnce) {
 TEST(Writing, NothingHappensBeforeTheCloseNorByAbandoning) {
     const scratch::Directory directory;
     scratch::makeCatalog(directory / "c.cat", {{"a.txt", "old"}});
-    scratch::putBytes(directory / "a.txt", "old");
+    scratch::writeFile(directory / "a.txt", "old");
     const auto before = directory.names();
     for (const char* name : {"a.txt", "c.cat::a.txt", "c.cat::b.txt"}) {
         for (const std::int32_t type : {LORNFD_PLAIN, LORNFD_ZSTD}) {
@@ -126,13 +126,13 @@ TEST(Writing, LargeAndSmallPiecesKeepTheirOrder) {
         at += size;
     }
     ASSERT_EQ(LornFD_CloseFile(file), 1);
-    EXPECT_TRUE(scratch::getBytes(directory / "a") == content);
+    EXPECT_TRUE(scratch::readFile(directory / "a") == content);
 }
 
 TEST(Writing, KeepsModeLinksAndSpelling) {
     const scratch::Directory directory;
     fs::create_directory(directory / "real");
-    scratch::putBytes(directory / "real/Target.txt", "old");
+    scratch::writeFile(directory / "real/Target.txt", "old");
     ::chmod((directory / "real/Target.txt").c_str(), 0640);
     fs::create_symlink("real/Target.txt", directory / "link");
     fs::create_symlink("link", directory / "Second");
@@ -140,8 +140,8 @@ TEST(Writing, KeepsModeLinksAndSpelling) {
     ASSERT_TRUE(scratch::save(directory / "second", "new")) << scratch::errorText();
     ASSERT_TRUE(scratch::save(directory / "REAL\\target.TXT", "newer")) << scratch::errorText();
     ASSERT_TRUE(scratch::save(directory / "dangling", "made")) << scratch::errorText();
-    EXPECT_EQ(scratch::getBytes(directory / "real/Target.txt"), "newer");
-    EXPECT_EQ(scratch::getBytes(directory / "real/new.txt"), "made");
+    EXPECT_EQ(scratch::readFile(directory / "real/Target.txt"), "newer");
+    EXPECT_EQ(scratch::readFile(directory / "real/new.txt"), "made");
     EXPECT_EQ(fs::read_symlink(directory / "Second"), "link");
     EXPECT_EQ(fs::read_symlink(directory / "dangling"), "real/new.txt");
     struct stat status = {};
@@ -153,28 +153,28 @@ TEST(Writing, KeepsModeLinksAndSpelling) {
 
 TEST(Writing, SecondWriterIsToldWhoHoldsTheFile) {
     const scratch::Directory directory;
-    scratch::putBytes(directory / "a.txt", "old");
+    scratch::writeFile(directory / "a.txt", "old");
     const auto first = FileReplacement::begin(directory / "a.txt");
     ASSERT_TRUE(first);
     EXPECT_FALSE(scratch::save(directory / "A.TXT", "second"));
     EXPECT_EQ(LornFD_GetLastError(), LORNFD_E_LOCKED);
     EXPECT_NE(scratch::errorText().find(std::to_string(::getpid())), std::string::npos);
     EXPECT_TRUE(first->write("first") && first->commit());
-    EXPECT_EQ(scratch::getBytes(directory / "a.txt"), "first");
+    EXPECT_EQ(scratch::readFile(directory / "a.txt"), "first");
 }
 
 TEST(Writing, LeftoversOfTheDeadAreTakenOver) {
     const scratch::Directory directory;
-    scratch::putBytes(directory / "a.txt.kesh-new", "half a fi");
-    scratch::putBytes(directory / "a.txt.kesh-lock", ""); // its writer died before it stood in it
+    scratch::writeFile(directory / "a.txt.kesh-new", "half a fi");
+    scratch::writeFile(directory / "a.txt.kesh-lock", ""); // its writer died before it stood in it
     EXPECT_TRUE(scratch::save(directory / "a.txt", "whole")) << scratch::errorText();
     EXPECT_EQ(directory.names(), std::set<std::string>{"a.txt"});
-    EXPECT_EQ(scratch::getBytes(directory / "a.txt"), "whole");
+    EXPECT_EQ(scratch::readFile(directory / "a.txt"), "whole");
 }
 
 TEST(Deleting, TakesFilesLinksAndEntries) {
     const scratch::Directory directory;
-    scratch::putBytes(directory / "a.txt", "kept");
+    scratch::writeFile(directory / "a.txt", "kept");
     fs::create_symlink("a.txt", directory / "link");
     scratch::makeCatalog(directory / "c.cat", {{"a", "1"}, {"b", "2"}});
     EXPECT_EQ(LornFD_DeleteFile(directory / "LINK"), 1);

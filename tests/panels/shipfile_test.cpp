@@ -43,7 +43,7 @@ TEST_F(ShipPanel, KeepsEveryOtherSpellingOfAFileOfEachVersion) {
 }
 
 TEST_F(ShipPanel, WorksWithoutTheGamesFiles) {
-    Archive.reset();
+    Archive = std::make_unique<clsArchive>(); // over a view without files
     startWith("49", {ship("A", {{22, "1"}})});
     pick("ObjectView", 0);
     for (int tab = 0; tab < tabs()->count(); ++tab)

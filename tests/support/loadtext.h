@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lornfd/lornfd.h"
+#include "support/scratchdir.h"
 #include "tdata/clsTxtParser.h"
 #include "tdata/mdlKeshConst.h"
 
@@ -11,42 +12,8 @@
 #include <fstream>
 #include <sstream>
 #include <string>
-#include <unistd.h>
 
 namespace support {
-
-/// A directory of its own that goes with the object.
-class ScratchDir {
-public:
-    ScratchDir() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "keshtest-XXXXXX").string();
-        m_path = ::mkdtemp(pattern.data());
-    }
-    ~ScratchDir() {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    ScratchDir(const ScratchDir&) = delete;
-    ScratchDir& operator=(const ScratchDir&) = delete;
-
-    [[nodiscard]] std::string operator/(const std::string& name) const {
-        return (m_path / name).string();
-    }
-    [[nodiscard]] std::string path() const { return m_path.string(); }
-
-private:
-    std::filesystem::path m_path;
-};
-
-inline std::string readFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-inline void writeFile(const std::string& path, const std::string& content) {
-    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-    std::ofstream(path, std::ios::binary) << content;
-}
 
 /// Parses a text as if it were a file of that type; the result is the parser's.
 inline bool load(clsTxtParser& parser, const std::string& text, std::int32_t type) {

@@ -55,9 +55,11 @@ int placeOf(const clsTurret& turret) {
     return position == 0 ? nowhere : position;
 }
 
+constexpr int mostGuns = 1'000'000; ///< that are counted
+
 /// A group whose count is no number has none.
 int gunsOf(const clsGunGroup& group) try {
-    return std::clamp(group.PseudoGunCount(), 0, 1'000'000);
+    return std::clamp(group.PseudoGunCount(), 0, mostGuns);
 } catch (const KeshError&) {
     return 0;
 }
@@ -65,8 +67,10 @@ int gunsOf(const clsGunGroup& group) try {
 /// Of all groups of each turret.
 QHash<const clsTurret*, int> gunsByTurret(const clsShip& ship) {
     QHash<const clsTurret*, int> guns;
-    for (const auto& group : ship.GunGroups())
-        guns[group->turret().get()] += gunsOf(*group);
+    for (const auto& group : ship.GunGroups()) {
+        int& sum = guns[group->turret().get()];
+        sum = std::min(sum + gunsOf(*group), mostGuns);
+    }
     return guns;
 }
 

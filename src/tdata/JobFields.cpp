@@ -1,0 +1,143 @@
+#include "tdata/JobFields.h"
+
+#include "core/mdlComFunctions.h"
+#include "tdata/mdlKeshConst.h"
+#include "tdata/mdlKeshJobs.h"
+#include "textres/ResourceText.h"
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
+namespace {
+
+constexpr std::int32_t NamePage = 17;
+constexpr std::int32_t FirstVariant = 10000; ///< ids of their texts
+
+constexpr std::string_view ClassRows[] = {"M1", "M2", "M3", "M4", "M5", "M6", "TP", "TS", "TL"};
+constexpr std::string_view ShipRaceRows[] = {"Argon", "Boron",   "Split", "Paranid", "Teladi",
+                                             "Xenon", "Pirates", "Khaak", "Goner",   "Yaki"};
+// Positions in RaceNames.
+constexpr std::int32_t OwnerRaceRows[] = {1, 2, 3, 4, 5, 6, 7, 9, 19, 8};
+
+struct VersionSize {
+    std::int32_t Version;
+    std::int32_t Size;
+};
+constexpr VersionSize Sizes[] = {{8, 117}, {9, 119}, {10, 120}};
+
+bool Reaches(const clsTXTObject& job, std::int32_t place) {
+    return place >= 0 && place < job.size();
+}
+
+std::int32_t PlaceOf(const clsTXTObject& job, std::int32_t field) {
+    return field < 0 ? field : JobPhysicalIndex(job.size(), field);
+}
+
+std::string ObjectText(const clsTXTObject& job, std::int32_t field) {
+    const auto id = GetJobInteger(job, field);
+    return id ? ResourceText(NamePage, *id).value_or("") : std::string();
+}
+
+/// What the one set flag of a group stands for; empty if none or several are set.
+std::string OnlyName(const clsTXTObject& job, JobFlags flags, std::string (*name)(std::int32_t)) {
+    const auto set = JobFlagsSet(job, flags);
+    return set.size() == 1 ? name(set.front()) : std::string();
+}
+
+std::string ClassName(std::int32_t place) {
+    return std::string(JobClassNames.At(place));
+}
+
+// In the order of jobflags::NameParts. A job names no corporation, so that flag adds nothing.
+struct NamePart {
+    JobFlags Flags;
+    std::string (*Name)(std::int32_t);
+};
+constexpr NamePart NameParts[] = {{jobflags::OwnerRaces, JobOwnerRaceName},
+                                  {},
+                                  {jobflags::Classes, ClassName},
+                                  {jobflags::Variants, JobVariantName}};
+static_assert(std::size(NameParts) == jobflags::NameParts.Count);
+
+} // namespace
+
+const TextTable JobClassNames{0, ClassRows};
+const TextTable JobShipRaceNames{0, ShipRaceRows};
+
+std::string JobOwnerRaceName(std::int32_t Place) {
+    return Place >= 0 && Place < std::ssize(OwnerRaceRows)
+               ? std::string(RaceNames.At(OwnerRaceRows[Place]))
+               : std::string();
+}
+
+std::string JobVariantName(std::int32_t Place) {
+    constexpr std::int32_t last = std::numeric_limits<std::int32_t>::max() - FirstVariant;
+    auto text = Place <= last ? ResourceText(NamePage, FirstVariant + Place) : std::nullopt;
+    if (text && !text->empty())
+        return std::move(*text);
+    return Place == 0 ? "Basic" : std::to_string(Place);
+}
+
+std::optional<std::int32_t> JobSize(std::int32_t Version) {
+    const auto* const row =
+        std::find_if(std::begin(Sizes), std::end(Sizes),
+                     [=](const VersionSize& s) { return s.Version == Version; });
+    return row == std::end(Sizes) ? std::nullopt : std::optional(row->Size);
+}
+
+// --- Values
+
+KeshValue GetJobValue(const clsTXTObject& Job, std::int32_t Field) {
+    const std::int32_t place = PlaceOf(Job, Field);
+    return Reaches(Job, place) ? Job.Value(place) : KeshValue();
+}
+
+std::string_view GetJobText(const clsTXTObject& Job, std::int32_t Field) {
+    const std::int32_t place = PlaceOf(Job, Field);
+    return Reaches(Job, place) ? Job.ValueText(place) : std::string_view();
+}
+
+std::optional<std::int32_t> GetJobInteger(const clsTXTObject& Job, std::int32_t Field) {
+    const std::int32_t place = PlaceOf(Job, Field);
+    return Reaches(Job, place) ? Job.ValueInteger(place) : std::nullopt;
+}
+
+bool SetJobValue(clsTXTObject& Job, std::int32_t Field, const KeshValue& Value) {
+    const std::int32_t place = PlaceOf(Job, Field);
+    if (!Reaches(Job, place))
+        return false;
+    Job.SetValue(place, Value);
+    return true;
+}
+
+bool JobFlagSet(const clsTXTObject& Job, std::int32_t Field) {
+    const std::int32_t place = PlaceOf(Job, Field);
+    return Reaches(Job, place) && Job.ValueNumber(place).value_or(0) != 0;
+}
+
+std::vector<std::int32_t> JobFlagsSet(const clsTXTObject& Job, JobFlags Flags) {
+    std::vector<std::int32_t> set;
+    for (std::int32_t place = 0; place < Flags.Count; ++place)
+        if (JobFlagSet(Job, Flags.First + place))
+            set.push_back(place);
+    return set;
+}
+
+std::optional<std::int32_t> JobNeighbour(const clsTXTObject& Job, std::int32_t Field) {
+    const std::int32_t given = JobLogicalIndex(Job.size(), JobPhysicalIndex(Job.size(), Field));
+    return given == Field ? std::nullopt : std::optional(given);
+}
+
+// --- Names
+
+std::string JobResourceName(const clsTXTObject& Job) {
+    std::string name = ObjectText(Job, jobfield::ShipName);
+    if (GetJobInteger(Job, jobfield::ShipName) == 0)
+        name.clear();
+    for (const std::int32_t part : JobFlagsSet(Job, jobflags::NameParts))
+        if (const auto& [flags, nameOf] = NameParts[part]; nameOf != nullptr)
+            AppendLine(name, OnlyName(Job, flags, nameOf), " ");
+    AppendLine(name, ObjectText(Job, jobfield::Description), " ");
+    return name;
+}

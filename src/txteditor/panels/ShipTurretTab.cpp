@@ -3,6 +3,7 @@
 #include "tdata/clsCockpitParser.h"
 #include "tdata/clsGunGroup.h"
 #include "tdata/clsTurret.h"
+#include "txteditor/panels/LabelPlace.h"
 #include "txteditor/panels/RecordPanel.h"
 #include "txteditor/panels/TextRows.h"
 #include "txteditor/panels/TurretPlan.h"
@@ -80,23 +81,6 @@ QLabel* label(const char* name, const QString& text, QWidget* buddy, QWidget* pa
     made->setBuddy(buddy);
     return made;
 }
-
-/// A place for a label whose text changes often: in a layout each new text would lay out and paint
-/// the whole window anew.
-class LabelPlace : public QWidget {
-public:
-    LabelPlace(QLabel& label, QWidget* parent) : QWidget(parent), m_label(label) {
-        label.setParent(this);
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    }
-    [[nodiscard]] QSize sizeHint() const override { return m_label.sizeHint(); }
-
-protected:
-    void resizeEvent(QResizeEvent*) override { m_label.setGeometry(rect()); }
-
-private:
-    QLabel& m_label;
-};
 
 } // namespace
 

@@ -1,0 +1,300 @@
+#include "txteditor/panels/ucJob.h"
+
+#include "core/clsSettings.h"
+#include "tdata/FieldConversion.h"
+#include "tdata/JobFields.h"
+#include "tdata/NewObjectName.h"
+#include "tdata/clsArchive.h"
+#include "tdata/mdlKeshConst.h"
+#include "tdata/mdlKeshJobs.h"
+#include "textres/ResourceText.h"
+#include "txteditor/panels/JobBoxes.h"
+#include "txteditor/panels/JobShipBox.h"
+#include "txteditor/panels/JobSummary.h"
+#include "txteditor/panels/PropertyView.h"
+#include "txteditor/panels/TextRows.h"
+#include "txteditor/panels/WareListViewer.h"
+#include "ui/ListHelpers.h"
+
+namespace {
+
+using namespace jobtabs;
+
+constexpr std::int32_t namesPage = 17; ///< of the text resources
+constexpr std::int32_t presentSize = 120;
+constexpr qsizetype descriptionRow = 2;
+constexpr int wingIdWidth = 20; ///< characters
+
+constexpr std::int32_t infoFields[] = {0,  1,  6,  4,  5,  2,  3,   13, 14,
+                                       15, 16, 17, 55, 56, 57, 109, 73};
+constexpr std::int32_t equipmentFields[] = {88, 89, 106, 107, 108, 74, 75, 76, 77};
+
+std::shared_ptr<clsTxtParser> fileOf(const char* name) {
+    return Archive ? Archive->GetFile(name) : nullptr;
+}
+
+/// The text that a field names, or its place in brackets; empty for an empty field.
+QString textOf(const clsTXTObject& job, std::int32_t field) {
+    const std::string_view id = GetJobText(job, field);
+    const auto number = GetJobInteger(job, field);
+    const auto text = number ? ResourceText(namesPage, *number) : std::nullopt;
+    if (text || id.empty())
+        return ToScreen(text.value_or(""));
+    return QStringLiteral("[%1:%2]").arg(QString::number(namesPage), ToScreen(id));
+}
+
+QString nameOf(const clsTXTObject& job) {
+    const std::string name = JobResourceName(job);
+    return ToScreen(name.empty() ? GetJobText(job, jobfield::Name) : name);
+}
+
+} // namespace
+
+// The file
+
+bool ucJob::LornQueryInterface(std::int32_t OType) const {
+    return OType == otype::Jobs;
+}
+
+bool ucJob::Init(clsTxtParser& Parser) {
+    const bool taken = RecordPanel::Init(Parser);
+    LoadFiles();
+    UpdateEnabled();
+    RefreshViews();
+    return taken;
+}
+
+void ucJob::LoadFiles() {
+    m_ship->SetShips(fileOf("TShips").get(), Settings && Settings->LoadDescriptions());
+    m_wings.reset();
+    if (const auto wings = fileOf("JobWings"))
+        m_wings.emplace(*wings);
+    for (JobBoxes* boxes : m_boxes)
+        boxes->Rename();
+}
+
+std::string ucJob::ObjectTypeName(std::int32_t OType) const {
+    if (!LornQueryInterface(OType))
+        return {};
+    return "Jobs v." + std::to_string(Parser() ? Parser()->Version() : 0);
+}
+
+std::string ucJob::PageName(std::int32_t OType) const {
+    Q_UNUSED(OType);
+    return tr("Job info").toStdString();
+}
+
+std::int32_t ucJob::LornQueryInfo(std::int32_t OType) const {
+    return LornQueryInterface(OType) ? panelinfo::HasNames : 0;
+}
+
+// Rows of the record list
+
+std::string ucJob::ObjectName(const RecordPtr& Object) const {
+    std::string name(GetJobText(*Object, jobfield::Number));
+    return name.append(" - ").append(JobResourceName(*Object));
+}
+
+std::string ucJob::GetResourceName(const RecordPtr& Object) const {
+    return JobResourceName(*Object);
+}
+
+// The file's records
+
+RecordPtr ucJob::CreateObject(std::int32_t OType, clsTxtParser& Parser, const RecordPtr& Before) {
+    if (!LornQueryInterface(OType)) {
+        SetLastError("Invalid object type.");
+        return {};
+    }
+    const auto size = JobSize(Parser.Version());
+    if (!size) {
+        SetLastError("Unkown object size for Job version " + std::to_string(Parser.Version()));
+        return {};
+    }
+    RecordPtr made = Parser.CreateObjectBefore(Before);
+    made->Construct(*size);
+    return made;
+}
+
+bool ucJob::LornAssignUniqueObjectName(const RecordPtr& Object) {
+    SetJobValue(*Object, jobfield::Number, keshobjects::readValue(NewObjectName(*Parser())));
+    return SetJobValue(*Object, jobfield::Name, std::string("NEW JOB"));
+}
+
+// Fields
+
+std::int32_t ucJob::FieldPlace(const RecordPtr& Object, std::int32_t Index) const {
+    return JobPhysicalIndex(Object->size(), Index);
+}
+
+bool ucJob::LornTranslateValue(const RecordPtr& Object, std::int32_t Index, std::string& Text,
+                               bool Raw) const {
+    Q_UNUSED(Raw);
+    Text = GetJobText(*Object, Index);
+    return true;
+}
+
+bool ucJob::LornTranslateValueBack(const RecordPtr& Object, std::string& Text, std::int32_t Index,
+                                   KeshValue& Value) {
+    Q_UNUSED(Object);
+    Q_UNUSED(Index);
+    const auto number = EnteredNumber(Text);
+    if (number)
+        Value = *number;
+    return number.has_value();
+}
+
+// Changes
+
+void ucJob::Change(const std::function<void(clsTXTObject&)>& Write) {
+    HandleKey([&] {
+        const RecordPtr job = CurrentObject();
+        if (job && !ReadOnly()) {
+            Write(*job);
+            Q_EMIT OnObjectChanged(job);
+        }
+        RefreshViews(); // also of what could not be written
+    });
+}
+
+void ucJob::PickRole(int Role) {
+    Change([=](clsTXTObject& job) {
+        for (std::int32_t place = 0; place < jobflags::Roles.Count; ++place)
+            SetJobValue(job, jobflags::Roles.First + place, place == Role ? 1 : 0);
+    });
+}
+
+bool ucJob::FinishEntry() {
+    m_ship->FinishEntry();
+    return RecordPanel::FinishEntry();
+}
+
+void ucJob::ObjectReset(const RecordPtr& Object) {
+    if (Object == CurrentObject())
+        RefreshViews();
+}
+
+// The job on view
+
+void ucJob::ShowObject(const RecordPtr& Object, std::int32_t OType) {
+    Q_UNUSED(OType);
+    SetCurrentObject(Object);
+    UpdateEnabled();
+    RefreshViews();
+    WarnOfOldFile();
+}
+
+void ucJob::WarnOfOldFile() {
+    if (!Job() || Job()->size() >= presentSize || std::exchange(m_warned, true))
+        return;
+    Say(tr("Warning - this is old Job file (ver. %1)\n\n"
+           "It's possible that not all user controls will behave correctly.")
+            .arg(Parser()->Version()),
+        BoxIcon::Exclamation);
+}
+
+void ucJob::RefreshViews() {
+    m_filled.fill(false);
+    ShowFields();
+    for (int tab = 0; tab < m_filled.size() && !Job(); ++tab)
+        FillTab(tab);
+    FillTab(m_tabs->currentIndex());
+}
+
+void ucJob::ShowTab() {
+    HandleKey([this] { FillTab(m_tabs->currentIndex()); });
+}
+
+/// Tabs whose views take longer.
+void ucJob::FillTab(int Tab) {
+    if (std::exchange(m_filled[Tab], true))
+        return;
+    if (Tab == Info)
+        ShowInfo();
+    else if (Tab == Weapons)
+        m_equipment->SetRows(RowsOf(equipmentFields));
+    else if (Tab == Wings)
+        FillWings();
+    else if (Tab == Wares)
+        FillWares();
+}
+
+void ucJob::ShowFields() {
+    for (JobBoxes* boxes : m_boxes)
+        boxes->Show(Job());
+    for (const auto& [field, edit] : m_edits) {
+        edit->setText(Job() ? ToScreen(GetJobText(*Job(), field)) : QString());
+        edit->setCursorPosition(0);
+    }
+    m_ship->Show(Job() ? std::optional<std::string>(GetJobText(*Job(), jobfield::Ship))
+                       : std::nullopt);
+    m_shipName->setText(Job() ? textOf(*Job(), jobfield::ShipName) : QString());
+    ShowRole();
+}
+
+void ucJob::ShowRole() {
+    const auto set = Job() ? JobFlagsSet(*Job(), jobflags::Roles) : std::vector<std::int32_t>();
+    m_roles->setExclusive(false); // else one of them would stay
+    for (QAbstractButton* button : m_roles->buttons())
+        button->setChecked(!set.empty() && m_roles->id(button) == set.front());
+    m_roles->setExclusive(true);
+}
+
+void ucJob::ShowInfo() {
+    QList<PropertyRow> rows = RowsOf(infoFields);
+    if (rows.size() >= descriptionRow)
+        rows.insert(descriptionRow, {PropertyRow::Computed, tr("Description text"),
+                                     textOf(*Job(), jobfield::Description)});
+    m_fields->SetRows(std::move(rows));
+    const auto shipName = [this](const std::string& id) { return m_ship->Ships().TextOf(id); };
+    m_summary->setText(Job() ? JobSummary(*Job(), shipName) : QString());
+    m_summary->setToolTip(PlainTip(m_summary->text()).toString());
+}
+
+void ucJob::FillWings() {
+    if (!Job() || !m_wings) {
+        m_wingJobs->SetColumns({}, {});
+        return;
+    }
+    if (const RecordPtr wing = m_wings->Find(GetJobValue(*Job(), jobfield::Wing)))
+        ShowWing(*wing);
+    else
+        m_wingJobs->SetColumns(
+            {tr("Wing %1 not found").arg(ToScreen(GetJobText(*Job(), jobfield::Wing)))}, {});
+}
+
+void ucJob::ShowWing(const clsTXTObject& Wing) {
+    const auto jobs = JobsOf(Wing);
+    QList<TextRow> rows;
+    for (std::int32_t i = 1; i < Wing.size(); ++i) {
+        const QString id = ToScreen(Wing.ValueText(i));
+        const auto number = Wing.ValueInteger(i);
+        const RecordPtr job = number ? jobs.value(*number) : nullptr;
+        rows.append(job ? TextRow{id, {id, nameOf(*job)}}
+                        : TextRow{id, {tr("%1 (not found)").arg(id), {}}});
+    }
+    m_wingJobs->SetColumns({tr("ID"), tr("Name")}, {wingIdWidth});
+    m_wingJobs->SetRows(std::move(rows));
+}
+
+/// The jobs of a wing that the file has, by their number.
+QHash<std::int32_t, RecordPtr> ucJob::JobsOf(const clsTXTObject& Wing) const {
+    QHash<std::int32_t, RecordPtr> jobs;
+    for (std::int32_t i = 1; i < Wing.size(); ++i)
+        if (const auto number = Wing.ValueInteger(i))
+            jobs.insert(*number, {});
+    for (const RecordPtr& job : Parser()->ByIndex())
+        if (const auto number = GetJobInteger(*job, jobfield::Number))
+            if (const auto found = jobs.find(*number); found != jobs.end() && !*found)
+                *found = job;
+    return jobs;
+}
+
+void ucJob::FillWares() {
+    if (!Job()) {
+        m_wares->Clear();
+        return;
+    }
+    m_wares->ShowWareList(GetJobInteger(*Job(), jobfield::WareList).value_or(-1),
+                          ToScreen(GetJobText(*Job(), jobfield::WareList)));
+}

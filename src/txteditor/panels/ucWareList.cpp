@@ -1,0 +1,78 @@
+#include "txteditor/panels/ucWareList.h"
+
+#include "tdata/mdlKeshConst.h"
+#include "txteditor/panels/WareListViewer.h"
+
+ucWareList::ucWareList(QWidget* Parent)
+    : RecordPanel(Parent), m_view(new TextRowsView("WareListView", tr("Wares of the list"), this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_view);
+}
+
+bool ucWareList::LornQueryInterface(std::int32_t OType) const {
+    return OType == otype::WareLists;
+}
+
+bool ucWareList::Init(clsTxtParser& Parser) {
+    if (!m_names)
+        m_names = std::make_unique<WareNames>(BuildWareList());
+    const bool taken = RecordPanel::Init(Parser);
+    RefreshViews();
+    return taken;
+}
+
+std::string ucWareList::ObjectTypeName(std::int32_t OType) const {
+    return LornQueryInterface(OType) ? tr("Ware List").toStdString() : std::string();
+}
+
+std::string ucWareList::PageName(std::int32_t OType) const {
+    return LornQueryInterface(OType) ? tr("Ware List info").toStdString() : std::string();
+}
+
+std::int32_t ucWareList::LornQueryInfo(std::int32_t OType) const {
+    Q_UNUSED(OType);
+    return 0;
+}
+
+void ucWareList::ShowObject(const RecordPtr& Object, std::int32_t OType) {
+    Q_UNUSED(OType);
+    SetCurrentObject(Object);
+    RefreshViews();
+}
+
+void ucWareList::ObjectReset(const RecordPtr& Object) {
+    if (Object == CurrentObject())
+        RefreshViews();
+}
+
+void ucWareList::RefreshViews() {
+    if (const RecordPtr& list = CurrentObject())
+        FillWareList(*m_view, m_names.get(), list.get(), QString::number(list->Index));
+    else
+        m_view->SetColumns({}, {});
+}
+
+RecordPtr ucWareList::CreateObject(std::int32_t OType, clsTxtParser& Parser,
+                                   const RecordPtr& Before) {
+    Q_UNUSED(OType);
+    Q_UNUSED(Parser);
+    Q_UNUSED(Before);
+    SetLastError(tr("Ware lists are only shown here; none can be added.").toStdString());
+    return {};
+}
+
+std::string ucWareList::LornGetPropertyName(const RecordPtr& Object, std::int32_t Index) const {
+    Q_UNUSED(Object);
+    Q_UNUSED(Index);
+    return {};
+}
+
+bool ucWareList::LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
+                                        std::int32_t Index, KeshValue& Value) {
+    Q_UNUSED(Object);
+    Q_UNUSED(Text);
+    Q_UNUSED(Index);
+    Q_UNUSED(Value);
+    return false;
+}

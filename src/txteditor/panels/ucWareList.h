@@ -1,0 +1,37 @@
+// The panel for WareLists: the wares of one list. It changes nothing.
+#pragma once
+
+#include "tdata/mdlWareList.h"
+#include "txteditor/panels/RecordPanel.h"
+
+#include <memory>
+
+class TextRowsView;
+
+class ucWareList final : public RecordPanel {
+    Q_OBJECT
+
+public:
+    explicit ucWareList(QWidget* Parent = nullptr);
+
+    [[nodiscard]] bool LornQueryInterface(std::int32_t OType) const override;
+    [[nodiscard]] bool Init(clsTxtParser& Parser) override;
+    [[nodiscard]] std::string ObjectTypeName(std::int32_t OType) const override;
+    [[nodiscard]] std::string PageName(std::int32_t OType) const override;
+    [[nodiscard]] std::int32_t LornQueryInfo(std::int32_t OType) const override;
+    void ShowObject(const RecordPtr& Object, std::int32_t OType) override;
+    RecordPtr CreateObject(std::int32_t OType, clsTxtParser& Parser,
+                           const RecordPtr& Before) override;
+    [[nodiscard]] std::string LornGetPropertyName(const RecordPtr& Object,
+                                                  std::int32_t Index) const override;
+    [[nodiscard]] bool LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
+                                              std::int32_t Index, KeshValue& Value) override;
+    void ObjectReset(const RecordPtr& Object) override;
+
+protected:
+    void RefreshViews() override;
+
+private:
+    TextRowsView* m_view;
+    std::unique_ptr<WareNames> m_names;
+};

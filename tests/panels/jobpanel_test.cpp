@@ -1,0 +1,382 @@
+// A window with a Jobs file in it.
+#include "panels/paneltest.h"
+#include "support/gametexts.h"
+#include "tdata/mdlKeshJobs.h"
+#include "txteditor/panels/ucJob.h"
+
+#include <random>
+
+namespace {
+
+constexpr int sizes[] = {120, 119, 117};
+
+struct BoxRow {
+    const char* Name;
+    int First;
+    int Count;
+    int Tab;
+};
+constexpr BoxRow boxRows[] = {
+    {"chkShipNameFlags", 9, 4, jobtabs::Info},
+    {"chkShipClass", 19, 9, jobtabs::Ship},
+    {"chkShipRace", 28, 10, jobtabs::Ship},
+    {"chkShipVariant", 38, 17, jobtabs::Ship},
+    {"chkSectorFlags", 58, 6, jobtabs::Sector},
+    {"chkSectorFlagsInverted", 64, 1, jobtabs::Sector},
+    {"chkSectorCreationFlags", 67, 5, jobtabs::Sector},
+    {"chkOwnerRace", 78, 10, jobtabs::Race},
+    {"chkWeaponAllowDrones", 90, 1, jobtabs::Weapons},
+    {"chkWeaponForbid", 91, 5, jobtabs::Weapons},
+    {"chkWeaponAllow", 96, 8, jobtabs::Weapons},
+    {"chkPlacementVarious", 110, 5, jobtabs::Sector},
+};
+
+class JobPanel : public PanelTest<ucJob> {
+protected:
+    using Values = QMap<int, QByteArray>; ///< by logical field
+
+    /// A job whose zeros have a spelling of their own, and whose name may hold anything.
+    static QByteArray job(int size, const Values& own) {
+        QByteArray text;
+        for (int place = 0; place < size - 1; ++place)
+            text += own.value(JobLogicalIndex(size, place), "00") + ";";
+        return text + own.value(119, "Night; ferry // by \xE4");
+    }
+    static QByteArray version(int size) { return size == 120 ? "10" : size == 119 ? "9" : "8"; }
+    /// In a new window.
+    void startWith(int size, const QList<Values>& jobs) {
+        if (window) {
+            delete window.data();
+            panel = new ucJob;
+        }
+        QByteArray text = version(size) + ";\r\n";
+        for (const Values& values : jobs)
+            text += job(size, values) + "\r\n";
+        startWithFile("Jobs.txt", text);
+        if (size < 120)
+            script.Box(QStringLiteral("Warning - this is old Job file (ver. %1)")
+                           .arg(QString::fromLatin1(version(size))));
+        pick("ObjectView", 0);
+    }
+    [[nodiscard]] QCheckBox* box(const BoxRow& row, int place) const {
+        const QByteArray number = row.Count > 1 ? QByteArray::number(place) : QByteArray();
+        return child<QCheckBox>((row.Name + number).constData());
+    }
+    /// The logical field's value in the record.
+    [[nodiscard]] std::string field(int logical, int index = 0) const {
+        const RecordPtr found = window->Parser().FindIndex(index);
+        return std::string(found->ValueText(JobPhysicalIndex(found->size(), logical)));
+    }
+    [[nodiscard]] QComboBox* ships() const { return child<QComboBox>("cmbShipTypeID"); }
+    [[nodiscard]] QString summary() const { return label("lblSummary"); }
+    void useShips() {
+        QByteArray text = "49;4;\r\n";
+        for (const char* own :
+             {"SHIP_A;7;1;0", "SHIP_B;7;19;3", "F\xE4HRE;99;2;0", "SHIP_C;7;1;0"}) {
+            const QList<QByteArray> parts = QByteArray(own).split(';');
+            for (int i = 0; i < 64; ++i)
+                text += (i == 6 ? parts[1] : i == 45 ? parts[2] : i == 50 ? parts[3] : "0") + ";";
+            text += parts[0] + ";\r\n";
+        }
+        write("data/types/TShips.txt", text);
+        write("data/types/JobWings.txt", "5;100,7,101;\r\n6;100;\r\n");
+        write("data/types/WareLists.txt", "1;\r\n1;SS_SALT;\r\n");
+        openGame();
+    }
+};
+
+TEST_F(JobPanel, ShowsTheFieldsOfAJob) {
+    const support::GameTexts texts("<page id=\"17\"><string id=\"5\">Falcon</string>"
+                                   "<string id=\"6\">Salt run</string></page>");
+    Settings->SetLoadDescriptions(true);
+    startWith(120, {{{0, "100"},
+                     {1, "RUN"},
+                     {2, "3"},
+                     {3, "2"},
+                     {6, "6"},
+                     {8, "5"},
+                     {17, "60"},
+                     {18, ""},
+                     {21, "1"},
+                     {22, "1"},
+                     {28, "1"},
+                     {85, "1"},
+                     {65, "4"},
+                     {89, "25"}}});
+    EXPECT_EQ(caption(), caption("Jobs.txt", QStringLiteral("Jobs v.10")));
+    EXPECT_EQ(child<QTabWidget>("MainTab")->tabText(1), QStringLiteral("Job info"));
+    EXPECT_EQ(column("ObjectView")[0], QStringLiteral("Falcon Salt run"));
+    child<QRadioButton>("rbName2")->click();
+    EXPECT_EQ(column("ObjectView")[0], QStringLiteral("100 - Falcon Salt run"));
+    EXPECT_TRUE(
+        rows("PropView").startsWith(QStringLiteral("ID=100|Name=RUN|Description text=Salt run|")));
+    EXPECT_EQ(column("PropView", 2).join(u' '),
+              QStringLiteral("0 1  6 4 5 2 3 13 14 15 16 17 55 56 57 109 73"));
+    EXPECT_EQ(child<QLineEdit>("ShipNameIDEdit")->text(), QStringLiteral("5"));
+    EXPECT_EQ(label("lblShipName"), QStringLiteral("Falcon"));
+    EXPECT_EQ(summary(), QStringLiteral("up to 3, 2 in a sector; M3, M4 of Argon; owned by Goner; "
+                                        "sector X 4, Y 0; again after 60"));
+    showTab(jobtabs::Weapons);
+    EXPECT_EQ(column("EquipView", 2).join(u' '), QStringLiteral("88 89 106 107 108 74 75 76 77"));
+    EXPECT_EQ(value("EquipView", QStringLiteral("Laser")), QStringLiteral("25"));
+    panel->ShowObject({}, otype::Jobs);
+    EXPECT_EQ(rows("EquipView") + summary() + label("lblShipName"), QString());
+    EXPECT_FALSE(ships()->isEnabled());
+}
+
+TEST_F(JobPanel, EachBoxStandsForItsField) {
+    for (const int size : sizes) {
+        startWith(size, {{}});
+        const std::string before = record();
+        for (const BoxRow& row : boxRows)
+            for (int place = 0; place < row.Count; ++place) {
+                SCOPED_TRACE(testing::Message() << size << row.Name << place);
+                showTab(row.Tab);
+                box(row, place)->setFocus();
+                QTest::keyClick(box(row, place), Qt::Key_Space);
+                QStringList values = QString::fromLatin1(before).split(u';');
+                values[JobPhysicalIndex(size, row.First + place)] = QStringLiteral("1");
+                EXPECT_EQ(QString::fromLatin1(record()), values.join(u';'));
+                EXPECT_TRUE(box(row, place)->isChecked());
+                trigger("undo");
+                EXPECT_EQ(record(), before);
+                EXPECT_FALSE(box(row, place)->isChecked());
+            }
+        EXPECT_FALSE(child<QAction>("undo")->isEnabled());
+    }
+}
+
+TEST_F(JobPanel, ABoxForAMissingFieldShowsItsNeighbour) {
+    startWith(117, {{{37, "1"}}});
+    const BoxRow& races = boxRows[2];
+    EXPECT_TRUE(box(races, 8)->isChecked());
+    EXPECT_TRUE(box(races, 8)->toolTip().contains(QStringLiteral("Yaki")));
+    showTab(jobtabs::Ship);
+    QTest::keyClick(box(races, 8), Qt::Key_Space);
+    EXPECT_FALSE(box(races, 9)->isChecked());
+}
+
+TEST_F(JobPanel, KeepsWhatIsNeitherYesNorNoUntilAClick) {
+    struct Case {
+        const char* Stored;
+        bool Shown;
+        const char* Clicked;
+    };
+    const Case cases[] = {
+        {"2", true, "0"}, {"yes", false, "1"}, {"", false, "1"}, {"0.5", true, "0"}};
+    for (const Case& c : cases) {
+        startWith(120, {{{78, c.Stored}}});
+        showTab(jobtabs::Race);
+        QCheckBox* race = child<QCheckBox>("chkOwnerRace0");
+        EXPECT_EQ(race->isChecked(), c.Shown);
+        EXPECT_EQ(field(78), c.Stored);
+        QTest::keyClick(race, Qt::Key_Space);
+        EXPECT_EQ(field(78), c.Clicked);
+        trigger("undo");
+        EXPECT_EQ(field(78), c.Stored);
+    }
+}
+
+TEST_F(JobPanel, OneClassificationAtATime) {
+    startWith(119, {{{115, "1"}, {116, "x"}}});
+    showTab(jobtabs::Ship);
+    EXPECT_TRUE(child<QRadioButton>("rbShipClassification0")->isChecked());
+    const std::string before = record();
+    QTest::keyClick(child<QRadioButton>("rbShipClassification2"), Qt::Key_Space);
+    EXPECT_EQ(field(115) + field(116) + field(117) + field(118), "00100");
+    trigger("undo");
+    EXPECT_EQ(record(), before);
+    EXPECT_TRUE(child<QRadioButton>("rbShipClassification0")->isChecked());
+    EXPECT_FALSE(child<QAction>("undo")->isEnabled());
+}
+
+TEST_F(JobPanel, EntersFieldsOfEachVersion) {
+    struct Case {
+        const char* View;
+        const char* Row;
+        int Tab;
+        int Field;
+        const char* Entered;
+    };
+    const Case cases[] = {
+        {"PropView", "Script function file", jobtabs::Info, 4, "dir/file//x"},
+        {"PropView", "Color - Saturation", jobtabs::Info, 56, "-1"},
+        {"PropView", "NPC ID", jobtabs::Info, 109, "7"},
+        {"EquipView", "Laser", jobtabs::Weapons, 89, "40"},
+    };
+    for (const int size : sizes) {
+        startWith(size, {{}});
+        for (const Case& c : cases) {
+            SCOPED_TRACE(testing::Message() << size << c.Row);
+            showTab(c.Tab);
+            const QString row = QString::fromLatin1(c.Row);
+            typeInPlace(c.View, row, QString::fromLatin1(c.Entered));
+            EXPECT_EQ(field(c.Field), c.Entered);
+            EXPECT_EQ(value(c.View, row), QString::fromLatin1(c.Entered));
+            trigger("undo");
+            selectField(c.View, row);
+            typeValue(QString::fromLatin1(c.Entered));
+            key(c.View, Qt::Key_Return);
+            EXPECT_EQ(field(c.Field), c.Entered);
+        }
+        showTab(jobtabs::Sector);
+        typeValue(QStringLiteral("33"));
+        QTest::mouseDClick(child<QLineEdit>("ChanceDockedEdit"), Qt::LeftButton);
+        EXPECT_EQ(field(72), "33");
+        EXPECT_EQ(child<QLineEdit>("ChanceDockedEdit")->text(), QStringLiteral("33"));
+    }
+}
+
+TEST_F(JobPanel, FindsAShipByAnyPartOfItsName) {
+    const support::GameTexts texts("<page id=\"17\"><string id=\"7\">Ferry</string>"
+                                   "<string id=\"10003\">Hauler</string></page>");
+    useShips();
+    Settings->SetLoadDescriptions(true);
+    startWith(120, {{{18, "SHIP_C"}}, {{18, "SHIP_GONE"}}, {{18, ""}}});
+    showTab(jobtabs::Ship);
+    EXPECT_EQ(ships()->count(), 5);
+    EXPECT_EQ(ships()->itemText(2), QStringLiteral("Yaki Ferry (Hauler)"));
+    EXPECT_EQ(ships()->currentText(), QStringLiteral("Argon Ferry"));
+    const auto enter = [&](const char* text) {
+        ships()->setFocus();
+        ships()->lineEdit()->selectAll();
+        for (const char sign : QByteArray(text))
+            if (static_cast<unsigned char>(sign) < 0x80)
+                QTest::keyClick(ships()->lineEdit(), sign);
+            else
+                ships()->lineEdit()->insert(QString(QLatin1Char(sign)));
+        ships()->completer()->popup()->hide();
+    };
+    struct Case {
+        const char* Typed;
+        const char* Stored;
+    };
+    const Case cases[] = {{"no ship", "SHIP_C"},          {"argon ferry", "SHIP_C"},
+                          {"ship_b", "SHIP_B"},           {"[empty]", ""},
+                          {"boron f\xE4hre", "F\xE4HRE"}, {"", "F\xE4HRE"}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Typed);
+        enter(c.Typed);
+        QTest::keyClick(ships()->lineEdit(), Qt::Key_Return);
+        EXPECT_EQ(field(18), c.Stored);
+    }
+    EXPECT_EQ(ships()->currentText(), QString::fromLatin1("Boron F\xE4HRE"));
+    enter("hau");
+    QTest::keyClick(ships()->lineEdit(), 'l');
+    QAbstractItemView* popup = ships()->completer()->popup();
+    EXPECT_EQ(popup->model()->rowCount(), 1);
+    QTest::keyClick(popup, Qt::Key_Down);
+    QTest::keyClick(popup, Qt::Key_Return);
+    EXPECT_EQ(field(18), "SHIP_B");
+    trigger("undo");
+    EXPECT_EQ(ships()->currentText(), QString::fromLatin1("Boron F\xE4HRE"));
+    enter("Yaki Ferry (Hauler)"); // and on to another record
+    pick("ObjectView", 1);
+    EXPECT_EQ(field(18), "SHIP_B");
+    EXPECT_EQ(ships()->currentText(), QStringLiteral("SHIP_GONE (not found)"));
+    enter("x");
+    QTest::keyClick(ships()->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(field(18, 1), "SHIP_GONE");
+    pick("ObjectView", 2);
+    EXPECT_EQ(ships()->currentText(), QStringLiteral("[empty]"));
+}
+
+TEST_F(JobPanel, FollowsWingAndWareList) {
+    useShips();
+    startWith(120, {{{0, "100"}, {1, "FIRST"}, {13, "5"}, {14, "0"}}, {{13, "9"}, {14, "x"}}});
+    showTab(jobtabs::Wings);
+    EXPECT_EQ(rows("WingsView"), QStringLiteral("100=FIRST|7 (not found)=|101 (not found)="));
+    showTab(jobtabs::Wares);
+    EXPECT_EQ(rows("WareListView"), QStringLiteral("SS_SALT=SS_SALT"));
+    const auto heading = [&](const char* name) {
+        return view(name)->model()->headerData(0, Qt::Horizontal).toString();
+    };
+    pick("ObjectView", 1);
+    EXPECT_EQ(heading("WareListView"), QStringLiteral("Ware list x not found"));
+    showTab(jobtabs::Wings);
+    EXPECT_EQ(heading("WingsView"), QStringLiteral("Wing 9 not found"));
+}
+
+TEST_F(JobPanel, WarnsOnceOfAnOldFile) {
+    startWith(117, {{}, {}});
+    EXPECT_EQ(script.Boxes.size(), 1U);
+    pick("ObjectView", 1);
+    window->OpenFile(program("Jobs.txt"));
+    pick("ObjectView", 0);
+    EXPECT_EQ(script.Boxes.size(), 1U);
+}
+
+TEST_F(JobPanel, AddsJobsOfTheVersionWithTheNextNumber) {
+    for (const int size : sizes) {
+        startWith(size, {{{0, "41"}}});
+        script.Box(QStringLiteral("before"), Answer::Yes);
+        trigger("mnuNew");
+        const RecordPtr made = window->Parser().FindIndex(0);
+        EXPECT_EQ(made->size(), size);
+        EXPECT_EQ(field(0) + field(1), "42NEW JOB");
+        EXPECT_EQ(window->SelectedObject(), made);
+        trigger("undo");
+        EXPECT_EQ(field(0), "41");
+    }
+    clsTxtParser other;
+    EXPECT_FALSE(panel->CreateObject(otype::Jobs, other, {}));
+    EXPECT_EQ(panel->GetLastError(), "Unkown object size for Job version 0");
+    EXPECT_TRUE(other.ByIndex().empty());
+}
+
+TEST_F(JobPanel, ReadOnlyItChangesNothing) {
+    useShips();
+    startWith(120, {{{18, "SHIP_A"}}});
+    panel->SetReadOnly(true);
+    pick("ObjectView", 0);
+    const std::string before = record();
+    for (const BoxRow& row : boxRows) {
+        showTab(row.Tab);
+        QTest::mouseClick(box(row, 0), Qt::LeftButton);
+        QTest::keyClick(box(row, 0), Qt::Key_Space);
+    }
+    showTab(jobtabs::Ship);
+    child<QRadioButton>("rbShipClassification1")->click();
+    QTest::keyClick(ships(), Qt::Key_Down);
+    showTab(jobtabs::Sector);
+    QTest::mouseDClick(child<QLineEdit>("SectorXEdit"), Qt::LeftButton); // a dialog would stay
+    showTab(jobtabs::Info);
+    selectField("PropView", QStringLiteral("Name"));
+    key("PropView", Qt::Key_F2);
+    EXPECT_FALSE(editorIn("PropView"));
+    EXPECT_EQ(record(), before);
+    EXPECT_FALSE(child<QAction>("undo")->isEnabled());
+}
+
+/// Whatever stands in a file, it is shown, and saved as it is but for what was clicked.
+TEST_F(JobPanel, TakesAnyContentAndSavesTheRestAsItWas) {
+    constexpr const char* spellings[] = {"",  "0",    "1",           "007",      "-0.50", "1e3",
+                                         "x", "a/*b", "99999999999", "\xE4\xFF", "//",    "%1 %2"};
+    std::mt19937 random(5); // NOLINT(cert-msc51-cpp): the same each time
+    QList<Values> jobs(6);
+    for (Values& values : jobs)
+        for (int i = 0; i < 119; ++i)
+            values[i] = spellings[random() % std::size(spellings)];
+    useShips();
+    startWith(120, jobs);
+    QByteArray expected = "10;\r\n";
+    for (int i = 0; i < jobs.size(); ++i) {
+        pick("ObjectView", i);
+        for (int tab = 0; tab < tabs()->count(); ++tab)
+            showTab(tab);
+        showTab(jobtabs::Race);
+        const BoxRow& owners = boxRows[7];
+        for (const bool undone : {true, false}) {
+            QTest::keyClick(box(owners, i), Qt::Key_Space);
+            if (undone)
+                trigger("undo");
+        }
+        jobs[i][owners.First + i] = box(owners, i)->isChecked() ? "1" : "0";
+        expected += job(120, jobs[i]) + "\r\n";
+    }
+    script.Save(FileChoice{native("saved.txt"), 1});
+    trigger("save");
+    EXPECT_EQ(read("saved.txt"), expected.toStdString());
+}
+
+} // namespace

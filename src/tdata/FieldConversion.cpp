@@ -76,6 +76,46 @@ const FieldConversion* FindConversion(std::span<const FieldConversion> Rows,
     return found == Rows.end() ? nullptr : &*found;
 }
 
+// --- The conversions of a type
+
+StoredField FieldConverter::FieldOf(const clsTXTObject& Record, std::int32_t Index,
+                                    const FieldConversion& Row) const {
+    return {Record, Index, m_version, ListOf(Row)};
+}
+
+const ChoiceList* FieldConverter::ListOf(const FieldConversion& Row) const {
+    return Row.List < 0 ? nullptr : &m_lists[static_cast<std::size_t>(Row.List)];
+}
+
+std::vector<std::string> FieldConverter::Values(const clsTXTObject& Record,
+                                                std::int32_t Index) const {
+    const FieldConversion* const row = RowOf(Record, Index);
+    const ChoiceList* const list = row != nullptr ? ListOf(*row) : nullptr;
+    std::vector<std::string> values;
+    if (list != nullptr)
+        std::copy_if(list->Rows.begin(), list->Rows.end(), std::back_inserter(values),
+                     [](const std::string& text) { return !text.empty(); });
+    return values;
+}
+
+bool FieldConverter::Translate(const clsTXTObject& Record, std::int32_t Index, std::string& Text,
+                               bool Raw) const {
+    const FieldConversion* const row = RowOf(Record, Index);
+    auto shown = row != nullptr ? row->Shown(FieldOf(Record, Index, *row), Raw) : std::nullopt;
+    if (shown)
+        Text = std::move(*shown);
+    return shown.has_value();
+}
+
+bool FieldConverter::TranslateBack(const clsTXTObject& Record, const std::string& Text,
+                                   std::int32_t Index, KeshValue& Value) const {
+    const FieldConversion* const row = RowOf(Record, Index);
+    auto read = row != nullptr ? row->Read(FieldOf(Record, Index, *row), Text) : std::nullopt;
+    if (read)
+        Value = std::move(*read);
+    return read.has_value();
+}
+
 // --- Numbers
 
 std::optional<double> NumberAt(const clsTXTObject& Record, std::int32_t Index) {

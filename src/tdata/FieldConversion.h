@@ -55,6 +55,45 @@ struct FieldConversion {
 [[nodiscard]] const FieldConversion* FindConversion(std::span<const FieldConversion> Rows,
                                                     const clsTXTObject& Record, std::int32_t Index);
 
+/// The conversions of one type in files of one version, with the lists that they choose from.
+class FieldConverter {
+public:
+    FieldConverter(const FieldConverter&) = delete;
+    FieldConverter& operator=(const FieldConverter&) = delete;
+    virtual ~FieldConverter() = default;
+
+    [[nodiscard]] std::int32_t Version() const noexcept { return m_version; }
+    /// What a field may be chosen from, without rows that have no text; empty for one that has no
+    /// list.
+    [[nodiscard]] std::vector<std::string> Values(const clsTXTObject& Record,
+                                                  std::int32_t Index) const;
+    /// The text of a value, Raw: without its unit. False, and Text as it was, where the value is
+    /// best shown as it is stored.
+    bool Translate(const clsTXTObject& Record, std::int32_t Index, std::string& Text,
+                   bool Raw) const;
+    /// The value for an entered text. False, and Value as it was, for a text that is none.
+    bool TranslateBack(const clsTXTObject& Record, const std::string& Text, std::int32_t Index,
+                       KeshValue& Value) const;
+
+protected:
+    explicit FieldConverter(std::size_t Lists) : m_lists(Lists) {}
+    void SetVersion(std::int32_t Version) noexcept { m_version = Version; }
+    [[nodiscard]] ChoiceList& List(std::int32_t Index) {
+        return m_lists[static_cast<std::size_t>(Index)];
+    }
+    /// The row of a field, null if it has none.
+    [[nodiscard]] virtual const FieldConversion* RowOf(const clsTXTObject& Record,
+                                                       std::int32_t Index) const = 0;
+
+private:
+    [[nodiscard]] const ChoiceList* ListOf(const FieldConversion& Row) const;
+    [[nodiscard]] StoredField FieldOf(const clsTXTObject& Record, std::int32_t Index,
+                                      const FieldConversion& Row) const;
+
+    std::vector<ChoiceList> m_lists;
+    std::int32_t m_version = 0;
+};
+
 /// Without the blanks around it, which are no part of a value.
 [[nodiscard]] std::string_view TrimmedValue(std::string_view Text);
 

@@ -37,7 +37,7 @@ constexpr std::int32_t RacePage = 1266;
 constexpr double UnitsPerMetre = 500;
 constexpr double SecondsPerMinute = 60;
 
-enum ShipList : std::int32_t { Classes, Types, ShieldTypes, Races, CargoSizes };
+enum ShipList : std::int32_t { Classes, Types, ShieldTypes, Races, CargoSizes, ListCount };
 
 // --- Conversions
 
@@ -214,6 +214,8 @@ std::optional<float> TunedShipSpeed(const clsTXTObject& Ship) {
     return speed && tunings ? Single(*speed + *tunings * (double{*speed} / 10)) : std::nullopt;
 }
 
+ShipFields::ShipFields() : FieldConverter(ListCount) {}
+
 void ShipFields::LoadFiles() {
     if (m_loaded)
         return;
@@ -229,19 +231,19 @@ void ShipFields::LoadFiles() {
         m_shields = shields;
     if (const File cockpits = FileOf("TCockpits"))
         m_cockpits.Load(*cockpits);
-    m_lists[ShieldTypes] = ShieldChoices(shields.get());
-    m_lists[Races] = RaceChoices();
-    m_lists[CargoSizes] = CargoChoices();
+    List(ShieldTypes) = ShieldChoices(shields.get());
+    List(Races) = RaceChoices();
+    List(CargoSizes) = CargoChoices();
 }
 
 void ShipFields::SetVersion(std::int32_t Version) {
-    m_version = Version;
-    m_lists[Classes] = ClassChoices(Version, Symbolic());
-    m_lists[Types] = TypeChoices(Version, Symbolic());
+    FieldConverter::SetVersion(Version);
+    List(Classes) = ClassChoices(Version, Symbolic());
+    List(Types) = TypeChoices(Version, Symbolic());
 }
 
 bool ShipFields::Symbolic() const noexcept {
-    return m_version >= FirstSymbolicShips;
+    return Version() >= FirstSymbolicShips;
 }
 
 RecordPtr ShipFields::Shield(const clsTXTObject& Ship) const {
@@ -276,37 +278,8 @@ std::string ShipFields::Shown(const clsTXTObject& Ship, std::int32_t Index) cons
 
 // --- Conversions
 
-StoredField ShipFields::FieldOf(const clsTXTObject& Ship, std::int32_t Index,
-                                const FieldConversion& Row) const {
-    return {Ship, Index, m_version, ListOf(Row)};
-}
-
-const ChoiceList* ShipFields::ListOf(const FieldConversion& Row) const {
-    return Row.List < 0 ? nullptr : &m_lists[static_cast<std::size_t>(Row.List)];
-}
-
-std::vector<std::string> ShipFields::Values(const clsTXTObject& Ship, std::int32_t Index) const {
-    const FieldConversion* const row = FindConversion(Conversions, Ship, Index);
-    const ChoiceList* const list = row != nullptr ? ListOf(*row) : nullptr;
-    return list != nullptr ? list->Rows : std::vector<std::string>();
-}
-
-bool ShipFields::Translate(const clsTXTObject& Ship, std::int32_t Index, std::string& Text,
-                           bool Raw) const {
-    const FieldConversion* const row = FindConversion(Conversions, Ship, Index);
-    const auto shown = row != nullptr ? row->Shown(FieldOf(Ship, Index, *row), Raw) : std::nullopt;
-    if (shown)
-        Text = *shown;
-    return shown.has_value();
-}
-
-bool ShipFields::TranslateBack(const clsTXTObject& Ship, const std::string& Text,
-                               std::int32_t Index, KeshValue& Value) const {
-    const FieldConversion* const row = FindConversion(Conversions, Ship, Index);
-    const auto read = row != nullptr ? row->Read(FieldOf(Ship, Index, *row), Text) : std::nullopt;
-    if (read)
-        Value = *read;
-    return read.has_value();
+const FieldConversion* ShipFields::RowOf(const clsTXTObject& Ship, std::int32_t Index) const {
+    return FindConversion(Conversions, Ship, Index);
 }
 
 std::string ShipFields::RechargeTime(const clsTXTObject& Ship) const {

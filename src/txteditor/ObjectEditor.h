@@ -24,6 +24,13 @@ inline constexpr std::int32_t HasRaces = 2;
 inline constexpr std::int32_t HasClasses = 4;
 } // namespace panelinfo
 
+/// By what a panel lets the list of records be narrowed.
+struct RecordFilter {
+    std::string Name; ///< what is chosen
+    std::string Any;  ///< reads for no choice
+    std::vector<std::string> Choices;
+};
+
 class ObjectEditor : public QWidget {
     Q_OBJECT
 
@@ -57,6 +64,19 @@ public:
     [[nodiscard]] virtual std::string
     GetResourceName(const RecordPtr& Object) const = 0; ///< may be empty
 
+    /// What no two records of a file should share; empty for one that has none yet.
+    [[nodiscard]] virtual std::string UniqueName(const RecordPtr& Object) const {
+        return std::string(Object->ObjectName());
+    }
+    [[nodiscard]] virtual std::vector<RecordFilter> Filters() const { return {}; }
+    /// Whether a record belongs to a choice of a filter.
+    [[nodiscard]] virtual bool Passes(const RecordPtr& Object, int Filter, int Choice) const {
+        Q_UNUSED(Object);
+        Q_UNUSED(Filter);
+        Q_UNUSED(Choice);
+        return true;
+    }
+
     // The selection and the file's records
     virtual void ShowObject(const RecordPtr& Object,
                             std::int32_t OType) = 0; ///< none clears the panel
@@ -70,6 +90,12 @@ public:
     virtual bool LornAssignUniqueObjectName(const RecordPtr& Object) = 0;
 
     // Fields
+    /// Where a field stands in a record: elsewhere if an older version of the type lacks some.
+    [[nodiscard]] virtual std::int32_t FieldPlace(const RecordPtr& Object,
+                                                  std::int32_t Index) const {
+        Q_UNUSED(Object);
+        return Index;
+    }
     [[nodiscard]] virtual std::string LornGetPropertyName(const RecordPtr& Object,
                                                           std::int32_t Index) const = 0;
     [[nodiscard]] virtual std::int32_t

@@ -56,8 +56,9 @@ TextEncoding EncodingOf(const clsTxtParser& File) {
 }
 
 ValueEntry::ValueEntry(ObjectEditor* Editor, RecordPtr Object, std::int32_t Index)
-    : m_editor(Editor), m_object(std::move(Object)), m_index(Index) {
+    : m_editor(Editor), m_object(std::move(Object)), m_index(Index), m_place(Index) {
     if (m_editor) {
+        m_place = m_editor->FieldPlace(m_object, m_index);
         m_class = m_editor->LornSupportValueTranslate(m_object, m_index);
         m_type = m_editor->LornGetValueType(m_object, m_index);
     }
@@ -91,7 +92,7 @@ QString ValueEntry::Unit() const {
 }
 
 QString ValueEntry::Text() {
-    m_shownBytes = m_objects ? m_object->ObjectName() : m_object->ValueText(m_index);
+    m_shownBytes = m_objects ? m_object->ObjectName() : m_object->ValueText(m_place);
     std::string translated;
     if (Translating() && m_editor->LornTranslateValue(m_object, m_index, translated, true))
         m_shownBytes = std::move(translated);
@@ -115,7 +116,9 @@ EnteredText ValueEntry::Encoded(const QString& Typed) const {
         for (std::string& choice : m_editor->LornGetPropertyValues(m_object, m_index))
             if (ToScreen(choice) == Typed)
                 return {std::move(choice), {}};
-    return encode(Typed, FileEncoding, AllowSlash);
+    // Where "/" may stand, the last value is the rest of its line, and no other keeps blanks.
+    const bool last = m_objects || m_place + 1 == m_object->size();
+    return encode(Typed, FileEncoding, AllowSlash && last);
 }
 
 QString ValueEntry::TakeName(const QString& Typed) {
@@ -145,7 +148,7 @@ QString ValueEntry::TakeValue(const QString& Typed) {
     QString refusal = signRefusal(keshobjects::spellValue(*value), AllowSlash);
     // An untouched text keeps the value's spelling, and what a translated one rounds away.
     if (refusal.isEmpty() && Typed != m_shown)
-        m_object->SetValue(m_index, *value);
+        m_object->SetValue(m_place, *value);
     return refusal;
 }
 

@@ -32,7 +32,7 @@ public:
     /// live as long as the entry.
     ValueEntry(RecordPtr Object, const std::vector<RecordPtr>& Objects);
 
-    bool AllowSlash = false; ///< lets a value hold "/", and blanks at its ends
+    bool AllowSlash = false; ///< lets a value hold "/", and the last one blanks at its ends
     std::function<TextEncoding()> FileEncoding;
     bool Translated = false; ///< of a Number: shown and entered with its unit, as at first
 
@@ -60,6 +60,7 @@ private:
     RecordPtr m_object;
     const std::vector<RecordPtr>* m_objects = nullptr; ///< of an ID
     std::int32_t m_index = 0;
+    std::int32_t m_place = 0; ///< of the field in the record
     std::int32_t m_class = translation::None;
     std::int32_t m_type = valuetype::String;
     QString m_shown; ///< the text that stands for the present value

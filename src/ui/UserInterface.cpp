@@ -89,6 +89,17 @@ public:
         return dialog.selectedFiles().value(0);
     }
 
+    std::optional<QColor> PickColor(QWidget* Owner, const QString& Title,
+                                    const QColor& Start) override {
+        QColorDialog dialog(Start, Owner);
+        dialog.setObjectName(QStringLiteral("ColorDialog"));
+        dialog.setWindowTitle(Title);
+        dialog.setOption(QColorDialog::DontUseNativeDialog);
+        if (dialog.exec() != QDialog::Accepted)
+            return {};
+        return dialog.selectedColor();
+    }
+
     bool RunProgram(const QString& Path, const QStringList& Arguments) override {
         return QProcess::startDetached(Path, Arguments, QFileInfo(Path).absolutePath());
     }

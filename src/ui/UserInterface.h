@@ -46,6 +46,8 @@ public:
     virtual std::optional<FileChoice> ShowSave(QWidget* Owner, const FileRequest& Request) = 0;
     virtual std::optional<QString> PickDirectory(QWidget* Owner, const QString& Title,
                                                  const QString& Start) = 0;
+    virtual std::optional<QColor> PickColor(QWidget* Owner, const QString& Title,
+                                            const QColor& Start) = 0;
     /// Starts a program in its own directory and lets it go; false if it did not start.
     [[nodiscard]] virtual bool RunProgram(const QString& Path, const QStringList& Arguments) = 0;
     /// Hands an address to the user's browser.

@@ -41,6 +41,9 @@ public:
     void Save(std::optional<FileChoice> choice) {
         m_steps.push_back({"save", {}, {}, choice, {}, {}});
     }
+    void Color(std::optional<QColor> color) {
+        Text("color", color ? std::optional(color->name()) : std::nullopt);
+    }
     /// A "directory".
     void Text(const char* kind, std::optional<QString> text) {
         m_steps.push_back({kind, {}, {}, {}, text, {}});
@@ -48,7 +51,7 @@ public:
 
     std::vector<MessageRequest> Boxes; ///< what was said
     std::vector<FileRequest> Files;    ///< what was chosen from
-    QString Offered;                   ///< directory last offered
+    QString Offered;                   ///< directory or colour last offered
     QStringList Started;               ///< programs and addresses
     QStringList Arguments;             ///< of the last program
     bool Starts = true;                ///< whether programs do
@@ -99,6 +102,12 @@ private:
                                              const QString& Start) override {
             m_script.Offered = Start;
             return m_script.Next("directory", Title).Words;
+        }
+        std::optional<QColor> PickColor(QWidget*, const QString& Title,
+                                        const QColor& Start) override {
+            m_script.Offered = Start.name();
+            const auto name = m_script.Next("color", Title).Words;
+            return name ? std::optional(QColor(*name)) : std::nullopt;
         }
         bool RunProgram(const QString& Path, const QStringList& Arguments) override {
             m_script.Started.append(Path);

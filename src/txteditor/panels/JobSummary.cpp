@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr qsizetype longestList = 4;
+constexpr qsizetype longestList = 3;
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(JobSummary)
@@ -19,6 +19,11 @@ QString listed(const QStringList& names) {
     const auto shown = longestList - 1;
     return Words::tr("%1 and %2 more")
         .arg(names.mid(0, shown).join(QStringLiteral(", ")), QString::number(names.size() - shown));
+}
+
+/// The same, or the words for all of a group.
+QString listedOf(const QStringList& names, const JobBoxRow& row, const QString& all) {
+    return names.size() == row.Flags.Count ? all : listed(names);
 }
 
 QString numberOf(const clsTXTObject& job, std::int32_t field) {
@@ -47,9 +52,14 @@ QString shipPart(const clsTXTObject& job,
     if (const std::string id(GetJobText(job, jobfield::Ship)); !id.empty())
         return shipName(id);
     const QStringList classes = JobCaptionsSet(job, JobClassBoxes);
+    const QString ships = classes.isEmpty()
+                              ? Words::tr("ships of no class")
+                              : listedOf(classes, JobClassBoxes, Words::tr("any class"));
     const QStringList races = JobCaptionsSet(job, JobShipRaceBoxes);
-    const QString ships = classes.isEmpty() ? Words::tr("ships of no class") : listed(classes);
-    return races.isEmpty() ? ships : Words::tr("%1 of %2").arg(ships, listed(races));
+    return races.isEmpty()
+               ? ships
+               : Words::tr("%1 of %2")
+                     .arg(ships, listedOf(races, JobShipRaceBoxes, Words::tr("any race")));
 }
 
 QString sectorPart(const clsTXTObject& job) {
@@ -63,7 +73,7 @@ QString placePart(const clsTXTObject& job) {
     const auto y = GetJobInteger(job, jobfield::SectorY);
     if (!x || !y || (*x == 0 && *y == 0))
         return {};
-    return Words::tr("sector X %1, Y %2").arg(*x).arg(*y);
+    return Words::tr("sector %1, %2").arg(*x).arg(*y);
 }
 
 QString creationPart(const clsTXTObject& job) {
@@ -92,8 +102,8 @@ QString JobSummary(const clsTXTObject& Job,
                       sectorPart(Job),
                       placePart(Job),
                       creationPart(Job),
-                      amount(Job, jobfield::Docked, Words::tr("docked at a chance of %1")),
-                      amount(Job, jobfield::Respawn, Words::tr("again after %1"))};
+                      amount(Job, jobfield::Docked, Words::tr("chance docked %1")),
+                      amount(Job, jobfield::Respawn, Words::tr("respawns after %1"))};
     parts.removeAll(QString());
     return parts.join(QStringLiteral("; "));
 }

@@ -4,6 +4,23 @@
 
 #include <algorithm>
 
+namespace {
+
+QVariant tagOf(std::int32_t field) {
+    switch (field) {
+    case PropertyRow::IdField:
+        return QStringLiteral("name");
+    case PropertyRow::Colour:
+        return QStringLiteral("color");
+    case PropertyRow::Computed:
+        return {};
+    default:
+        return field;
+    }
+}
+
+} // namespace
+
 void PropertyModel::SetRows(QList<PropertyRow> Rows) {
     const bool same =
         std::equal(Rows.begin(), Rows.end(), m_rows.begin(), m_rows.end(),
@@ -36,11 +53,13 @@ QVariant PropertyModel::data(const QModelIndex& index, int role) const {
     const PropertyRow* row = Row(index);
     if (!row)
         return {};
-    if (role == Qt::UserRole + 1 && row->Field != PropertyRow::Computed)
-        return row->Field == PropertyRow::IdField ? QVariant(QStringLiteral("name"))
-                                                  : QVariant(row->Field);
-    if (role == Qt::ToolTipRole && index.column() == ValueColumn)
+    const bool value = index.column() == ValueColumn;
+    if (role == Qt::UserRole + 1)
+        return tagOf(row->Field);
+    if (role == Qt::ToolTipRole && value)
         return PlainTip(row->Value);
+    if (role == Qt::DecorationRole && value && row->Swatch.isValid())
+        return row->Swatch;
     if (role != Qt::DisplayRole)
         return {};
     switch (index.column()) {
@@ -63,7 +82,7 @@ Qt::ItemFlags PropertyModel::flags(const QModelIndex& index) const {
     const PropertyRow* row = Row(index);
     if (!row)
         return Qt::NoItemFlags;
-    const bool edited = row->Field != PropertyRow::Computed;
+    const bool edited = row->Field >= PropertyRow::IdField;
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren |
            (edited && index.column() == ValueColumn ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }

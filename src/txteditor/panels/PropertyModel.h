@@ -8,16 +8,18 @@
 struct PropertyRow {
     static constexpr std::int32_t IdField = -1;  ///< the record's ID
     static constexpr std::int32_t Computed = -2; ///< stands in no field
+    static constexpr std::int32_t Colour = -3;   ///< of three fields together
 
     std::int32_t Field = Computed;
     QString Name;
     QString Value;
+    QColor Swatch = {}; ///< shown in front of the value if valid
 
     friend bool operator==(const PropertyRow&, const PropertyRow&) = default;
 };
 
 /// Columns "Name", "Value" and "[offset]". The tag of a row, under Qt::UserRole + 1, is its field's
-/// index, or "name" for the ID.
+/// index, "name" for the ID or "color".
 class PropertyModel : public QAbstractTableModel {
     Q_OBJECT
 

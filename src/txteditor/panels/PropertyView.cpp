@@ -79,6 +79,13 @@ PropertyView::PropertyView(const char* Name, RecordPanel& Editor, QWidget* Paren
     });
 }
 
+void PropertyView::SetRows(QList<PropertyRow> Rows) {
+    const int place = currentIndex().row();
+    m_model->SetRows(std::move(Rows));
+    if (place >= 0 && !currentIndex().isValid())
+        setCurrentIndex(m_model->index(std::min(place, m_model->rowCount() - 1), 0));
+}
+
 QWidget* PropertyView::OpenEntry(QWidget* Parent, const QModelIndex& Index) {
     const PropertyRow* row = m_model->Row(Index);
     if (!row)
@@ -192,7 +199,9 @@ void PropertyView::resizeEvent(QResizeEvent* event) {
 
 void PropertyView::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && state() != EditingState)
+    const PropertyRow* row = m_model->Row(currentIndex());
+    const bool special = row && row->Field == PropertyRow::Colour && event->key() == Qt::Key_F2;
+    if ((enter && state() != EditingState) || special)
         EditRow();
     else if (event->matches(QKeySequence::Copy) ||
              (event->key() == Qt::Key_Insert && event->modifiers() == Qt::ControlModifier))

@@ -13,7 +13,8 @@ class PropertyView : public QTreeView {
 public:
     PropertyView(const char* Name, RecordPanel& Editor, QWidget* Parent);
 
-    void SetRows(QList<PropertyRow> Rows) { m_model->SetRows(std::move(Rows)); }
+    /// The row of the same place stays selected.
+    void SetRows(QList<PropertyRow> Rows);
     /// What is being entered goes into the record; false if it is refused, and stays open.
     [[nodiscard]] bool FinishEntry();
 

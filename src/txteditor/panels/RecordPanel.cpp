@@ -108,7 +108,7 @@ PropertyRow RecordPanel::IdRow() const {
 }
 
 PropertyRow RecordPanel::RowOf(std::int32_t Field) const {
-    const QString stored = ToScreen(m_object->ValueText(Field));
+    const QString stored = ToScreen(m_object->ValueText(FieldPlace(m_object, Field)));
     PropertyRow row{Field, ToScreen(LornGetPropertyName(m_object, Field)), stored};
     std::string translated;
     try {
@@ -120,14 +120,13 @@ PropertyRow RecordPanel::RowOf(std::int32_t Field) const {
 }
 
 QString RecordPanel::RowText(const QString& Translated, const QString& Stored) const {
-    Q_UNUSED(Stored);
-    return Translated;
+    return QStringLiteral("%1 (%2)").arg(Translated, Stored);
 }
 
 QList<PropertyRow> RecordPanel::RowsOf(std::span<const std::int32_t> Fields) const {
     QList<PropertyRow> rows;
     for (const std::int32_t field : Fields)
-        if (m_object && field >= 0 && field < m_object->size())
+        if (m_object && field >= 0 && FieldPlace(m_object, field) < m_object->size())
             rows.append(RowOf(field));
     return rows;
 }
@@ -146,16 +145,22 @@ bool RecordPanel::MayEdit(std::int32_t Field) {
     return true;
 }
 
+bool RecordPanel::EditFields(std::int32_t Row) {
+    Q_UNUSED(Row);
+    return false;
+}
+
 bool RecordPanel::FollowEdit(std::int32_t Field) {
     Q_UNUSED(Field);
     return false;
 }
 
 std::optional<ValueEntry> RecordPanel::BeginEntry(std::int32_t Field) {
-    if (ReadOnly() || !m_object || Field == PropertyRow::Computed || !MayEdit(Field))
+    if (ReadOnly() || !m_object || Field < PropertyRow::IdField || !MayEdit(Field))
         return {};
     ValueEntry entry = Field == PropertyRow::IdField ? ValueEntry(m_object, m_parser->ByIndex())
                                                      : ValueEntry(this, m_object, Field);
+    entry.AllowSlash = AllowsSlash();
     entry.FileEncoding = FileEncoding();
     return entry;
 }
@@ -175,16 +180,21 @@ bool RecordPanel::EditField(std::int32_t Field) {
     HandleKey([&] {
         if (ReadOnly() || !m_object || Field == PropertyRow::Computed || !MayEdit(Field))
             return;
-        frmEdit dialog(this);
-        dialog.FileEncoding = FileEncoding();
-        if (Field == PropertyRow::IdField)
-            dialog.ShowName(m_object, m_parser->ByIndex());
-        else
-            dialog.ShowProperty(this, m_object, Field);
-        accepted = dialog.ModalResult() == resultOk;
+        accepted = Field < PropertyRow::IdField ? EditFields(Field) : EditInDialog(Field);
         EndEntry(Field, accepted);
     });
     return accepted;
+}
+
+bool RecordPanel::EditInDialog(std::int32_t Field) {
+    frmEdit dialog(this);
+    dialog.AllowSlash = AllowsSlash();
+    dialog.FileEncoding = FileEncoding();
+    if (Field == PropertyRow::IdField)
+        dialog.ShowName(m_object, m_parser->ByIndex());
+    else
+        dialog.ShowProperty(this, m_object, Field);
+    return dialog.ModalResult() == resultOk;
 }
 
 void RecordPanel::HandleKey(const std::function<void()>& Work) {

@@ -70,6 +70,10 @@ protected:
     /// What stands in a row for a translated value and the stored one.
     [[nodiscard]] virtual QString RowText(const QString& Translated, const QString& Stored) const;
 
+    /// Lets values hold "/", and the last one blanks at its ends.
+    [[nodiscard]] virtual bool AllowsSlash() const { return false; }
+    /// Edits a row that stands for several fields; true if they were changed.
+    virtual bool EditFields(std::int32_t Row);
     /// Asks whatever is to be asked before a field is changed.
     [[nodiscard]] virtual bool MayEdit(std::int32_t Field);
     /// A field was changed, or its entry was given up: puts right what depends on it. True if
@@ -79,6 +83,8 @@ protected:
     virtual void RefreshViews() = 0;
 
 private:
+    [[nodiscard]] bool EditInDialog(std::int32_t Field);
+
     clsTxtParser* m_parser = nullptr;
     RecordPtr m_object;
     std::string m_lastError;

@@ -29,6 +29,8 @@ constexpr std::int32_t infoFields[] = {0,  1,  6,  4,  5,  2,  3,   13, 14,
                                        15, 16, 17, 55, 56, 57, 109, 73};
 constexpr std::int32_t equipmentFields[] = {88, 89, 106, 107, 108, 74, 75, 76, 77};
 
+const JobBoxRow* const filterRows[] = {&JobOwnerBoxes, &JobClassBoxes};
+
 std::shared_ptr<clsTxtParser> fileOf(const char* name) {
     return Archive ? Archive->GetFile(name) : nullptr;
 }
@@ -97,6 +99,26 @@ std::string ucJob::ObjectName(const RecordPtr& Object) const {
 
 std::string ucJob::GetResourceName(const RecordPtr& Object) const {
     return JobResourceName(*Object);
+}
+
+/// A job's ID is its number, and 0 is none.
+std::string ucJob::UniqueName(const RecordPtr& Object) const {
+    const auto number = GetJobInteger(*Object, jobfield::Number);
+    return number.value_or(0) == 0 ? std::string() : std::to_string(*number);
+}
+
+std::vector<RecordFilter> ucJob::Filters() const {
+    std::vector<RecordFilter> filters{
+        {tr("Owner race").toStdString(), tr("Any owner race").toStdString(), {}},
+        {tr("Ship class").toStdString(), tr("Any ship class").toStdString(), {}}};
+    for (std::size_t i = 0; i < filters.size(); ++i)
+        for (std::int32_t place = 0; place < filterRows[i]->Flags.Count; ++place)
+            filters[i].Choices.push_back(filterRows[i]->Caption(place).toStdString());
+    return filters;
+}
+
+bool ucJob::Passes(const RecordPtr& Object, int Filter, int Choice) const {
+    return JobFlagSet(*Object, filterRows[Filter]->Flags.First + Choice);
 }
 
 // The file's records

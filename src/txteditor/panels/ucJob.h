@@ -30,6 +30,9 @@ public:
     [[nodiscard]] std::int32_t LornQueryInfo(std::int32_t OType) const override;
     [[nodiscard]] std::string ObjectName(const RecordPtr& Object) const override;
     [[nodiscard]] std::string GetResourceName(const RecordPtr& Object) const override;
+    [[nodiscard]] std::string UniqueName(const RecordPtr& Object) const override;
+    [[nodiscard]] std::vector<RecordFilter> Filters() const override;
+    [[nodiscard]] bool Passes(const RecordPtr& Object, int Filter, int Choice) const override;
     void ShowObject(const RecordPtr& Object, std::int32_t OType) override;
     RecordPtr CreateObject(std::int32_t OType, clsTxtParser& Parser,
                            const RecordPtr& Before) override;

@@ -22,6 +22,8 @@ QScrollArea* scrolled(QWidget* page) {
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidget(page);
+    for (QWidget* shown : {page, area->viewport()})
+        shown->setAutoFillBackground(false); // the tab's own shows
     return area;
 }
 

@@ -2,11 +2,12 @@
 
 #include "core/mdlComFunctions.h"
 #include "core/mdlCommon.h"
+#include "tdata/ShipExport.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshShips.h"
 #include "textres/ResourceText.h"
 #include "txteditor/ExportObjectToViewer.h"
-#include "txteditor/panels/ExportShipsFile.h"
+#include "txteditor/panels/ExportFile.h"
 #include "txteditor/panels/PropertyView.h"
 #include "txteditor/panels/ShipGunTab.h"
 #include "txteditor/panels/ShipTurretTab.h"
@@ -110,7 +111,20 @@ RecordPtr ucShip::ReportedObject(const QString& Line) const {
 }
 
 bool ucShip::KeshExportData(QWidget* Owner) {
-    return ExportShipsFile(Owner, *Parser(), m_fields);
+    constexpr std::size_t longExport = 10'000; // ships
+    ExportRequest request;
+    request.Title = tr("Export TShips");
+    request.Filter = tr("Semicolon delimeted file (*.txt)|*.txt|Record structure (*.txt)|*.txt");
+    request.Kind = "TE export";
+    request.Overwriting = tr("The ships would be lost: an export cannot be loaded again.");
+    request.LongWork = Parser()->ByIndex().size() > longExport;
+    request.Write = [this](std::int32_t file, int filter) {
+        std::string error;
+        const auto form = filter == 2 ? ExportForm::Records : ExportForm::Table;
+        static_cast<void>(ExportShips(file, *Parser(), m_fields, form, error));
+        return error;
+    };
+    return ExportFile(Owner, *Parser(), request);
 }
 
 // Rows of the record list
@@ -245,6 +259,11 @@ void ucShip::ShowObject(const RecordPtr& Object, std::int32_t OType) {
     SetCurrentObject(m_ship ? Object : nullptr);
     UpdateToolbar();
     RefreshViews();
+}
+
+QString ucShip::RowText(const QString& Translated, const QString& Stored) const {
+    Q_UNUSED(Stored);
+    return Translated;
 }
 
 void ucShip::RefreshViews() {

@@ -59,6 +59,7 @@ public:
 protected:
     [[nodiscard]] bool MayEdit(std::int32_t Field) override;
     bool FollowEdit(std::int32_t Field) override;
+    [[nodiscard]] QString RowText(const QString& Translated, const QString& Stored) const override;
     void RefreshViews() override;
 
 private:

@@ -1,4 +1,5 @@
 // The controls of the ship panel.
+#include "txteditor/panels/EntryFilter.h"
 #include "txteditor/panels/PropertyView.h"
 #include "txteditor/panels/ShipGunTab.h"
 #include "txteditor/panels/ShipTurretTab.h"
@@ -42,29 +43,6 @@ constexpr Button buttons[] = {
     {"delgun", QT_TRANSLATE_NOOP("ucShip", "Remove Gun"),
      QT_TRANSLATE_NOOP("ucShip", "Remove the last gun of the group (Del in the list)"), Guns, Guns,
      true},
-};
-
-/// Asks for an entry at a double click or Enter.
-class EntryFilter : public QObject {
-public:
-    EntryFilter(QObject* watched, std::function<void()> enter)
-        : QObject(watched), m_enter(std::move(enter)) {
-        watched->installEventFilter(this);
-    }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool key = event->type() == QEvent::KeyPress;
-        const int code = key ? static_cast<QKeyEvent*>(event)->key() : 0;
-        if (event->type() != QEvent::MouseButtonDblClick && code != Qt::Key_Return &&
-            code != Qt::Key_Enter)
-            return QObject::eventFilter(watched, event);
-        m_enter();
-        return true;
-    }
-
-private:
-    std::function<void()> m_enter;
 };
 
 } // namespace

@@ -102,10 +102,6 @@ void ucTurret::ShowObject(const RecordPtr& Object, std::int32_t OType) {
     RefreshViews();
 }
 
-QString ucTurret::RowText(const QString& Translated, const QString& Stored) const {
-    return QStringLiteral("%1 (%2)").arg(Translated, Stored);
-}
-
 void ucTurret::RefreshViews() {
     QList<PropertyRow> rows;
     if (CurrentObject()) {

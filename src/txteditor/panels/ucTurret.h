@@ -27,7 +27,6 @@ public:
                                               std::int32_t Index, KeshValue& Value) override;
 
 protected:
-    [[nodiscard]] QString RowText(const QString& Translated, const QString& Stored) const override;
     void RefreshViews() override;
 
 private:

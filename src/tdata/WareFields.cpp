@@ -1,0 +1,57 @@
+#include "tdata/WareFields.h"
+
+#include "tdata/FieldLookup.h"
+#include "tdata/WeaponSlots.h"
+#include "tdata/clsArchive.h"
+#include "tdata/mdlKeshConst.h"
+#include "tdata/mdlKeshWare.h"
+
+namespace {
+
+using namespace warelist;
+
+constexpr std::int32_t NameField = 6;
+
+ChoiceList ListFrom(const TextTable& table) {
+    return {.First = table.First, .Rows = {table.Rows.begin(), table.Rows.end()}};
+}
+
+/// A row a record of a file.
+ChoiceList RecordList(std::string_view name, std::string (*rowOf)(const clsTXTObject&)) {
+    ChoiceList list;
+    if (const auto file = Archive ? Archive->GetFile(name) : nullptr)
+        for (const RecordPtr& record : file->ByIndex())
+            list.Rows.push_back(rowOf(*record));
+    return list;
+}
+
+bool HasIcon(std::int32_t type) {
+    return type == otype::Laser || type == otype::Missiles || type == otype::Factories ||
+           type == otype::Docks;
+}
+
+} // namespace
+
+void WareFields::LoadFiles(std::int32_t Type) {
+    if (HasIcon(Type) && m_icons.Names().empty() && m_icons.Load())
+        List(warelist::Icons).Rows = m_icons.Names();
+    if (Type == otype::Laser && List(Bullets).Rows.empty())
+        List(Bullets) = RecordList("TBullets", [](const clsTXTObject& bullet) {
+            return std::string(bullet.ObjectName());
+        });
+    if (Type == otype::Bullets && List(Ammo).Rows.empty())
+        List(Ammo) = RecordList("TWareT", WeaponName);
+}
+
+void WareFields::SetFile(std::int32_t Type, std::int32_t Version) {
+    SetVersion(Version);
+    const auto classes = GetWareClassNames();
+    List(WareClasses).Rows = {classes.begin(), classes.end()};
+    List(Races) = ListFrom(RaceNames);
+    List(Sizes) = ListFrom(FactorySizeNames);
+    List(Subtypes) = ListFrom(SubtypesOf(Type));
+}
+
+std::string WareFields::ResourceName(const clsTXTObject& Record) {
+    return Record.size() > NameField ? WeaponName(Record) : std::string();
+}

@@ -51,8 +51,8 @@ std::string ClassName(std::int32_t place) {
 
 // In the order of jobflags::NameParts. A job names no corporation, so that flag adds nothing.
 struct NamePart {
-    JobFlags Flags;
-    std::string (*Name)(std::int32_t);
+    JobFlags Flags = {};
+    std::string (*Name)(std::int32_t) = nullptr;
 };
 constexpr NamePart NameParts[] = {{jobflags::OwnerRaces, JobOwnerRaceName},
                                   {},

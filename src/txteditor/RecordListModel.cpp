@@ -101,8 +101,9 @@ void RecordListModel::RemoveShown(const std::vector<int>& rows) {
     }
 }
 
-void RecordListModel::SetFilter(const QString& Text) {
+void RecordListModel::SetFilter(const QString& Text, Test Passes) {
     m_filter = Text.toCaseFolded();
+    m_passes = std::move(Passes);
     if (HasFilter()) {
         StartFilter();
         return;
@@ -129,7 +130,7 @@ void RecordListModel::FilterSlice() {
             m_slice.start();
             return;
         }
-        if (SearchTextOf(m_rows[m_next]).contains(m_filter))
+        if (PassesFilter(m_rows[m_next]))
             m_found.push_back(static_cast<int>(m_next));
     }
     beginResetModel();
@@ -137,6 +138,11 @@ void RecordListModel::FilterSlice() {
     m_found.clear();
     endResetModel();
     Q_EMIT Filtered();
+}
+
+bool RecordListModel::PassesFilter(Row& row) const {
+    return (!m_passes || m_passes(row.Record)) &&
+           (m_filter.isEmpty() || SearchTextOf(row).contains(m_filter));
 }
 
 const QString& RecordListModel::TextOfRow(Row& row) const {
@@ -150,9 +156,11 @@ const QString& RecordListModel::TextOfRow(Row& row) const {
 
 const QString& RecordListModel::SearchTextOf(Row& row) const {
     if (row.SearchText.isNull()) {
-        const QString& text = TextOfRow(row);
-        const QString id = idOf(row.Record);
-        row.SearchText = (text == id ? text : QString(text + u'\n' + id)).toCaseFolded();
+        QStringList texts{TextOfRow(row), idOf(row.Record)};
+        if (m_alsoFound)
+            texts.append(m_alsoFound(row.Record));
+        texts.removeDuplicates();
+        row.SearchText = texts.join(u'\n').toCaseFolded();
         if (row.SearchText.isNull())
             row.SearchText = QLatin1String("");
     }
@@ -164,8 +172,9 @@ void RecordListModel::ForgetTexts() {
         row.Text = row.SearchText = QString();
 }
 
-void RecordListModel::SetNameColumn(TextOf Text, const QString& Header) {
+void RecordListModel::SetNameColumn(TextOf Text, const QString& Header, TextOf AlsoFound) {
     m_name = std::move(Text);
+    m_alsoFound = std::move(AlsoFound);
     m_header = Header;
     ForgetTexts();
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, 0);

@@ -16,6 +16,7 @@ class RecordListModel : public QAbstractTableModel {
 
 public:
     using TextOf = std::function<QString(const RecordPtr&)>;
+    using Test = std::function<bool(const RecordPtr&)>;
 
     explicit RecordListModel(QObject* parent = nullptr);
 
@@ -24,14 +25,16 @@ public:
     /// Adds rows in front of a row, or at the end for the number of rows. Only without a filter.
     void Insert(int At, const std::vector<RecordPtr>& Records);
     void Remove(const std::vector<RecordPtr>& Records);
-    /// Lets those rows through whose text or ID contains this, in any case; all if it is empty.
-    /// Works in slices of a few milliseconds; Filtered tells when it is done.
-    void SetFilter(const QString& Text);
-    [[nodiscard]] bool HasFilter() const { return !m_filter.isEmpty(); }
+    /// Lets those rows through whose text or ID contains this, in any case, and that pass the test;
+    /// all if there is neither. Works in slices of a few milliseconds; Filtered tells when it is
+    /// done.
+    void SetFilter(const QString& Text, Test Passes = {});
+    [[nodiscard]] bool HasFilter() const { return !m_filter.isEmpty() || m_passes; }
     [[nodiscard]] int RecordCount() const { return static_cast<int>(m_rows.size()); } ///< of all
 
-    /// What the first column shows, and its header. All rows count as changed.
-    void SetNameColumn(TextOf Text, const QString& Header);
+    /// What the first column shows, its header, and what else than the record's ID a filter finds.
+    /// All rows count as changed.
+    void SetNameColumn(TextOf Text, const QString& Header, TextOf AlsoFound = {});
     /// Adds the "Class" column, or takes it away if Text is empty.
     void SetClassColumn(TextOf Text);
     /// The record's row shows other texts now; nothing if it has no row.
@@ -61,6 +64,7 @@ private:
 
     const QString& TextOfRow(Row& row) const;
     const QString& SearchTextOf(Row& row) const;
+    [[nodiscard]] bool PassesFilter(Row& row) const;
     void ForgetTexts();
     void ShowAll();
     void StartFilter();
@@ -72,8 +76,10 @@ private:
     std::vector<int> m_found; ///< of the filter's pass so far
     std::size_t m_next = 0;   ///< where the pass goes on
     QString m_filter;         ///< folded
+    Test m_passes;
     QTimer m_slice;
     TextOf m_name;
+    TextOf m_alsoFound;
     TextOf m_class;
     QString m_header;
 };

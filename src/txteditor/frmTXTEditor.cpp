@@ -77,7 +77,8 @@ QWidget* frmTXTEditor::BuildListSide() {
     BuildFilter(side);
     BuildObjectView(side);
     auto* layout = new QVBoxLayout(side);
-    for (QWidget* row : std::initializer_list<QWidget*>{options, m_filter, m_objectView})
+    for (QWidget* row :
+         std::initializer_list<QWidget*>{options, m_filter, m_choiceRow, m_objectView})
         layout->addWidget(row);
     return side;
 }
@@ -106,6 +107,10 @@ void frmTXTEditor::BuildFilter(QWidget* Side) {
     m_filter->setToolTip(tr("List only the records whose name or ID contains this text"));
     m_filter->setClearButtonEnabled(true);
     m_filter->installEventFilter(this);
+    m_choiceRow = new QWidget(Side);
+    m_choiceRow->hide();
+    auto* choices = new QHBoxLayout(m_choiceRow);
+    choices->setContentsMargins({});
 }
 
 void frmTXTEditor::BuildObjectView(QWidget* Side) {
@@ -240,7 +245,7 @@ void frmTXTEditor::ConnectList() {
     const QItemSelectionModel* selection = m_objectView->selectionModel();
     connect(selection, &QItemSelectionModel::selectionChanged, this, &frmTXTEditor::OnSelection);
     connect(selection, &QItemSelectionModel::currentRowChanged, this, &frmTXTEditor::OnSelection);
-    connect(m_filter, &QLineEdit::textChanged, m_list, &RecordListModel::SetFilter);
+    connect(m_filter, &QLineEdit::textChanged, this, &frmTXTEditor::ApplyFilter);
     connect(m_list, &RecordListModel::Filtered, this, &frmTXTEditor::OnFiltered);
 }
 
@@ -356,7 +361,7 @@ bool frmTXTEditor::OnKey(const QObject* Watched, int Key) {
     if (Watched != m_filter)
         return false;
     if (Key == Qt::Key_Escape)
-        m_filter->clear();
+        ClearFilter();
     else if (enter || Key == Qt::Key_Down)
         GoToList();
     else

@@ -162,7 +162,8 @@ private:
                                                                     const RecordPtr& Before);
     void AddRecords(const Paste& What, const RecordPtr& Before, std::vector<RecordPtr>& Made);
     void FillRecord(const RecordPtr& Made, const clsTXTObject& Source);
-    void NameRecords(const std::vector<RecordPtr>& Made, std::unordered_set<std::string> Taken);
+    void NameRecords(const std::vector<RecordPtr>& Made, std::unordered_set<std::string> Taken,
+                     bool AreNew);
     void Forget(const std::vector<RecordPtr>& Made);
     void ListRecords(const std::vector<RecordPtr>& Made, const RecordPtr& Before);
     void FinishCut(const std::vector<RecordPtr>& Objects);
@@ -173,6 +174,10 @@ private:
 
     // Find and filter
     bool FindNext(const QString& Text, bool WholeWords, QVariant& Tag);
+    void OfferFilters(); ///< those of the panel
+    void ApplyFilter();
+    void ClearFilter();
+    [[nodiscard]] bool PassesChoices(const RecordPtr& Record) const;
     void OnFiltered();
 
     // Crashes, and other programs
@@ -196,6 +201,7 @@ private:
     [[nodiscard]] NameMode PickedMode() const; ///< by the radio buttons
     [[nodiscard]] NameMode Mode() const;       ///< without a panel there are only IDs
     [[nodiscard]] QString RowText(const RecordPtr& Record) const;
+    [[nodiscard]] QString IdText(const RecordPtr& Record) const; ///< as the panel has it
     void UpdateNameColumn();
     [[nodiscard]] std::vector<RecordPtr> ListedRecords();
     void FillList();
@@ -237,6 +243,8 @@ private:
     WatchModel* m_watch;
     QTreeView* m_objectView = nullptr;
     QLineEdit* m_filter = nullptr;
+    QWidget* m_choiceRow = nullptr;
+    QList<QComboBox*> m_choices; ///< of the panel's filters
     QTreeView* m_dataView = nullptr;
     QListView* m_watchList = nullptr;
     QLineEdit* m_watchFrom = nullptr;

@@ -161,7 +161,7 @@ void frmTXTEditor::AddRecords(const Paste& What, const RecordPtr& Before,
     Progress progress(sources.size());
     std::unordered_set<std::string> names;
     for (const RecordPtr& record : m_file.Parser.ByIndex())
-        names.emplace(record->ObjectName());
+        names.insert(m_activeEditor->UniqueName(record));
     std::optional<BulkInsert> bulk;
     if (sources.size() > 1)
         bulk.emplace(m_file.Parser, Before);
@@ -175,7 +175,7 @@ void frmTXTEditor::AddRecords(const Paste& What, const RecordPtr& Before,
         progress.Done();
     }
     if (!What.FinishCut)
-        NameRecords(Made, std::move(names));
+        NameRecords(Made, std::move(names), What.Sources.empty());
 }
 
 void frmTXTEditor::FillRecord(const RecordPtr& Made, const clsTXTObject& Source) {
@@ -187,14 +187,16 @@ void frmTXTEditor::FillRecord(const RecordPtr& Made, const clsTXTObject& Source)
     static_cast<void>(m_activeEditor->InitObject(Made));
 }
 
-/// IDs that are empty or taken are replaced.
+/// IDs of new records, and those that are empty or taken, are replaced.
 void frmTXTEditor::NameRecords(const std::vector<RecordPtr>& Made,
-                               std::unordered_set<std::string> Taken) {
-    for (const RecordPtr& record : Made)
-        if (record->ObjectName().empty() || !Taken.emplace(record->ObjectName()).second) {
-            m_activeEditor->LornAssignUniqueObjectName(record);
-            Taken.emplace(record->ObjectName());
-        }
+                               std::unordered_set<std::string> Taken, bool AreNew) {
+    for (const RecordPtr& record : Made) {
+        const std::string name = m_activeEditor->UniqueName(record);
+        if (!AreNew && !name.empty() && Taken.insert(name).second)
+            continue;
+        m_activeEditor->LornAssignUniqueObjectName(record);
+        Taken.insert(m_activeEditor->UniqueName(record));
+    }
 }
 
 /// Takes back what could not be finished.
@@ -205,7 +207,7 @@ void frmTXTEditor::Forget(const std::vector<RecordPtr>& Made) {
 }
 
 void frmTXTEditor::ListRecords(const std::vector<RecordPtr>& Made, const RecordPtr& Before) {
-    m_filter->clear(); // it might hide them
+    ClearFilter(); // it might hide them
     const QModelIndex row = m_list->IndexOf(Before.get());
     m_list->Insert(row.isValid() ? row.row() : m_list->rowCount(), Made);
 }

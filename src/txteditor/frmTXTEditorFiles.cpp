@@ -102,7 +102,7 @@ void frmTXTEditor::ShowFile() {
     FollowDisk();
     m_selected.reset();
     m_hidden.reset();
-    m_filter->clear();
+    ClearFilter();
     m_findTag.clear();
     if (m_find)
         m_find->ClearTag();

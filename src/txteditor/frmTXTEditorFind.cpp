@@ -69,6 +69,62 @@ void frmTXTEditor::OnFilter() {
     m_filter->selectAll();
 }
 
+void frmTXTEditor::OfferFilters() {
+    qDeleteAll(std::exchange(m_choices, {}));
+    std::vector<RecordFilter> filters;
+    TellPanel([&](ObjectEditor& panel) { filters = panel.Filters(); });
+    QWidget* before = m_filter;
+    for (const RecordFilter& filter : filters) {
+        auto* box = new QComboBox(m_choiceRow);
+        box->setObjectName(QStringLiteral("cmbFilter%1").arg(m_choices.size()));
+        box->setAccessibleName(ToScreen(filter.Name));
+        box->setToolTip(tr("List only the records of one choice: %1").arg(ToScreen(filter.Name)));
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->addItem(ToScreen(filter.Any));
+        for (const std::string& choice : filter.Choices)
+            box->addItem(ToScreen(choice));
+        connect(box, &QComboBox::currentIndexChanged, this, &frmTXTEditor::ApplyFilter);
+        m_choiceRow->layout()->addWidget(box);
+        setTabOrder(before, box);
+        before = box;
+        m_choices.append(box);
+    }
+    setTabOrder(before, m_objectView);
+    m_choiceRow->setVisible(!m_choices.isEmpty());
+}
+
+void frmTXTEditor::ApplyFilter() {
+    const bool chosen = std::any_of(m_choices.cbegin(), m_choices.cend(),
+                                    [](const QComboBox* box) { return box->currentIndex() > 0; });
+    m_list->SetFilter(m_filter->text(),
+                      chosen ? [this](const RecordPtr& record) { return PassesChoices(record); }
+                             : RecordListModel::Test());
+}
+
+void frmTXTEditor::ClearFilter() {
+    {
+        const QSignalBlocker quiet(m_filter);
+        m_filter->clear();
+        for (QComboBox* box : m_choices) {
+            const QSignalBlocker alsoQuiet(box);
+            box->setCurrentIndex(0);
+        }
+    }
+    if (m_list->HasFilter())
+        ApplyFilter();
+}
+
+bool frmTXTEditor::PassesChoices(const RecordPtr& Record) const {
+    try {
+        for (int filter = 0; filter < m_choices.size(); ++filter)
+            if (const int choice = m_choices[filter]->currentIndex() - 1;
+                choice >= 0 && !m_activeEditor->Passes(Record, filter, choice))
+                return false;
+    } catch (const std::exception&) { // better shown than lost
+    }
+    return true;
+}
+
 void frmTXTEditor::OnFiltered() {
     if (m_selected)
         m_hidden = m_selected;

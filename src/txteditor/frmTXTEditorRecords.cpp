@@ -42,6 +42,7 @@ void frmTXTEditor::SelectFileType(std::int32_t OType) {
     m_tab->setTabEnabled(panelTab, m_activeEditor != nullptr);
     m_tab->setCurrentIndex(m_activeEditor ? panelTab : rawTab);
     ApplyPanelInfo(info);
+    OfferFilters();
     UpdateNameColumn();
     UpdateActions();
 }
@@ -145,6 +146,11 @@ NameMode frmTXTEditor::PickedMode() const {
     return static_cast<NameMode>(on - m_names.begin());
 }
 
+QString frmTXTEditor::IdText(const RecordPtr& Record) const {
+    return askPanel([&] { return m_activeEditor->ObjectName(Record); },
+                    QT_TR_NOOP("[error getting name]"));
+}
+
 QString frmTXTEditor::RowText(const RecordPtr& Record) const {
     const auto id = [&]() -> std::string {
         return m_activeEditor ? m_activeEditor->ObjectName(Record)
@@ -164,7 +170,10 @@ QString frmTXTEditor::RowText(const RecordPtr& Record) const {
 void frmTXTEditor::UpdateNameColumn() {
     const std::array headers = {tr("Name"), tr("Race"), tr("ID")};
     m_list->SetNameColumn([this](const RecordPtr& record) { return RowText(record); },
-                          HasFile() ? headers[static_cast<std::size_t>(Mode())] : tr("Name/ID"));
+                          HasFile() ? headers[static_cast<std::size_t>(Mode())] : tr("Name/ID"),
+                          m_activeEditor
+                              ? [this](const RecordPtr& record) { return IdText(record); }
+                              : RecordListModel::TextOf());
     UpdateObjectViews();
 }
 
@@ -212,7 +221,7 @@ void frmTXTEditor::SelectRecord(const RecordPtr& Record) {
 /// Selects their rows and shows the first; a filter that hides it is taken away.
 void frmTXTEditor::SelectRecords(const std::vector<RecordPtr>& Records) {
     if (m_list->HasFilter() && !m_list->IndexOf(Records.front().get()).isValid())
-        m_filter->clear();
+        ClearFilter();
     SelectRecord(Records.front());
     if (Records.size() == 1)
         return;

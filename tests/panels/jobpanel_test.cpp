@@ -115,7 +115,7 @@ TEST_F(JobPanel, ShowsTheFieldsOfAJob) {
     EXPECT_EQ(child<QLineEdit>("ShipNameIDEdit")->text(), QStringLiteral("5"));
     EXPECT_EQ(label("lblShipName"), QStringLiteral("Falcon"));
     EXPECT_EQ(summary(), QStringLiteral("up to 3, 2 in a sector; M3, M4 of Argon; owned by Goner; "
-                                        "sector X 4, Y 0; again after 60"));
+                                        "sector 4, 0; respawns after 60"));
     showTab(jobtabs::Weapons);
     EXPECT_EQ(column("EquipView", 2).join(u' '), QStringLiteral("88 89 106 107 108 74 75 76 77"));
     EXPECT_EQ(value("EquipView", QStringLiteral("Laser")), QStringLiteral("25"));
@@ -200,6 +200,7 @@ TEST_F(JobPanel, EntersFieldsOfEachVersion) {
     };
     const Case cases[] = {
         {"PropView", "Script function file", jobtabs::Info, 4, "dir/file//x"},
+        {"PropView", "Name", jobtabs::Info, 1, "two words"},
         {"PropView", "Color - Saturation", jobtabs::Info, 56, "-1"},
         {"PropView", "NPC ID", jobtabs::Info, 109, "7"},
         {"EquipView", "Laser", jobtabs::Weapons, 89, "40"},
@@ -210,7 +211,7 @@ TEST_F(JobPanel, EntersFieldsOfEachVersion) {
             SCOPED_TRACE(testing::Message() << size << c.Row);
             showTab(c.Tab);
             const QString row = QString::fromLatin1(c.Row);
-            typeInPlace(c.View, row, QString::fromLatin1(c.Entered));
+            typeInPlace(c.View, row, QString::fromLatin1(c.Entered) + u' ');
             EXPECT_EQ(field(c.Field), c.Entered);
             EXPECT_EQ(value(c.View, row), QString::fromLatin1(c.Entered));
             trigger("undo");
@@ -322,6 +323,32 @@ TEST_F(JobPanel, AddsJobsOfTheVersionWithTheNextNumber) {
     EXPECT_FALSE(panel->CreateObject(otype::Jobs, other, {}));
     EXPECT_EQ(panel->GetLastError(), "Unkown object size for Job version 0");
     EXPECT_TRUE(other.ByIndex().empty());
+}
+
+TEST_F(JobPanel, FiltersByOwnerClassAndNumber) {
+    startWith(120, {{{0, "107"}, {78, "1"}}, {{0, "8"}, {86, "1"}, {21, "1"}}, {{21, "1"}}});
+    auto* owner = child<QComboBox>("cmbFilter0");
+    auto* shipClass = child<QComboBox>("cmbFilter1");
+    child<QRadioButton>("rbName2")->click();
+    shipClass->setCurrentIndex(shipClass->findText(QStringLiteral("M3")));
+    EXPECT_EQ(column("ObjectView").size(), 2);
+    owner->setCurrentIndex(owner->findText(QStringLiteral("Yaki")));
+    EXPECT_EQ(column("ObjectView"), QStringList(QStringLiteral("8 - ")));
+    owner->setCurrentIndex(0);
+    shipClass->setCurrentIndex(0);
+    child<QLineEdit>("FilterEdit")->setText(QStringLiteral("107"));
+    EXPECT_EQ(column("ObjectView"), QStringList(QStringLiteral("107 - ")));
+}
+
+TEST_F(JobPanel, PastedJobsKeepFreeNumbersOnly) {
+    startWith(120, {{{0, "7"}}, {{0, "9"}}});
+    pickRows(0, 1);
+    trigger("mnuCopy");
+    startWith(120, {{{0, "9"}}});
+    script.Box(QStringLiteral("before"), Answer::Yes);
+    trigger("mnuPaste");
+    EXPECT_EQ(field(0) + '|' + field(0, 1) + '|' + field(0, 2), "7|10|9");
+    EXPECT_EQ(field(1, 1), "NEW JOB");
 }
 
 TEST_F(JobPanel, ReadOnlyItChangesNothing) {

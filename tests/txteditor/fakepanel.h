@@ -21,7 +21,8 @@ public:
     std::string Translated;        ///< of any value; empty if there is none
     std::optional<KeshValue> Back; ///< of any text; none refuses
     std::vector<std::string> Choices;
-    std::string Entered; ///< the last text that was to be translated back
+    std::vector<RecordFilter> Offered; ///< of the first, every second record passes a choice
+    std::string Entered;               ///< the last text that was to be translated back
 
     clsTxtParser* Parser = nullptr;
     std::set<const clsTXTObject*> Known; ///< the records of which it has views
@@ -60,6 +61,11 @@ public:
     std::string GetRace(const RecordPtr&) const override { return Text("race"); }
     std::string GetResourceName(const RecordPtr& Object) const override {
         return Text(Object->Index == 0 ? "First" : "");
+    }
+    std::vector<RecordFilter> Filters() const override { return Offered; }
+    bool Passes(const RecordPtr& Object, int Filter, int Choice) const override {
+        Break();
+        return Filter > 0 || Object->Index % 2 == Choice;
     }
     void ShowObject(const RecordPtr& Object, std::int32_t) override {
         if (Object && !Known.contains(Object.get()))

@@ -132,6 +132,42 @@ TEST_F(Find, FilterLooksAtIDsToo) {
     EXPECT_EQ(column("ObjectView")[0], QStringLiteral("First"));
 }
 
+TEST_F(Find, ChoicesOfThePanelNarrowTogetherWithTheText) {
+    delete window.data();
+    auto* panel = new FakePanel;
+    panel->Info = 0;
+    panel->Offered = {{"Side", "Any side", {"even", "odd"}}, {"Size", "Any size", {"large"}}};
+    start("TWareT.txt", {panel});
+    child<QRadioButton>("rbName2")->click();
+    auto* side = child<QComboBox>("cmbFilter0");
+    EXPECT_EQ(side->currentText(), QStringLiteral("Any side"));
+    EXPECT_TRUE(side->isVisible());
+    pick("ObjectView", 2);
+    side->setFocus();
+    for (int i = 0; i < 2; ++i)
+        QTest::keyClick(side, Qt::Key_Down);
+    EXPECT_EQ(column("ObjectView").join(u'|'), QStringLiteral("Iron Ore|IRON"));
+    EXPECT_EQ(label("Bar1"), QStringLiteral("2 of 5 objects"));
+    EXPECT_EQ(selected(), -1);
+    filter("ore");
+    child<QComboBox>("cmbFilter1")->setCurrentIndex(1);
+    EXPECT_EQ(column("ObjectView").join(u'|'), QStringLiteral("Iron Ore"));
+    panel->Broken = true; // all pass then
+    filter("iron");
+    EXPECT_EQ(column("ObjectView").size(), 3);
+    panel->Broken = false;
+    QTest::keyClick(child<QLineEdit>("FilterEdit"), Qt::Key_Escape);
+    EXPECT_EQ(side->currentIndex(), 0);
+    EXPECT_EQ(column("ObjectView").size(), 5);
+    EXPECT_EQ(selected(), 2) << "back with its row";
+    side->setCurrentIndex(1);
+    write("WareLists.txt", "1;\r\n1;other;\r\n");
+    window->OpenFile(program("WareLists.txt")); // served by no panel
+    EXPECT_EQ(column("ObjectView").size(), 1);
+    EXPECT_FALSE(window->findChild<QComboBox*>(QStringLiteral("cmbFilter0")));
+    EXPECT_EQ(label("Bar1"), QStringLiteral("1 objects"));
+}
+
 // The filter works in slices, and its rows are those of one go.
 TEST(FilterModel, ManyRows) {
     clsTxtParser parser;

@@ -94,10 +94,11 @@ void pickRow(QWidget& window, const char* list, int row) {
 }
 
 /// A tab of a panel, with a record and, where there are some, a turret and a gun group selected.
-Shot panelShot(const QString& name, const char* file, const char* panel, int tab) {
+Shot panelShot(const QString& name, const char* file, const char* panel, int tab,
+               QSize size = {1100, 760}) {
     return {name, "frmTXTEditor", [file] { openEditor(file); },
-            [panel, tab](QWidget& window) {
-                window.resize(1100, 760);
+            [panel, tab, size](QWidget& window) {
+                window.resize(size);
                 pickRow(window, "ObjectView", 2);
                 window.findChild<QWidget*>(QString::fromLatin1(panel))
                     ->findChild<QTabWidget*>(QStringLiteral("MainTab"))
@@ -105,6 +106,12 @@ Shot panelShot(const QString& name, const char* file, const char* panel, int tab
                 pickRow(window, "TurView", 2);
                 pickRow(window, "GunGroupView", 1);
             }};
+}
+
+Shot warelistShot() {
+    return {QStringLiteral("warelist"), "frmTXTEditor",
+            [] { openEditor("vfs://types\\WareLists.pck"); },
+            [](QWidget& window) { pickRow(window, "ObjectView", 1); }};
 }
 
 template <class Dialog>
@@ -149,6 +156,15 @@ std::vector<Shot> shots(const std::string& sample) {
     for (int tab = 0; tab < 2; ++tab)
         all.push_back(panelShot(QStringLiteral("turret%1").arg(tab), "vfs://types\\TCockpits.pck",
                                 "TurretEdit", tab));
+    for (int tab = 0; tab < 7; ++tab) {
+        const QString name = QStringLiteral("job%1").arg(tab);
+        const auto add = [&](const QString& picture, QSize size) {
+            all.push_back(panelShot(picture, "vfs://types\\Jobs.pck", "JobEdit", tab, size));
+        };
+        add(name, {1100, 760});
+        add(name + QStringLiteral("-small"), {820, 620});
+    }
+    all.push_back(warelistShot());
     all.push_back({QStringLiteral("turretedit"), "frmTurretEdit", [] {
                        openOfShip<frmTurretEdit>([](frmTurretEdit& dialog, clsShip& ship) {
                            clsCockpitParser cockpits;

@@ -10,6 +10,7 @@
 #include "core/mdlCommon.h"
 #include "files/mdlPaths.h"
 #include "keshobjects/keshobjects.h"
+#include "txteditor/Navigator.h"
 #include "txteditor/frmTXTEditor.h"
 #include "txteditor/panels/AllPanels.h"
 #include "ui/CommonBoxes.h"
@@ -44,7 +45,7 @@ struct frmMain::MenuAction {
     void (frmMain::*Run)(); ///< none where the tool does not exist yet
 };
 
-frmMain::frmMain() {
+frmMain::frmMain() : m_navigator(new Navigator([this] { return NewEditor(); }, this)) {
     setObjectName(QStringLiteral("frmMain"));
     BuildView();
     BuildMenus();
@@ -227,6 +228,7 @@ frmTXTEditor* frmMain::NewEditor() {
     editor->setAttribute(Qt::WA_DeleteOnClose);
     m_editors.removeAll(nullptr);
     m_editors.append(editor);
+    m_navigator->Add(editor);
     editor->MyShow();
     editor->setWindowState(Qt::WindowNoState);
     return editor;

@@ -6,6 +6,7 @@
 #include <string>
 
 class IconView;
+class Navigator;
 class frmFiles;
 class frmTXTEditor;
 
@@ -57,5 +58,6 @@ private:
     IconView* m_view = nullptr;
     QMenu* m_popup = nullptr;
     QPointer<frmFiles> m_files;
+    Navigator* m_navigator;
     QList<QPointer<frmTXTEditor>> m_editors;
 };

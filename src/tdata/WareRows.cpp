@@ -88,6 +88,10 @@ std::int32_t FirstColorField(const clsTXTObject& record) {
 
 } // namespace
 
+bool HasWareRows(std::int32_t Type) {
+    return Type >= otype::Shields && Type <= otype::Nebula && Type != otype::Cockpits;
+}
+
 std::vector<WareRow> WareRows(const clsTXTObject& Record) {
     std::vector<WareRow> rows;
     if (Record.size() == 0)

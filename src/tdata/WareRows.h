@@ -18,6 +18,8 @@ struct WareRow {
     friend bool operator==(const WareRow&, const WareRow&) = default;
 };
 
+/// True for the types whose records have these rows.
+[[nodiscard]] bool HasWareRows(std::int32_t Type);
 /// Rows of a record; the ID, which is its last value, stands in front. None for an empty record.
 [[nodiscard]] std::vector<WareRow> WareRows(const clsTXTObject& Record);
 /// True if the type's view ends with the description of the record.

@@ -9,6 +9,7 @@
 #include "core/KeshError.h"
 #include "keshobjects/value.h"
 #include "tdata/FieldTable.h"
+#include "tdata/RecordReference.h"
 #include "tdata/clsTxtParser.h"
 
 #include <QtWidgets>
@@ -140,6 +141,8 @@ public:
 Q_SIGNALS:
     /// After each change that the panel made to a record.
     void OnObjectChanged(const RecordPtr& Object);
+    /// The record that is named where the user stands is to be shown.
+    void GoToAsked(const RecordAddress& Address);
 
 private:
     bool m_readOnly = false;

@@ -204,6 +204,10 @@ QWidget* frmTXTEditor::BuildPanelPage() {
         panel->hide();
         layout->addWidget(panel);
         connect(panel, &ObjectEditor::OnObjectChanged, this, &frmTXTEditor::OnObjectChanged);
+        connect(panel, &ObjectEditor::GoToAsked, this, [this](const RecordAddress& address) {
+            if (FinishEntry())
+                Q_EMIT GoToAsked(address);
+        });
     }
     return page;
 }

@@ -52,12 +52,22 @@ public:
     /// not fit, and leaves the journal then.
     void Recover(LeftJournal Left);
 
+    /// Selects their rows and shows the first; a filter that hides it is taken away.
+    void SelectRecords(const std::vector<RecordPtr>& Records);
+    void Tell(const QString& Text); ///< in the status bar
+    void SetCanGoBack(bool Can);    ///< whether "Back" leads anywhere
+
     // The find dialog's events
     void m_find_OnFindNext(bool WholeWords, bool ByID, QString& Text, QVariant& Tag, bool& Found);
     void m_find_OnClose();
 
     [[nodiscard]] const clsTxtParser& Parser() const noexcept { return m_file.Parser; }
     [[nodiscard]] RecordPtr SelectedObject() const { return m_selected; }
+
+Q_SIGNALS:
+    /// The record that is named where the user stands is to be shown.
+    void GoToAsked(const RecordAddress& Address);
+    void BackAsked(); ///< to where the last of these was asked
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -105,6 +115,7 @@ private:
     [[nodiscard]] bool CanPaste() const;
     [[nodiscard]] bool CanUndo() const;
     [[nodiscard]] bool CanRedo() const;
+    [[nodiscard]] bool CanGoBack() const { return m_canGoBack; }
     [[nodiscard]] bool DropFile(QDropEvent* Drop);
     void ShowPopup(const QPoint& Place);
     [[nodiscard]] bool PopupWanted(QEvent* Event);
@@ -126,6 +137,7 @@ private:
     void OnFind();
     void OnFindNext();
     void OnFilter();
+    void OnBack() { Q_EMIT BackAsked(); }
     void OnKesh();
     void OnDesc();
     void OnHelp();
@@ -182,9 +194,9 @@ private:
 
     // Crashes, and other programs
     void FlushJournal();
-    void ShowTrouble(const std::string& Reason);
     void BeginJournal();
     void AnnounceSave(const JournalBase& Base);
+    void ShowTrouble(const std::string& Reason);
     void LookAtDisk();
 
     // Records
@@ -207,7 +219,6 @@ private:
     void FillList();
     void UpdateCount();
     void SelectRecord(const RecordPtr& Record);
-    void SelectRecords(const std::vector<RecordPtr>& Records);
     void OnSelection();
     void ShowObject(const RecordPtr& Record);
     void UpdateObjectViews();
@@ -231,6 +242,7 @@ private:
     QTimer m_flush;
     bool m_replaying = false;
     bool m_rowsLeave = false;
+    bool m_canGoBack = false;
     QFileSystemWatcher m_watcher;
     frmFind* m_find = nullptr;
     QVariant m_findTag; ///< of finding without the dialog

@@ -35,7 +35,7 @@ const std::vector<MenuEntry>& menuTable() {
         {"mnuEdit",
          QT_TRANSLATE_NOOP("frmTXTEditor", "&Edit"),
          {"undo", "redo", separator, "mnuNew", "mnuCopy", "mnuCut", "mnuPaste", "mnuDel", separator,
-          "find", "findNext", "filter", separator, "edit", "copyFields"}},
+          "find", "findNext", "filter", "back", separator, "edit", "copyFields"}},
         {"mnuTools", QT_TRANSLATE_NOOP("frmTXTEditor", "&Tools"), {"kesh", "desc"}},
         {"mnuHelp", QT_TRANSLATE_NOOP("frmTXTEditor", "&Help"), {"help", "about"}},
     };
@@ -89,6 +89,8 @@ const std::vector<frmTXTEditor::ActionEntry>& frmTXTEditor::ActionTable() {
          &Window::HasFile, &Window::OnFindNext},
         {"filter", QT_TR_NOOP("Filter the &list"), QT_TR_NOOP("Go to the filter of the list"),
          "Ctrl+L", &Window::Always, &Window::OnFilter},
+        {"back", QT_TR_NOOP("&Back"), QT_TR_NOOP("Return to where \"Go to\" was chosen"),
+         "Alt+Left", &Window::CanGoBack, &Window::OnBack},
         {"edit", QT_TR_NOOP("Edit &value..."), QT_TR_NOOP("Change the selected field"), "F2",
          &Window::ShowsField, &Window::OnEditField},
         {"copyFields", QT_TR_NOOP("C&opy values"), QT_TR_NOOP("Copy the selected fields as text"),
@@ -234,6 +236,11 @@ bool frmTXTEditor::CanUndo() const {
 
 bool frmTXTEditor::CanRedo() const {
     return m_undo.Stack().canRedo();
+}
+
+void frmTXTEditor::SetCanGoBack(bool Can) {
+    m_canGoBack = Can;
+    UpdateActions();
 }
 
 void frmTXTEditor::OnCopyFields() {

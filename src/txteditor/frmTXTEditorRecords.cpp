@@ -84,9 +84,13 @@ bool frmTXTEditor::TellPanel(const std::function<void(ObjectEditor&)>& Call) {
             Call(*m_activeEditor);
         return true;
     } catch (const std::exception& failure) {
-        statusBar()->showMessage(ToScreen(failure.what()), messageTime);
+        Tell(ToScreen(failure.what()));
         return false;
     }
+}
+
+void frmTXTEditor::Tell(const QString& Text) {
+    statusBar()->showMessage(Text, messageTime);
 }
 
 bool frmTXTEditor::FinishEntry() {
@@ -218,7 +222,6 @@ void frmTXTEditor::SelectRecord(const RecordPtr& Record) {
     m_objectView->scrollTo(row);
 }
 
-/// Selects their rows and shows the first; a filter that hides it is taken away.
 void frmTXTEditor::SelectRecords(const std::vector<RecordPtr>& Records) {
     if (m_list->HasFilter() && !m_list->IndexOf(Records.front().get()).isValid())
         ClearFilter();

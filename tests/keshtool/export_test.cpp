@@ -51,6 +51,21 @@ TEST_F(KeshtoolExport, RecordsGoIntoACatalogToo) {
     EXPECT_EQ(output("cat mod.cat::ships.txt"), text);
 }
 
+TEST_F(KeshtoolExport, OneObjectIsWrittenWithIndices) {
+    write("TWareT.txt", Wares);
+    succeed("export TWareT.txt out.txt --index 1");
+    const std::string text = read("out.txt");
+    EXPECT_TRUE(text.starts_with("0: Body file: ")) << text;
+    EXPECT_EQ(std::ranges::count(text, '\n'), 17);
+    EXPECT_NE(text.find("\r\n5: Index: "), std::string::npos) << text;
+    for (const char* line :
+         {"export TWareT.txt out.txt --index 9", "export TWareT.txt out.txt --index -1",
+          "export TShips.txt out.txt --index 0", "export TWareT.txt TWareT.txt --index 0"}) {
+        EXPECT_EQ(run(line).code, 3) << line;
+        EXPECT_EQ(read("out.txt"), text) << line;
+    }
+}
+
 TEST_F(KeshtoolExport, WhatCannotBeExportedReplacesNothing) {
     write("TWareT.txt", Wares);
     write("out.txt", "old");

@@ -151,6 +151,13 @@ TEST_F(JobPanel, ABoxForAMissingFieldShowsItsNeighbour) {
     const BoxRow& races = boxRows[2];
     EXPECT_TRUE(box(races, 8)->isChecked());
     EXPECT_TRUE(box(races, 8)->toolTip().contains(QStringLiteral("Yaki")));
+    const auto hue = static_cast<int>(column("PropView").indexOf(QStringLiteral("Color - Hue")));
+    EXPECT_TRUE(view("PropView")
+                    ->model()
+                    ->index(hue, 0)
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .contains(QStringLiteral("field 54")));
     showTab(jobtabs::Ship);
     QTest::keyClick(box(races, 8), Qt::Key_Space);
     EXPECT_FALSE(box(races, 9)->isChecked());

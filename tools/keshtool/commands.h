@@ -18,6 +18,7 @@ struct Arguments {
     bool names = false;
     bool all = false;
     bool raw = false;
+    std::optional<std::int32_t> index; ///< of one record
     std::int32_t language = 44; ///< English
     ExportForm form = ExportForm::Table;
 };
@@ -27,7 +28,7 @@ using Command = ExitCode (*)(GameView&, const Arguments&);
 // Records
 ExitCode dump(GameView& view, const Arguments& arguments);
 ExitCode convert(GameView& view, const Arguments& arguments);
-ExitCode exportShips(GameView& view, const Arguments& arguments);
+ExitCode exportRecords(GameView& view, const Arguments& arguments);
 // Contents
 ExitCode cat(GameView& view, const Arguments& arguments);
 ExitCode ls(GameView& view, const Arguments& arguments);

@@ -27,6 +27,7 @@ enum Option : unsigned {
     Language = 128,
     Raw = 256,
     Format = 512,
+    Index = 1024,
 };
 
 struct Row {
@@ -49,10 +50,12 @@ const Row Commands[] = {
      Type,
      "Load a T file and save it; without --type OUT is zstd if it ends in .pck, else plain"},
     {"export",
-     exportShips,
+     exportRecords,
      {"PATH", "OUT"},
-     Format | Language,
-     "Write all ships of a TShips file as a table for spreadsheets, or value by value"},
+     Format | Language | Index,
+     "Write all ships of a TShips file as a table for spreadsheets, or value by value; with "
+     "--index "
+     "one object of another T file"},
     {"cat", cat, {"PATH"}, NoOption, "Print a file's unpacked bytes"},
     {"ls",
      ls,
@@ -156,6 +159,11 @@ void addCommand(CLI::App& app, const Row& row, Arguments& arguments) {
         command
             ->add_option("--lang", arguments.language,
                          "Number of the language of texts, 44 if not given")
+            ->option_text("N");
+    if (row.options & Index)
+        command
+            ->add_option("--index", arguments.index,
+                         "Index of the one ware, weapon, station or other body to write")
             ->option_text("N");
     if (row.options & Type)
         addType(*command, arguments);

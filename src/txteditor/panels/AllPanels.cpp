@@ -8,11 +8,8 @@
 
 frmTXTEditor::Panels AllPanels() {
     const std::pair<ObjectEditor*, const char*> panels[] = {
-        {new ucShip, "ShipEdit"},
-        {new ucTurret, "TurretEdit"},
-        {new ucWare, "WareEdit"},
-        {new ucJob, "JobEdit"},
-        {new ucWareList, "WareListEdit"},
+        {new ucShip, "ShipEdit"}, {new ucTurret, "TurretEdit"},     {new ucWare, "WareEdit"},
+        {new ucJob, "JobEdit"},   {new ucWareList, "WareListEdit"},
     };
     frmTXTEditor::Panels result;
     for (const auto& [panel, name] : panels) {

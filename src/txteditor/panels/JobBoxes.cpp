@@ -8,7 +8,7 @@ namespace {
 constexpr int longestCaption = 40; ///< characters
 
 void setTip(QWidget& control, const QString& text) {
-    const QString tip = Qt::convertFromPlainText(text);
+    const QString tip = Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
     if (control.toolTip() != tip)
         control.setToolTip(tip);
 }

@@ -56,6 +56,8 @@ QVariant PropertyModel::data(const QModelIndex& index, int role) const {
     const bool value = index.column() == ValueColumn;
     if (role == Qt::UserRole + 1)
         return tagOf(row->Field);
+    if (role == Qt::ToolTipRole && !row->Tip.isEmpty())
+        return Qt::convertFromPlainText(row->Tip, Qt::WhiteSpaceNormal);
     if (role == Qt::ToolTipRole && value)
         return PlainTip(row->Value);
     if (role == Qt::DecorationRole && value && row->Swatch.isValid())

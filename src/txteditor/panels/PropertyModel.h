@@ -14,6 +14,7 @@ struct PropertyRow {
     QString Name;
     QString Value;
     QColor Swatch = {}; ///< shown in front of the value if valid
+    QString Tip = {};   ///< of the row; without it the value has its own text for a tip
 
     friend bool operator==(const PropertyRow&, const PropertyRow&) = default;
 };

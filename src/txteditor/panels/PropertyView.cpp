@@ -72,6 +72,10 @@ PropertyView::PropertyView(const char* Name, RecordPanel& Editor, QWidget* Paren
     setColumnWidth(2, 8 * fontMetrics().averageCharWidth());
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(PropertyModel::ValueColumn, QHeaderView::Stretch);
+    m_panel.OfferGoTo(*this, [this]() -> std::optional<RecordAddress> {
+        const PropertyRow* row = m_model->Row(currentIndex());
+        return row ? m_panel.TargetOf(row->Field) : std::nullopt;
+    });
     connect(m_model, &QAbstractItemModel::modelReset, this, [this] { m_entry.reset(); });
     connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
         edit(index, DoubleClicked, nullptr); // ends the wait for the entry that one click begins

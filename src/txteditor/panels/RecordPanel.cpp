@@ -197,6 +197,16 @@ bool RecordPanel::EditInDialog(std::int32_t Field) {
     return dialog.ModalResult() == resultOk;
 }
 
+std::optional<RecordAddress> RecordPanel::TargetOf(std::int32_t Field) const {
+    return m_object && Field >= 0 ? ReferenceOf(*m_object, Field) : std::nullopt;
+}
+
+GoToAction* RecordPanel::OfferGoTo(QWidget& Widget, GoToAction::Target Find) {
+    auto* action = new GoToAction(Widget, std::move(Find));
+    connect(action, &GoToAction::Asked, this, &RecordPanel::GoToAsked);
+    return action;
+}
+
 void RecordPanel::HandleKey(const std::function<void()>& Work) {
     try {
         Work();

@@ -2,6 +2,7 @@
 // the value dialog. Names, types, units and classes of fields come from the tables of their type.
 #pragma once
 
+#include "txteditor/GoToAction.h"
 #include "txteditor/ValueEntry.h"
 #include "txteditor/panels/PropertyModel.h"
 #include "ui/UserInterface.h"
@@ -51,6 +52,10 @@ public:
     /// The whole way of a field through the value dialog; failures are said in a box. True after
     /// OK.
     bool EditField(std::int32_t Field);
+    /// The record that a field names; nothing if it names none.
+    [[nodiscard]] std::optional<RecordAddress> TargetOf(std::int32_t Field) const;
+    /// Gives a widget of the panel its way to the record that it names.
+    GoToAction* OfferGoTo(QWidget& Widget, GoToAction::Target Find);
     /// Runs what a key or click asks for; failures are said as those of a key.
     void HandleKey(const std::function<void()>& Work);
     void Say(const QString& Text, BoxIcon Icon);

@@ -87,6 +87,8 @@ QLabel* label(const char* name, const QString& text, QWidget* buddy, QWidget* pa
 ShipTurretTab::ShipTurretTab(RecordPanel& Panel, const clsCockpitParser& Cockpits)
     : QWidget(&Panel), m_panel(Panel), m_cockpits(Cockpits) {
     BuildControls();
+    for (TextRowsView* view : {m_turrets, m_cockpit})
+        m_panel.OfferGoTo(*view, [this] { return CockpitAddress(); });
     const auto on = [this](auto signal, void (ShipTurretTab::*work)()) {
         connect(m_turrets, signal, this,
                 [this, work] { m_panel.HandleKey([&] { (this->*work)(); }); });
@@ -209,6 +211,16 @@ void ShipTurretTab::ShowCockpit() {
                                               : tr("[cockpit not found]")}});
     }
     m_cockpit->SetRows(std::move(rows));
+}
+
+std::optional<RecordAddress> ShipTurretTab::CockpitAddress() const try {
+    const auto turret = SelectedTurret();
+    const auto index = turret && turret->HasDescriptor() ? turret->Type() : std::nullopt;
+    const auto cockpit = index ? m_cockpits.FindIndex(*index) : nullptr;
+    return cockpit ? std::optional(RecordAddress{"TCockpits", cockpit->Object->Index})
+                   : std::nullopt;
+} catch (const KeshError&) { // a descriptor that is no number
+    return {};
 }
 
 std::shared_ptr<clsTurret> ShipTurretTab::SelectedTurret() const {

@@ -2,6 +2,7 @@
 // operations on them. Only the last turret of a ship can go.
 #pragma once
 
+#include "tdata/RecordReference.h"
 #include "tdata/clsShip.h"
 
 #include <QtWidgets>
@@ -42,6 +43,7 @@ private:
     void FillPlan();
     void ShowDescriptors();
     void ShowCockpit();
+    [[nodiscard]] std::optional<RecordAddress> CockpitAddress() const; ///< of the selected turret
     [[nodiscard]] std::shared_ptr<clsTurret> SelectedTurret() const;
 
     RecordPanel& m_panel;

@@ -23,7 +23,9 @@ QList<TextRow> rowsOf(const WareNames& names, const clsTXTObject& record) {
     for (std::int32_t field = 0; field < record.size(); ++field) {
         const std::string_view id = record.ValueText(field);
         const QString shown = ToScreen(id);
-        rows.append({shown, {ToScreen(names.Name(id)), shown}});
+        rows.append({shown,
+                     {ToScreen(names.Name(id)), shown},
+                     QByteArray(id.data(), static_cast<qsizetype>(id.size()))});
     }
     return rows;
 }
@@ -69,6 +71,12 @@ void FillWareList(TextRowsView& View, const WareNames* Names, const clsTXTObject
     View.SetRows(std::move(rows));
     View.setColumnWidth(0, std::max(widths[0] + textMargin, nameWidth));
     View.setColumnWidth(1, std::max(widths[1] + textMargin, View.header()->sectionSizeHint(1)));
+}
+
+std::optional<RecordAddress> WareOfRow(const TextRowsView& View) {
+    const QByteArray id = View.currentIndex().data(Qt::UserRole + 1).toByteArray();
+    return id.isEmpty() ? std::nullopt
+                        : std::optional(RecordAddress{.File = {}, .Name = id.toStdString()});
 }
 
 WareListViewer::WareListViewer(QWidget* Parent, const char* ViewName)

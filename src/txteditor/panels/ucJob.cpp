@@ -14,7 +14,6 @@
 #include "txteditor/panels/PropertyView.h"
 #include "txteditor/panels/TextRows.h"
 #include "txteditor/panels/WareListViewer.h"
-#include "ui/ListHelpers.h"
 
 namespace {
 
@@ -30,6 +29,13 @@ constexpr std::int32_t infoFields[] = {0,  1,  6,  4,  5,  2,  3,   13, 14,
 constexpr std::int32_t equipmentFields[] = {88, 89, 106, 107, 108, 74, 75, 76, 77};
 
 const JobBoxRow* const filterRows[] = {&JobOwnerBoxes, &JobClassBoxes};
+
+RecordFilter filterOf(const QString& name, const QString& any, const JobBoxRow& row) {
+    RecordFilter filter{name.toStdString(), any.toStdString(), {}};
+    for (std::int32_t place = 0; place < row.Flags.Count; ++place)
+        filter.Choices.push_back(row.Caption(place).toStdString());
+    return filter;
+}
 
 std::shared_ptr<clsTxtParser> fileOf(const char* name) {
     return Archive ? Archive->GetFile(name) : nullptr;
@@ -108,13 +114,8 @@ std::string ucJob::UniqueName(const RecordPtr& Object) const {
 }
 
 std::vector<RecordFilter> ucJob::Filters() const {
-    std::vector<RecordFilter> filters{
-        {tr("Owner race").toStdString(), tr("Any owner race").toStdString(), {}},
-        {tr("Ship class").toStdString(), tr("Any ship class").toStdString(), {}}};
-    for (std::size_t i = 0; i < filters.size(); ++i)
-        for (std::int32_t place = 0; place < filterRows[i]->Flags.Count; ++place)
-            filters[i].Choices.push_back(filterRows[i]->Caption(place).toStdString());
-    return filters;
+    return {filterOf(tr("Owner race"), tr("Any owner race"), JobOwnerBoxes),
+            filterOf(tr("Ship class"), tr("Any ship class"), JobClassBoxes)};
 }
 
 bool ucJob::Passes(const RecordPtr& Object, int Filter, int Choice) const {
@@ -234,7 +235,7 @@ void ucJob::FillTab(int Tab) {
     if (Tab == Info)
         ShowInfo();
     else if (Tab == Weapons)
-        m_equipment->SetRows(RowsOf(equipmentFields));
+        m_equipment->SetRows(TippedRows(equipmentFields));
     else if (Tab == Wings)
         FillWings();
     else if (Tab == Wares)
@@ -262,15 +263,24 @@ void ucJob::ShowRole() {
     m_roles->setExclusive(true);
 }
 
+/// The rows of a field that the version does not have say so.
+QList<PropertyRow> ucJob::TippedRows(std::span<const std::int32_t> Fields) const {
+    QList<PropertyRow> rows = RowsOf(Fields);
+    for (PropertyRow& row : rows)
+        if (JobNeighbour(*Job(), row.Field))
+            row.Tip = JobFieldTip(Job(), row.Field, false);
+    return rows;
+}
+
 void ucJob::ShowInfo() {
-    QList<PropertyRow> rows = RowsOf(infoFields);
+    QList<PropertyRow> rows = TippedRows(infoFields);
     if (rows.size() >= descriptionRow)
         rows.insert(descriptionRow, {PropertyRow::Computed, tr("Description text"),
                                      textOf(*Job(), jobfield::Description)});
     m_fields->SetRows(std::move(rows));
     const auto shipName = [this](const std::string& id) { return m_ship->Ships().TextOf(id); };
     m_summary->setText(Job() ? JobSummary(*Job(), shipName) : QString());
-    m_summary->setToolTip(PlainTip(m_summary->text()).toString());
+    m_summary->setToolTip(Qt::convertFromPlainText(m_summary->text(), Qt::WhiteSpaceNormal));
 }
 
 void ucJob::FillWings() {

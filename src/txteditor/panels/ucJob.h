@@ -81,6 +81,7 @@ private:
     void FillTab(int Tab);
     void ShowFields();
     void ShowInfo();
+    [[nodiscard]] QList<PropertyRow> TippedRows(std::span<const std::int32_t> Fields) const;
     void ShowShipName();
     void ShowRole();
     void FillWings();

@@ -7,6 +7,7 @@
 #include "txteditor/panels/TextRows.h"
 #include "txteditor/panels/WareListViewer.h"
 #include "txteditor/panels/ucJob.h"
+#include "ui/Icons.h"
 
 namespace {
 
@@ -142,6 +143,11 @@ QWidget* ucJob::BuildShip() {
     top->setContentsMargins({});
     top->addWidget(caption);
     top->addWidget(m_ship, 1);
+    auto* show = new QToolButton(ship);
+    show->setDefaultAction(OfferGoTo(*m_ship, [this] { return TargetOf(jobfield::Ship); }));
+    show->setIcon(ToolIcon("goto"));
+    show->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    top->addWidget(show);
     return pageOf({ship, AddBoxes(new JobBoxes({&JobClassBoxes}, page)),
                    AddBoxes(new JobBoxes({&JobShipRaceBoxes}, page)),
                    AddBoxes(new JobBoxes({&JobVariantBoxes}, page)), BuildRoles(page)},
@@ -209,11 +215,19 @@ QWidget* ucJob::BuildRace() {
 
 QWidget* ucJob::BuildWings() {
     m_wingJobs = new TextRowsView("WingsView", tr("Jobs of the wing"), this);
+    GoToAction* job = OfferGoTo(*m_wingJobs, [this]() -> std::optional<RecordAddress> {
+        const QString number = m_wingJobs->SelectedKey();
+        return number.isEmpty()
+                   ? std::nullopt
+                   : std::optional(RecordAddress{.File = "Jobs", .Name = number.toStdString()});
+    });
+    connect(m_wingJobs, &TextRowsView::Entered, job, &QAction::trigger);
     return m_wingJobs;
 }
 
 QWidget* ucJob::BuildWares() {
     m_wares = new WareListViewer(this);
+    OfferGoTo(m_wares->View(), [this] { return WareOfRow(m_wares->View()); });
     connect(m_wares, &WareListViewer::Entered, this, [this] { EditField(jobfield::WareList); });
     return m_wares;
 }

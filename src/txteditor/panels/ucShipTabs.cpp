@@ -14,6 +14,7 @@ namespace {
 using namespace shiptabs;
 
 constexpr int descriptionLines = 4;
+constexpr std::int32_t wareListField = 30;
 
 /// A button of the toolbar, on the tabs From to To.
 struct Button {
@@ -140,6 +141,8 @@ QWidget* ucShip::BuildWares() {
     caption->setBuddy(m_wareListId);
     m_wares = new WareListViewer(page);
     connect(m_wares, &WareListViewer::Entered, this, &ucShip::EditWareList);
+    OfferGoTo(m_wares->View(), [this] { return WareOfRow(m_wares->View()); });
+    OfferGoTo(*m_wareListId, [this] { return TargetOf(wareListField); });
     auto* top = new QHBoxLayout;
     top->addWidget(caption);
     top->addWidget(m_wareListId);

@@ -32,10 +32,6 @@ std::string titleOf(std::int32_t type) {
     return {};
 }
 
-bool serves(std::int32_t type) {
-    return type >= otype::Shields && type <= otype::Nebula && type != otype::Cockpits;
-}
-
 } // namespace
 
 // The file
@@ -45,7 +41,7 @@ bool ucWare::LornQueryInterface(std::int32_t OType) const {
 }
 
 bool ucWare::LornQueryInterfaceEx(std::int32_t& OType) {
-    if (!serves(OType))
+    if (!HasWareRows(OType))
         return false;
     Prepare(OType);
     return true;
@@ -65,7 +61,7 @@ bool ucWare::Init(clsTxtParser& Parser) {
 }
 
 std::string ucWare::ObjectTypeName(std::int32_t OType) const {
-    if (!serves(OType))
+    if (!HasWareRows(OType))
         return {};
     return titleOf(OType) + " v." + std::to_string(Parser() ? Parser()->Version() : 0);
 }

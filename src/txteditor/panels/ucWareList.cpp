@@ -8,6 +8,8 @@ ucWareList::ucWareList(QWidget* Parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_view);
+    GoToAction* ware = OfferGoTo(*m_view, [this] { return WareOfRow(*m_view); });
+    connect(m_view, &TextRowsView::Entered, ware, &QAction::trigger);
 }
 
 bool ucWareList::LornQueryInterface(std::int32_t OType) const {

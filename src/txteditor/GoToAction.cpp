@@ -1,0 +1,79 @@
+#include "txteditor/GoToAction.h"
+
+#include "ui/TextCodec.h"
+
+GoToAction::GoToAction(QWidget& Widget, Target Find)
+    : QAction(&Widget), m_widget(Widget), m_find(std::move(Find)) {
+    setObjectName(QStringLiteral("mnuGoTo"));
+    setToolTip(tr("Show the object that is named here (also by a click with Ctrl)"));
+    setShortcut(Qt::Key_F12);
+    setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(this, &QAction::triggered, this, &GoToAction::Go);
+    Widget.addAction(this);
+    Widget.installEventFilter(this);
+    if (auto* view = qobject_cast<QAbstractItemView*>(&Widget))
+        FollowRows(*view);
+    for (QLineEdit* edit : Widget.findChildren<QLineEdit*>())
+        edit->installEventFilter(this); // of a combo box
+    Update();
+}
+
+void GoToAction::FollowRows(QAbstractItemView& View) {
+    View.setContextMenuPolicy(Qt::ActionsContextMenu);
+    View.viewport()->installEventFilter(this);
+    const auto update = [this] { Update(); };
+    connect(View.selectionModel(), &QItemSelectionModel::currentChanged, this, update);
+    connect(View.model(), &QAbstractItemModel::modelReset, this, update);
+    connect(View.model(), &QAbstractItemModel::dataChanged, this, update);
+}
+
+void GoToAction::Update() {
+    const auto address = m_find();
+    setEnabled(address.has_value());
+    if (!address)
+        return setText(tr("Go to ..."));
+    const QString name =
+        address->Name.empty() ? QString::number(address->Index) : ToScreen(address->Name);
+    const QString text = address->File.empty()
+                             ? tr("Go to %1").arg(name)
+                             : tr("Go to %1: %2").arg(ToScreen(address->File), name);
+    setText(QString(text).replace(u'&', QStringLiteral("&&")));
+}
+
+void GoToAction::Go() {
+    if (const auto address = m_find())
+        Q_EMIT Asked(*address);
+}
+
+/// False where the click leads nowhere, and means what it does without this.
+bool GoToAction::TakeClick(const QMouseEvent& Click) {
+    if (Click.button() != Qt::LeftButton || Click.modifiers() != Qt::ControlModifier)
+        return false;
+    if (auto* view = qobject_cast<QAbstractItemView*>(&m_widget)) {
+        const QModelIndex row = view->indexAt(Click.position().toPoint());
+        if (!row.isValid())
+            return false;
+        view->setCurrentIndex(row);
+    }
+    if (!m_find())
+        return false;
+    QMetaObject::invokeMethod(this, &GoToAction::Go, Qt::QueuedConnection); // another window opens
+    return true;
+}
+
+bool GoToAction::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::ContextMenu:
+    case QEvent::FocusIn:
+    case QEvent::ShortcutOverride:
+        Update(); // what leads somewhere may have changed
+        break;
+    case QEvent::MouseButtonPress:
+        if (TakeClick(*static_cast<QMouseEvent*>(event)))
+            return true;
+        break;
+    default:
+        break;
+    }
+    return QAction::eventFilter(watched, event);
+}

@@ -14,6 +14,7 @@
 #include "txteditor/panels/frmGunEdit.h"
 #include "txteditor/panels/frmTurretEdit.h"
 #include "ui/frmAbout.h"
+#include "ui/frmColorEdit.h"
 #include "ui/frmFind.h"
 #include "ui/frmText.h"
 #include "ui/frmWait.h"
@@ -108,10 +109,14 @@ Shot panelShot(const QString& name, const char* file, const char* panel, int tab
             }};
 }
 
-Shot warelistShot() {
-    return {QStringLiteral("warelist"), "frmTXTEditor",
-            [] { openEditor("vfs://types\\WareLists.pck"); },
-            [](QWidget& window) { pickRow(window, "ObjectView", 1); }};
+/// A file of the game with its panel.
+Shot fileShot(const char* name) {
+    return {QString::fromLatin1(name).toLower(), "frmTXTEditor",
+            [name] { openEditor(("vfs://types\\" + std::string(name) + ".pck").c_str()); },
+            [](QWidget& window) {
+                window.resize(1100, 760);
+                pickRow(window, "ObjectView", 1);
+            }};
 }
 
 template <class Dialog>
@@ -164,7 +169,14 @@ std::vector<Shot> shots(const std::string& sample) {
         add(name, {1100, 760});
         add(name + QStringLiteral("-small"), {820, 620});
     }
-    all.push_back(warelistShot());
+    for (const char* name :
+         {"TShields", "TLaser", "TBullets", "TMissiles", "TWareF", "TFactories", "TSpecial",
+          "TDocks", "Wrecks", "TGates", "TPlanets", "TSuns", "TAsteroids", "TDebris",
+          "TBackgrounds", "TNebula", "JobWings", "IconData", "WareLists"})
+        all.push_back(fileShot(name));
+    all.push_back({QStringLiteral("color"), "frmColorEdit", [] {
+                       static_cast<void>(frmColorEdit().Edit(QStringLiteral("Color"), 0x20A0F0));
+                   }});
     all.push_back({QStringLiteral("turretedit"), "frmTurretEdit", [] {
                        openOfShip<frmTurretEdit>([](frmTurretEdit& dialog, clsShip& ship) {
                            clsCockpitParser cockpits;

@@ -3,6 +3,7 @@
 #include "tessil/plainpixels.h"
 #include "tessil/readers.h"
 
+#include <algorithm>
 #include <string>
 
 namespace tessil {
@@ -38,8 +39,7 @@ struct BlockKind {
     std::size_t blockSize; ///< bytes for 4 x 4 pixels
 };
 
-constexpr BlockKind blockKinds[] = {
-    {"DXT1", 8}, {"DXT2", 16}, {"DXT3", 16}, {"DXT4", 16}, {"DXT5", 16}};
+constexpr BlockKind blockKinds[] = {{"DXT1", 8}, {"DXT3", 16}, {"DXT5", 16}};
 
 void put32(std::string& file, std::size_t at, std::uint64_t value) {
     for (std::size_t i = 0; i < 4; ++i)

@@ -7,7 +7,7 @@ namespace tessil {
 namespace {
 
 constexpr lornfd::ErrorText texts[] = {
-    {TESSIL_E_INIT, "The picture decoder is not ready for \"{file}\"."},
+    {TESSIL_E_INIT, "The picture decoder is not started: {reason}."},
     {TESSIL_E_KIND, "\"{file}\" is not a picture that can be decoded: {reason}."},
     {TESSIL_E_BROKEN, "The picture \"{file}\" is broken: {reason}."},
     {TESSIL_E_TOO_BIG, "The picture \"{file}\" is too big: {reason}."},

@@ -1,5 +1,7 @@
 #include "tessil/readers.h"
 
+#include <string>
+
 namespace tessil {
 
 namespace {

@@ -49,7 +49,7 @@ std::int32_t TESSIL_Init() {
     State& s = state();
     if (s.started == 0 && !startDecoder()) {
         stopDecoder();
-        return fail(TESSIL_E_INIT, {});
+        return fail(TESSIL_E_INIT, {}, "it refuses to");
     }
     ++s.started;
     return 1;
@@ -59,7 +59,7 @@ std::int32_t TESSIL_Term() {
     lastError().clear();
     State& s = state();
     if (s.started == 0)
-        return fail(TESSIL_E_INIT, {});
+        return fail(TESSIL_E_INIT, {}, "it cannot be ended");
     if (--s.started == 0)
         stopDecoder();
     return 1;
@@ -67,8 +67,10 @@ std::int32_t TESSIL_Term() {
 
 std::int32_t TESSIL_ConvertToHBitmap(std::string_view Bytes, std::string_view Name) {
     lastError().clear();
+    if (state().started == 0)
+        return fail(TESSIL_E_INIT, {}, std::string(Name).append(" cannot be decoded"));
     try {
-        return state().started != 0 ? add(readPicture(Bytes)) : fail(TESSIL_E_INIT, Name);
+        return add(readPicture(Bytes));
     } catch (const Refusal& refusal) {
         return fail(refusal.code(), Name, refusal.what());
     } catch (const std::bad_alloc&) {

@@ -2,6 +2,7 @@
 #include "tessil/plainpixels.h"
 #include "tessil/readers.h"
 
+#include <algorithm>
 #include <string>
 
 namespace tessil {

@@ -5,8 +5,6 @@
 
 #include <QtWidgets>
 
-class ColumnLayout;
-
 class JobBoxes : public QGroupBox {
     Q_OBJECT
 

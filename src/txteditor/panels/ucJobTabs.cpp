@@ -1,4 +1,5 @@
 // The controls of the job panel.
+#include "txteditor/panels/ColumnLayout.h"
 #include "txteditor/panels/EntryFilter.h"
 #include "txteditor/panels/JobBoxes.h"
 #include "txteditor/panels/JobShipBox.h"
@@ -22,6 +23,7 @@ QScrollArea* scrolled(QWidget* page) {
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // it follows the focus of its controls
     area->setWidget(page);
     for (QWidget* shown : {page, area->viewport()})
         shown->setAutoFillBackground(false); // the tab's own shows
@@ -68,8 +70,11 @@ void ucJob::BuildTabs() {
         {BuildWings(), tr("Wings")},
         {BuildWares(), tr("Ware list")},
     };
-    for (const auto& [page, caption] : tabs)
+    for (const auto& [page, caption] : tabs) {
         m_tabs->addTab(page, caption);
+        if (qobject_cast<QScrollArea*>(page))
+            page->setAccessibleName(caption);
+    }
     m_filled.fill(false, m_tabs->count());
 }
 
@@ -157,7 +162,7 @@ QWidget* ucJob::BuildShip() {
 QWidget* ucJob::BuildRoles(QWidget* Page) {
     m_roleGroup = new QGroupBox(JobRoleBoxes.GroupTitle(), Page);
     m_roles = new QButtonGroup(m_roleGroup);
-    auto* row = new QHBoxLayout(m_roleGroup);
+    auto* row = new ColumnLayout(m_roleGroup);
     for (std::int32_t place = 0; place < jobflags::Roles.Count; ++place) {
         auto* button = new QRadioButton(JobRoleBoxes.Caption(place), m_roleGroup);
         button->setObjectName(QString::fromLatin1(JobRoleBoxes.Name) + QString::number(place));
@@ -165,7 +170,6 @@ QWidget* ucJob::BuildRoles(QWidget* Page) {
         m_roles->addButton(button, place);
         row->addWidget(button);
     }
-    row->addStretch();
     connect(m_roles, &QButtonGroup::idClicked, this, &ucJob::PickRole);
     return m_roleGroup;
 }
@@ -182,16 +186,20 @@ QWidget* ucJob::BuildSector() {
     auto* page = new QWidget(this);
     auto* sector = AddBoxes(new JobBoxes({&JobSectorBoxes, &JobInvertedBox}, page));
     auto* place = new QWidget(page);
-    auto* row = new QHBoxLayout(place);
+    auto* row = new ColumnLayout(place);
     row->setContentsMargins({});
     for (const auto& [name, field, caption] : shown) {
-        auto* label = new QLabel(caption, place);
-        auto* edit = AddEdit(name, field, tr("Doubleclick to change"), caption, place);
+        auto* cell = new QWidget(place);
+        auto* label = new QLabel(caption, cell);
+        auto* edit = AddEdit(name, field, tr("Doubleclick to change"), caption, cell);
         label->setBuddy(edit);
-        row->addWidget(label);
-        row->addWidget(edit);
+        auto* pair = new QHBoxLayout(cell);
+        pair->setContentsMargins({});
+        pair->addWidget(label);
+        pair->addWidget(edit);
+        pair->addStretch();
+        row->addWidget(cell);
     }
-    row->addStretch();
     return pageOf({sector, place, AddBoxes(new JobBoxes({&JobCreationBoxes}, page)),
                    AddBoxes(new JobBoxes({&JobVariousBoxes}, page))},
                   page);

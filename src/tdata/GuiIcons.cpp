@@ -43,7 +43,7 @@ std::optional<IconPlace> PlaceOf(const clsTXTObject& icon) {
     const auto fits = [](const auto& value, std::int32_t least) {
         return value && *value >= least && *value <= most;
     };
-    if (!fits(x, 0) || !fits(y, 0) || !fits(width, 1) || !fits(height, 1))
+    if (!fits(x, -Border) || !fits(y, -Border) || !fits(width, 1) || !fits(height, 1))
         return {};
     return IconPlace{*x + Border, *y + Border, *width, *height};
 }

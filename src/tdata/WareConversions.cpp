@@ -6,7 +6,6 @@
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshWare.h"
 
-#include <array>
 #include <cmath>
 
 namespace {
@@ -38,7 +37,7 @@ std::optional<std::string> ShowText(const StoredField& field, bool) {
 }
 
 std::optional<KeshValue> ReadText(const StoredField&, std::string_view text) {
-    return keshobjects::readValue(TrimmedValue(text));
+    return std::string(TrimmedValue(text)); // "007" is no number
 }
 
 // --- Scaled numbers
@@ -81,8 +80,10 @@ std::optional<std::string> ShowEnergy(const StoredField& field, bool raw) {
     std::int32_t prefix = 0;
     for (; energy >= Thousand && SIPrefixes.Holds(prefix + 1); ++prefix)
         energy /= Thousand;
-    return keshobjects::spellNumber(DecimalOf(energy)) + " " + ListItemRaw(SIPrefixes, prefix) +
-           "J";
+    if (!std::isfinite(energy))
+        return {};
+    return keshobjects::spellNumber(DecimalOf(energy) + 0.0) + " " +
+           ListItemRaw(SIPrefixes, prefix) + "J";
 }
 
 /// Stored as the milliseconds from one round to the next; 0 fires not at all.
@@ -112,7 +113,7 @@ std::optional<std::string> ShowInnerScene(const StoredField& field, bool) {
 
 std::optional<KeshValue> ReadInnerScene(const StoredField&, std::string_view text) {
     const auto scene = EnteredNumber(text);
-    return scene ? DecimalValue(*scene - FirstInnerScene) : std::nullopt;
+    return scene ? WholeValue(*scene - FirstInnerScene) : std::nullopt;
 }
 
 // --- Bits
@@ -144,9 +145,8 @@ std::optional<std::string> ShowRow(const StoredField& field, bool raw) {
 
 /// The number of a bullet goes before a bullet whose name is a number.
 std::optional<KeshValue> ReadBullet(const StoredField& field, std::string_view text) {
-    if (const auto position = keshobjects::readInteger(TrimmedValue(text)))
-        return *position;
-    return ReadChoice(field, text);
+    auto position = ReadRounded(field, text);
+    return position ? position : ReadChoice(field, text);
 }
 
 std::optional<KeshValue> ReadAmmo(const StoredField& field, std::string_view text) {

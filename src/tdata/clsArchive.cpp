@@ -46,7 +46,9 @@ std::shared_ptr<clsTxtParser> clsArchive::LoadParser(const std::string& Path) {
         return parser;
     }
     m_loadError = true;
-    AppendLine(m_notLoaded, Path + ": " + m_lastError, "\r\n");
+    const std::string line = Path + ": " + m_lastError;
+    if (m_notLoaded.find(line) == std::string::npos) // panels ask again for each of their files
+        AppendLine(m_notLoaded, line, "\r\n");
     m_lastError = "Error loading " + Path + ":\r\n\r\n" + m_lastError;
     return {};
 }

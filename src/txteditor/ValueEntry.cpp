@@ -139,6 +139,8 @@ QString ValueEntry::TakeName(const QString& Typed) {
 }
 
 QString ValueEntry::TakeValue(const QString& Typed) {
+    if (KeepsUntouched && Typed == m_shown)
+        return {};
     EnteredText entered = Encoded(Typed);
     if (!entered.Refusal.isEmpty())
         return entered.Refusal;

@@ -90,6 +90,8 @@ std::optional<std::int32_t> ColorEdit::Read(bool Hexadecimal) const {
         text.remove(0, 2);
     bool good = false;
     const uint value = text.toUInt(&good, Hexadecimal ? 16 : 10);
+    if (Hexadecimal && !IsHexText(text.toStdString())) // such as a second "0x"
+        return {};
     return good && value <= uint{white} ? std::optional(static_cast<std::int32_t>(value))
                                         : std::nullopt;
 }

@@ -174,6 +174,29 @@ TEST_F(WarePanel, ShowsTranslatedAndStoredValuesAndEntersBoth) {
     EXPECT_EQ(stored(7) + stored(9), "5001");
 }
 
+TEST_F(WarePanel, AnEntryThatNobodyTouchedIsNeverRefused) {
+    startWith("TFactories.txt", "48", {record(7, "A", {{3, "many"}, {13, "77"}, {17, "3"}})});
+    const std::string before = record();
+    for (const char* label : {"Rotation Y", "Race", "Size", "Ware class"}) {
+        selectField("PropView", text(label));
+        QTest::keyClick(view("PropView"), Qt::Key_F2);
+        ASSERT_TRUE(editorIn("PropView")) << label;
+        press(editorIn("PropView"), Qt::Key_Return);
+        EXPECT_FALSE(editorIn("PropView")) << label;
+    }
+    EXPECT_EQ(record(), before);
+    beginEntry("PropView", text("Race"), text("Boron"));
+    Settings->SetExt3DViewerPath({});
+    panel->findChild<QAction*>(text("body"))->trigger();
+    QCoreApplication::sendPostedEvents({}, QEvent::DeferredDelete);
+    EXPECT_EQ(stored(13), "2") << "an action takes what is being entered";
+    panel->SetReadOnly(true);
+    for (const auto code : {Qt::Key_F2, Qt::Key_Return}) {
+        key("PropView", code);
+        EXPECT_FALSE(editorIn("PropView"));
+    }
+}
+
 TEST_F(WarePanel, BoxesStandForBitsAndKeepTheOthers) {
     struct FlagCase {
         const char* File;
@@ -202,6 +225,9 @@ TEST_F(WarePanel, BoxesStandForBitsAndKeepTheOthers) {
         }
         QTest::mouseClick(flag(2), Qt::LeftButton, {}, QPoint(8, flag(2)->height() / 2));
         EXPECT_EQ(stored(c.Field), "-2147467263");
+        EXPECT_EQ(flag(6)->toolTip().isEmpty(), false);
+        EXPECT_LT(child<QGroupBox>("FlagsFrame")->minimumSizeHint().width(), 300)
+            << "the panel can be made narrow again";
         flag(c.Shown - 1)->setFocus();
         QTest::keyClick(flag(c.Shown - 1), Qt::Key_Space);
         EXPECT_EQ(stored(c.Field), std::to_string(-2147467263 + (1 << (c.Shown - 1))));
@@ -264,12 +290,24 @@ TEST_F(WarePanel, AColorIsThreeFieldsAndOneStep) {
 }
 
 TEST_F(WarePanel, TheIconIsCutFromThePicture) {
-    for (const char* picture : {"data/textures/gui.tga", "data/dds/gui.tga"}) {
-        usePicture(picture);
+    struct IconCase {
+        const char* File;
+        std::int32_t Type;
+        int Field;
+        const char* Picture;
+    };
+    const IconCase cases[] = {{"TLaser.txt", 3, 12, "data/textures/gui.tga"},
+                              {"TMissiles.txt", 5, 25, "data/dds/gui.tga"},
+                              {"TFactories.txt", 7, 18, "data/textures/gui.tga"},
+                              {"TDocks.txt", 10, 17, "data/textures/gui.tga"}};
+    for (const IconCase& c : cases) {
+        SCOPED_TRACE(c.File);
+        usePicture(c.Picture);
         useFiles();
-        startWith("TMissiles.txt", "50",
-                  {record(5, "A", {{25, "ICON_A"}}), record(5, "B", {{25, "ICON_NONE"}}),
-                   record(5, "C", {{25, "ICON_FAR"}})});
+        startWith(c.File, "50",
+                  {record(c.Type, "A", {{c.Field, "ICON_A"}}),
+                   record(c.Type, "B", {{c.Field, "ICON_NONE"}}),
+                   record(c.Type, "C", {{c.Field, "ICON_FAR"}})});
         auto* icon = child<QLabel>("IconImage");
         EXPECT_TRUE(icon->isVisible());
         EXPECT_EQ(icon->pixmap().size(), QSize(2, 1));
@@ -280,12 +318,26 @@ TEST_F(WarePanel, TheIconIsCutFromThePicture) {
         }
         delete window.data();
         panel = new ucWare;
-        QFile::remove(native(picture));
+        QFile::remove(native(c.Picture));
     }
-    write("data/textures/gui.tga", "no picture");
+    const QByteArray huge("\0\0\2\0\0\0\0\0\0\0\0\0\xFF\xFF\xFF\xFF\x18\x20", 18);
+    for (const QByteArray& broken : {QByteArray("no picture"), huge}) {
+        write("data/textures/gui.tga", broken);
+        useFiles();
+        startWith("TMissiles.txt", "50", {record(5, "A", {{25, "ICON_A"}})});
+        EXPECT_FALSE(child<QLabel>("IconImage")->isVisible());
+        delete window.data();
+        panel = new ucWare;
+    }
+    // A broken table asks for the whole of a large picture.
+    const int side = 1024;
+    QByteArray large("\0\0\2\0\0\0\0\0\0\0\0\0\0\4\0\4\x18\x20", 18);
+    write("data/textures/gui.tga", large + QByteArray(side * side * 3, 'x'));
     useFiles();
+    write("data/types/IconData.txt", "ICONTYPE_GUI;gui.tga;4;2;1;\r\nICON_A;0;0;0;999;999;\r\n");
+    openGame();
     startWith("TMissiles.txt", "50", {record(5, "A", {{25, "ICON_A"}})});
-    EXPECT_FALSE(child<QLabel>("IconImage")->isVisible());
+    EXPECT_EQ(child<QLabel>("IconImage")->pixmap().size(), QSize(256, 256));
 }
 
 TEST_F(WarePanel, ExportsTheRecordThatIsSelected) {
@@ -341,6 +393,7 @@ TEST_F(WarePanel, KeepsEverySpellingThatNobodyTouched) {
                                     "x y", "4294967295", "NaN", "0"};
     const auto any = [&] { return spellings[random() % std::size(spellings)]; };
     useFiles();
+    int entries = 0;
     for (const TypeCase& c : types) {
         SCOPED_TRACE(c.File);
         QList<QByteArray> records;
@@ -357,10 +410,11 @@ TEST_F(WarePanel, KeepsEverySpellingThatNobodyTouched) {
             view("PropView")->setFocus();
             view("PropView")
                 ->setCurrentIndex(
-                    view("PropView")->model()->index(static_cast<int>(random()) % rows, 0));
+                    view("PropView")->model()->index(static_cast<int>(random() % 99) % rows, 0));
             QTest::keyClick(view("PropView"), Qt::Key_F2);
             if (!editorIn("PropView"))
                 continue;
+            ++entries;
             QTest::keyClicks(editorIn("PropView"), QString::number(random() % 9));
             press(editorIn("PropView"), random() % 4 == 0 ? Qt::Key_Escape : Qt::Key_Return);
         }
@@ -381,8 +435,33 @@ TEST_F(WarePanel, KeepsEverySpellingThatNobodyTouched) {
         delete window.data();
         panel = new ucWare;
     }
+    EXPECT_GT(entries, 150);
     delete panel;
 }
+
+/// Takes every answer as it comes, and closes every dialog.
+class Careless : public UserInterface {
+public:
+    Careless() {
+        QObject::connect(&m_close, &QTimer::timeout, &m_close, [] {
+            if (QWidget* dialog = QApplication::activeModalWidget())
+                dialog->close();
+        });
+        m_close.start(0);
+    }
+    Answer ShowMessage(QWidget*, const MessageRequest&) override { return Answer::Ok; }
+    std::optional<FileChoice> ShowOpen(QWidget*, const FileRequest&) override { return {}; }
+    std::optional<FileChoice> ShowSave(QWidget*, const FileRequest&) override { return {}; }
+    std::optional<QString> PickDirectory(QWidget*, const QString&, const QString&) override {
+        return {};
+    }
+    std::optional<QColor> PickColor(QWidget*, const QString&, const QColor&) override { return {}; }
+    bool RunProgram(const QString&, const QStringList&) override { return false; }
+    bool OpenUrl(const QUrl&) override { return false; }
+
+private:
+    QTimer m_close;
+};
 
 /// Clicks and keys all over the panel, with helper files that are broken.
 TEST_F(WarePanel, LivesThroughClicksWithBrokenFiles) {
@@ -390,31 +469,44 @@ TEST_F(WarePanel, LivesThroughClicksWithBrokenFiles) {
     write("data/types/TWareT.txt", "");
     write("data/types/IconData.txt", "ICONTYPE_GUI;..\\..\\gui;4;2;2147483647;\r\nA;0;1;\r\n");
     openGame();
+    auto former = SetUserInterface(std::make_unique<Careless>());
     std::mt19937 random(7);
+    const std::array keys = {Qt::Key_F2,   Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab,
+                             Qt::Key_Down, Qt::Key_7,      Qt::Key_X,      Qt::Key_Space,
+                             Qt::Key_F12,  Qt::Key_Delete, Qt::Key_Insert, Qt::Key_Home};
+    std::size_t changes = 0;
     for (const TypeCase& c : types) {
         startWith(c.File, c.Version,
                   {record(c.Type, "A"), record(c.Type, "B", {{6, "x"}, {12, "-9"}, {25, "?"}})});
         const std::string before = record() + record(1);
-        panel->SetReadOnly(true);
-        QList<QWidget*> targets = panel->findChildren<QWidget*>();
-        for (int step = 0; step < 60; ++step) {
-            if (step % 20 == 0)
-                pick("ObjectView", step % 40 == 0 ? 1 : 0);
-            QWidget* target = targets[static_cast<int>(random() % 1000) % targets.size()];
-            const QPoint place(static_cast<int>(random() % 40), static_cast<int>(random() % 40));
-            if (!target->isVisible() || !target->rect().contains(place) ||
-                qobject_cast<QToolButton*>(target))
-                continue;
-            if (random() % 2 == 0)
-                QTest::mouseDClick(target, Qt::LeftButton, {}, place);
-            else
-                QTest::mouseClick(target, Qt::LeftButton, {}, place);
-            QTest::keyClick(target, static_cast<Qt::Key>(Qt::Key_Space + random() % 60));
+        for (const bool readOnly : {true, false}) {
+            panel->SetReadOnly(readOnly);
+            for (int step = 0; step < 60; ++step) {
+                if (step % 20 == 0)
+                    pick("ObjectView", step % 40 == 0 ? 1 : 0);
+                const QList<QWidget*> targets = panel->findChildren<QWidget*>();
+                QWidget* target = targets[static_cast<int>(random() % 999) % targets.size()];
+                const QPoint place(static_cast<int>(random() % 40),
+                                   static_cast<int>(random() % 40));
+                if (target->isVisible() && target->rect().contains(place) && random() % 2 == 0)
+                    QTest::mouseDClick(target, Qt::LeftButton, {}, place);
+                else if (target->isVisible() && target->rect().contains(place))
+                    QTest::mouseClick(target, Qt::LeftButton, {}, place);
+                if (QWidget* focus = QApplication::focusWidget())
+                    press(focus, keys[random() % keys.size()]);
+            }
+            EXPECT_TRUE(!readOnly || record() + record(1) == before) << c.File;
         }
+        changes += record() + record(1) == before ? 0 : 1;
+        panel->SetReadOnly(true); // gives up what is being entered
+        while (child<QAction>("undo")->isEnabled())
+            trigger("undo");
         EXPECT_EQ(record() + record(1), before) << c.File;
         delete window.data();
         panel = new ucWare;
     }
+    EXPECT_GT(changes, 0U);
+    SetUserInterface(std::move(former));
     delete panel;
 }
 

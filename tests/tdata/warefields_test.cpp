@@ -91,6 +91,7 @@ const Case Cases[] = {
     {2, 50, 8, "1234", "1.234 MJ", "1234", "7", "7"},
     {2, 50, 8, "1e14", "100000 TJ", "1e14", "7", "7"}, // no prefix beyond
     {2, 50, 8, "-5", "-5000 J", "-5", "-5", "-5"},
+    {2, 50, 8, "1e306", "-", "1e306", "-0", "0"},
     // lasers
     {3, 50, 7, "500", "120 rnd/min", "120", "120", "500"},
     {3, 50, 7, "0", "0", "0", "0", "-"},
@@ -99,7 +100,7 @@ const Case Cases[] = {
     {3, 50, 9, "0", "BULLET_A", "BULLET_A", "B", "2"},
     {3, 50, 9, "1", "7", "7", "7", "7"}, // a number is a place, not the bullet of that name
     {3, 50, 9, "3", "-", "-", "C", "-"},
-    {3, 50, 9, "-1", "-", "-", "12", "12"},
+    {3, 50, 9, "-1", "-", "-", "12.4", "12"},
     {3, 50, 12, "ICON_A", "ICON_A", "ICON_A", " ICON_B ", "ICON_B"},
     {3, 50, 12, "", "-", "-", "", ""},
     {3, 50, 5, "SG_LASER_IRE", "-", "-", "SG_OWN", "SG_OWN"},
@@ -125,10 +126,10 @@ const Case Cases[] = {
     {5, 50, 13, "2500", "5 m", "5", "0.001", "0.5"},
     {5, 50, 14, "12500", "12 s", "12", "1.5", "1500"},
     {5, 50, 24, "550", "0.6 s", "0.6", "0.0005", "0"},
-    {5, 50, 25, "ICON_B", "ICON_B", "ICON_B", "NEW", "NEW"},
+    {5, 50, 25, "ICON_B", "ICON_B", "ICON_B", "0100", "0100"},
     // stations
     {7, 48, 12, "7", "4307", "4307", "4300", "0"},
-    {10, 48, 12, "7", "4307", "4307", "x", "-"},
+    {10, 48, 12, "7", "4307", "4307", "4300.1", "0"},
     {7, 48, 13, "2", "Boron", "Boron", "Yaki", "19"},
     {10, 48, 13, "0", "N/A", "N/A", "Nobody", "-"},
     {10, 48, 13, "20", "N/A", "N/A", "25", "25"},
@@ -235,10 +236,10 @@ TEST_F(WareFieldsTest, WithoutFilesStoredValuesServeUntilTheyAreThere) {
     EXPECT_EQ(fields.Values(*laser, 12).size(), 3U);
 }
 
-// What the panels promise for a class must be kept by the conversions, for every field of every
-// type.
+// What the panels promise for a field and its conversion go together, in every type.
 TEST_F(WareFieldsTest, EveryFieldOfAClassHasItsConversion) {
     useFiles();
+    std::string units;
     for (std::int32_t type = otype::Shields; type <= otype::Nebula; ++type) {
         if (type == otype::Cockpits)
             continue;
@@ -249,12 +250,18 @@ TEST_F(WareFieldsTest, EveryFieldOfAClassHasItsConversion) {
             const bool skin = type == otype::Bullets && i == record->size() - 2;
             EXPECT_EQ(kind == translation::List && !skin, !fields.Values(*record, i).empty())
                 << type << '.' << i;
+            const bool own = FindConversion(OwnWareConversions(type), *record, i) != nullptr;
+            EXPECT_TRUE(!own || kind != translation::None) << type << '.' << i;
             if (kind == translation::Number) {
                 EXPECT_NE(shown(*record, i, false), None) << type << '.' << i;
                 EXPECT_EQ(entered(*record, i, "?"), None) << type << '.' << i;
+                units += std::string(FieldUnit(type, record->size(), i)) + ' ';
             }
         }
     }
+    EXPECT_EQ(units,
+              "kW kJ Rnds/min s m/s Hexadecimal Hexadecimal Hexadecimal m/s m/s m s s   m m m "
+              "m ");
 }
 
 TEST_F(WareFieldsTest, IconsAreThoseOfTheInterface) {
@@ -263,13 +270,16 @@ TEST_F(WareFieldsTest, IconsAreThoseOfTheInterface) {
     ASSERT_TRUE(icons.Load());
     EXPECT_EQ(icons.Picture(), "gui.tga");
     EXPECT_EQ(icons.Names(), (std::vector<std::string>{"ICON_A", "ICON_B", "ICON_C"}));
+    const auto edge = icons.Find("ICON_C");
+    ASSERT_TRUE(edge);
+    EXPECT_EQ(edge->X, 0);
     const auto place = icons.Find("ICON_A");
     ASSERT_TRUE(place);
     EXPECT_EQ(place->X, 1);
     EXPECT_EQ(place->Y, 6);
     EXPECT_EQ(place->Width, 30);
     EXPECT_EQ(place->Height, 31);
-    for (const char* none : {"ICON_B", "ICON_C", "A", "D", "", "icon_a"})
+    for (const char* none : {"ICON_B", "A", "D", "", "icon_a"})
         EXPECT_FALSE(icons.Find(none)) << none;
 
     clsTxtParser other;

@@ -112,7 +112,7 @@ Shot panelShot(const QString& name, const char* file, const char* panel, int tab
 /// A file of the game with its panel.
 Shot fileShot(const char* name) {
     return {QString::fromLatin1(name).toLower(), "frmTXTEditor",
-            [name] { openEditor(("vfs://types\\" + std::string(name) + ".pck").c_str()); },
+            [name] { openEditor(("vfs://types\\" + std::string(name)).c_str()); },
             [](QWidget& window) {
                 window.resize(1100, 760);
                 pickRow(window, "ObjectView", 1);

@@ -68,8 +68,9 @@ void ColumnLayout::setGeometry(const QRect& rect) {
     QLayout::setGeometry(rect);
     const QRect inside = rect.marginsRemoved(contentsMargins());
     const int columns = Columns(inside.width());
+    const int rows = std::max(1, (count() + columns - 1) / columns);
     for (int i = 0; i < count(); ++i)
-        m_items[i]->setGeometry(QRect(inside.left() + i % columns * (Cell().width() + Gap()),
-                                      inside.top() + i / columns * RowHeight(), Cell().width(),
+        m_items[i]->setGeometry(QRect(inside.left() + i / rows * (Cell().width() + Gap()),
+                                      inside.top() + i % rows * RowHeight(), Cell().width(),
                                       Cell().height()));
 }

@@ -1,4 +1,4 @@
-// Lays widgets out in rows of equal columns, as many as there is room for.
+// Lays widgets out in equal columns, downwards, in as many as there is room for.
 #pragma once
 
 #include <QtWidgets>

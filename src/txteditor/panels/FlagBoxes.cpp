@@ -1,6 +1,6 @@
 #include "txteditor/panels/FlagBoxes.h"
 
-#include <algorithm>
+#include "txteditor/panels/ColumnLayout.h"
 
 namespace {
 
@@ -10,9 +10,8 @@ QString translated(const char* text) {
 
 } // namespace
 
-FlagBoxes::FlagBoxes(QWidget* Parent) : QGroupBox(Parent), m_grid(new QGridLayout(this)) {
+FlagBoxes::FlagBoxes(QWidget* Parent) : QGroupBox(Parent), m_columns(new ColumnLayout(this)) {
     setObjectName(QStringLiteral("FlagsFrame"));
-    m_grid->setVerticalSpacing(m_grid->verticalSpacing() / 2);
     for (int bit = 0; bit < MostWareFlags; ++bit) {
         auto* box = new QCheckBox(this);
         box->setObjectName(QStringLiteral("chkFlag%1").arg(bit));
@@ -22,18 +21,18 @@ FlagBoxes::FlagBoxes(QWidget* Parent) : QGroupBox(Parent), m_grid(new QGridLayou
 }
 
 void FlagBoxes::SetFlags(std::span<const WareFlag> Flags) {
-    m_used = static_cast<int>(Flags.size());
-    for (int bit = 0; bit < m_boxes.size(); ++bit) {
+    while (m_columns->count() > 0)
+        delete m_columns->takeAt(0);
+    for (qsizetype bit = 0; bit < m_boxes.size(); ++bit) {
         QCheckBox* box = m_boxes[bit];
-        box->setVisible(bit < m_used);
-        if (bit >= m_used)
+        box->setVisible(bit < std::ssize(Flags));
+        if (bit >= std::ssize(Flags))
             continue;
         const WareFlag& flag = Flags[static_cast<std::size_t>(bit)];
         box->setText(translated(flag.Caption));
         box->setToolTip(translated(flag.Tip));
+        m_columns->addWidget(box);
     }
-    m_columns = 0;
-    PlaceBoxes();
 }
 
 void FlagBoxes::ShowWord(std::optional<std::uint32_t> Word) {
@@ -46,24 +45,4 @@ void FlagBoxes::ShowWord(std::optional<std::uint32_t> Word) {
 void FlagBoxes::SetReadOnly(bool Value) {
     m_readOnly = Value;
     setEnabled(m_hasWord && !m_readOnly);
-}
-
-void FlagBoxes::resizeEvent(QResizeEvent* event) {
-    QGroupBox::resizeEvent(event);
-    PlaceBoxes();
-}
-
-void FlagBoxes::PlaceBoxes() {
-    int widest = 1;
-    for (const QCheckBox* box : m_boxes.mid(0, m_used))
-        widest = std::max(widest, box->sizeHint().width() + m_grid->horizontalSpacing());
-    const int columns = std::clamp(contentsRect().width() / widest, 1, std::max(m_used, 1));
-    if (columns == m_columns)
-        return;
-    m_columns = columns;
-    const int rows = (m_used + columns - 1) / columns;
-    for (int bit = 0; bit < m_used; ++bit) // downwards, as the bits are counted
-        m_grid->addWidget(m_boxes[bit], bit % rows, bit / rows);
-    for (int column = 0; column < MostWareFlags; ++column)
-        m_grid->setColumnStretch(column, column < columns ? 1 : 0);
 }

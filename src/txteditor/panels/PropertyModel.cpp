@@ -10,7 +10,7 @@ QVariant tagOf(std::int32_t field) {
     switch (field) {
     case PropertyRow::IdField:
         return QStringLiteral("name");
-    case PropertyRow::Colour:
+    case PropertyRow::Color:
         return QStringLiteral("color");
     case PropertyRow::Computed:
         return {};

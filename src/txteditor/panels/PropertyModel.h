@@ -8,7 +8,7 @@
 struct PropertyRow {
     static constexpr std::int32_t IdField = -1;  ///< the record's ID
     static constexpr std::int32_t Computed = -2; ///< stands in no field
-    static constexpr std::int32_t Colour = -3;   ///< of three fields together
+    static constexpr std::int32_t Color = -3;    ///< of three fields together
 
     std::int32_t Field = Computed;
     QString Name;

@@ -26,6 +26,7 @@ QComboBox* newCombo(const QStringList& choices, QWidget* parent) {
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setCompleter(nullptr); // it would change what is typed
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // of many
     combo->addItems(choices);
     combo->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     return combo;
@@ -204,7 +205,7 @@ void PropertyView::resizeEvent(QResizeEvent* event) {
 void PropertyView::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const PropertyRow* row = m_model->Row(currentIndex());
-    const bool special = row && row->Field == PropertyRow::Colour && event->key() == Qt::Key_F2;
+    const bool special = row && row->Field == PropertyRow::Color && event->key() == Qt::Key_F2;
     if ((enter && state() != EditingState) || special)
         EditRow();
     else if (event->matches(QKeySequence::Copy) ||

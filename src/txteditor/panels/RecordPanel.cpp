@@ -133,10 +133,20 @@ QList<PropertyRow> RecordPanel::RowsOf(std::span<const std::int32_t> Fields) con
 
 // Entry
 
+void RecordPanel::SetReadOnly(bool Value) {
+    ObjectEditor::SetReadOnly(Value);
+    if (Value)
+        DropEntries();
+}
+
+void RecordPanel::DropEntries() {
+    for (PropertyView* view : findChildren<PropertyView*>())
+        view->DropEntry();
+}
+
 void RecordPanel::SetCurrentObject(RecordPtr Object) {
     if (Object != m_object)
-        for (PropertyView* view : findChildren<PropertyView*>())
-            view->DropEntry();
+        DropEntries();
     m_object = std::move(Object);
 }
 
@@ -160,6 +170,7 @@ std::optional<ValueEntry> RecordPanel::BeginEntry(std::int32_t Field) {
         return {};
     ValueEntry entry = Field == PropertyRow::IdField ? ValueEntry(m_object, m_parser->ByIndex())
                                                      : ValueEntry(this, m_object, Field);
+    entry.KeepsUntouched = true; // a click on a row begins an entry that nobody may have meant
     entry.AllowSlash = AllowsSlash();
     entry.FileEncoding = FileEncoding();
     return entry;
@@ -213,6 +224,11 @@ void RecordPanel::HandleKey(const std::function<void()>& Work) {
     } catch (const std::exception& failure) {
         Say(tr("Error in key handler: ") + ToScreen(failure.what()), BoxIcon::Critical);
     }
+}
+
+void RecordPanel::RunAction(const std::function<void()>& Work) {
+    if (FinishEntry())
+        HandleKey(Work);
 }
 
 void RecordPanel::Say(const QString& Text, BoxIcon Icon) {

@@ -17,6 +17,7 @@ class RecordPanel : public ObjectEditor {
 public:
     using ObjectEditor::ObjectEditor;
 
+    void SetReadOnly(bool Value) override; ///< gives up what is being entered
     [[nodiscard]] std::string GetLastError() const override { return m_lastError; }
     [[nodiscard]] bool Init(clsTxtParser& Parser) override;
     [[nodiscard]] bool LornQueryInterfaceEx(std::int32_t& OType) override {
@@ -58,6 +59,8 @@ public:
     GoToAction* OfferGoTo(QWidget& Widget, GoToAction::Target Find);
     /// Runs what a key or click asks for; failures are said as those of a key.
     void HandleKey(const std::function<void()>& Work);
+    /// The same for an action: takes what is being entered before; not run if that is refused.
+    void RunAction(const std::function<void()>& Work);
     void Say(const QString& Text, BoxIcon Icon);
     [[nodiscard]] bool Confirm(const QString& Question); ///< Yes or No
     [[nodiscard]] std::function<TextEncoding()> FileEncoding() const;
@@ -88,6 +91,7 @@ protected:
     virtual void RefreshViews() = 0;
 
 private:
+    void DropEntries();
     [[nodiscard]] bool EditInDialog(std::int32_t Field);
 
     clsTxtParser* m_parser = nullptr;

@@ -166,7 +166,7 @@ void ucShip::ConnectActions() {
     static_assert(std::size(works) == std::size(buttons));
     for (qsizetype i = 0; i < m_actions.size(); ++i)
         connect(m_actions[i], &QAction::triggered, this,
-                [this, work = works[i]] { HandleKey(work); });
+                [this, work = works[i]] { RunAction(work); });
     for (PropertyView* view : {m_info, m_performance, m_model, m_weaponFields})
         OfferInPopup(*view, m_actions.mid(0, 3));
     m_turrets->OfferActions(m_actions.mid(3, 2));

@@ -24,13 +24,39 @@ constexpr std::int32_t nameField = 6;
 constexpr std::int32_t namesPage = 17; ///< of the text resources
 constexpr std::int32_t supportedNebula = 14;
 
-/// What a panel of a type is called; the type's key where it has no title.
+constexpr int mostIconSide = 256; ///< pixels; a broken table may ask for the whole picture
+
+/// What a panel of a type is called; "Debris" has no title but its key's, behind the "T".
 std::string titleOf(std::int32_t type) {
+    if (type == otype::Debris)
+        return std::string(ObjectTypeKeyOf(type).substr(1));
     for (const ObjectTypeKey& key : ObjectTypeKeys())
         if (key.Code == type)
-            return std::string(key.PanelTitle.empty() ? key.Key.substr(1) : key.PanelTitle);
+            return std::string(key.PanelTitle);
     return {};
 }
+
+/// A row that is worked out from several fields.
+struct ComputedRow {
+    WareRow::Kind What;
+    std::int32_t Field; ///< as the row is entered
+    const char* Name;
+    std::optional<std::string> (*Text)(const clsTXTObject& Record);
+};
+constexpr ComputedRow computedRows[] = {
+    {WareRow::Kind::Name, PropertyRow::Computed, QT_TRANSLATE_NOOP("ucWare", "Name"),
+     [](const clsTXTObject& record) { return std::optional(WareFields::ResourceName(record)); }},
+    {WareRow::Kind::ChargeTime, PropertyRow::Computed, QT_TRANSLATE_NOOP("ucWare", "Charge time"),
+     ChargeTime},
+    {WareRow::Kind::Range, PropertyRow::Computed, QT_TRANSLATE_NOOP("ucWare", "Range"),
+     BulletRange},
+    {WareRow::Kind::Color, PropertyRow::Color, QT_TRANSLATE_NOOP("ucWare", "Color (RGB)"),
+     [](const clsTXTObject& record) -> std::optional<std::string> {
+         const auto color = ColorOfRecord(record);
+         return color ? std::optional(ToHex(static_cast<std::uint32_t>(*color), 0).insert(0, "0x"))
+                      : std::nullopt;
+     }},
+};
 
 } // namespace
 
@@ -49,9 +75,12 @@ bool ucWare::LornQueryInterfaceEx(std::int32_t& OType) {
 
 void ucWare::Prepare(std::int32_t OType) {
     m_fields.LoadFiles(OType);
-    if (IconField(OType) >= 0 && m_picture.isNull())
+    if (IconField(OType) >= 0 && !m_picture)
         m_picture = LoadGamePicture(m_fields.Icons().Picture());
-    m_flags->SetFlags(WareFlagsOf(OType).Flags);
+    const WareFlagField flags = WareFlagsOf(OType);
+    m_flags->SetFlags(flags.Flags);
+    if (flags.Field >= 0)
+        m_flags->setTitle(ToScreen(FieldsOf(OType).Find(flags.Field, 0)->Name));
     BuildToolbar(OType);
 }
 
@@ -87,7 +116,8 @@ std::int32_t ucWare::LornQueryInfo(std::int32_t OType) const {
 bool ucWare::Validate(std::string& Text) {
     if (Parser()->otype() != otype::Nebula || Parser()->Version() >= supportedNebula)
         return true;
-    AppendLine(Text, "This is TNebula file for Lorn. It's not fully supported.", "\r\n");
+    AppendLine(Text, tr("This is TNebula file for Lorn. It's not fully supported.").toStdString(),
+               "\r\n");
     return false;
 }
 
@@ -115,7 +145,9 @@ std::string ucWare::GetResourceName(const RecordPtr& Object) const {
 }
 
 RecordPtr ucWare::CreateObject(std::int32_t OType, clsTxtParser& Parser, const RecordPtr& Before) {
-    if (OType > otype::Special && OType != otype::Docks) {
+    const bool creatable =
+        (OType >= otype::Shields && OType <= otype::Special) || OType == otype::Docks;
+    if (!creatable) {
         SetLastError(tr("Objects of this type cannot be created.").toStdString());
         return {};
     }
@@ -167,49 +199,24 @@ void ucWare::RefreshViews() {
 
 PropertyRow ucWare::RowFor(const WareRow& Row) const {
     using Kind = WareRow::Kind;
-    switch (Row.What) {
-    case Kind::ID:
+    if (Row.What == Kind::ID)
         return IdRow();
-    case Kind::Field:
-        return RowOf(Row.Field);
-    case Kind::DustBody:
-    case Kind::DustDensity: {
-        PropertyRow row = RowOf(Row.Field);
+    if (Row.Field < 0)
+        return ComputedRowFor(Row.What);
+    PropertyRow row = RowOf(Row.Field);
+    if (Row.What != Kind::Field)
         row.Name += Row.What == Kind::DustBody ? tr(" (Dust body)") : tr(" (Dust density)");
-        return row;
-    }
-    case Kind::Name:
-        return {PropertyRow::Computed, tr("Name"), ComputedText(Row.What)};
-    case Kind::ChargeTime:
-        return {PropertyRow::Computed, tr("Charge time"), ComputedText(Row.What)};
-    case Kind::Range:
-        return {PropertyRow::Computed, tr("Range"), ComputedText(Row.What)};
-    case Kind::Color:
-        break;
-    }
-    const auto color = ColorOfRecord(*CurrentObject());
-    return {PropertyRow::Colour, tr("Color (RGB)"), ComputedText(Kind::Color),
-            color ? ColorOf(*color) : QColor()};
+    return row;
 }
 
-QString ucWare::ComputedText(WareRow::Kind What) const {
-    const clsTXTObject& record = *CurrentObject();
-    std::optional<std::string> text;
-    switch (What) {
-    case WareRow::Kind::Name:
-        return ToScreen(WareFields::ResourceName(record));
-    case WareRow::Kind::ChargeTime:
-        text = ChargeTime(record);
-        break;
-    case WareRow::Kind::Range:
-        text = BulletRange(record);
-        break;
-    default:
-        if (const auto color = ColorOfRecord(record))
-            text = ToHex(static_cast<std::uint32_t>(*color), 0).insert(0, "0x");
-        break;
-    }
-    return text ? ToScreen(*text) : tr("N/A");
+PropertyRow ucWare::ComputedRowFor(WareRow::Kind What) const {
+    const auto* row = std::find_if(std::begin(computedRows), std::end(computedRows),
+                                   [What](const ComputedRow& one) { return one.What == What; });
+    const auto text = row->Text(*CurrentObject());
+    const auto color =
+        What == WareRow::Kind::Color ? ColorOfRecord(*CurrentObject()) : std::nullopt;
+    return {row->Field, tr(row->Name), text ? ToScreen(*text) : tr("N/A"),
+            color ? ColorOf(*color) : QColor()};
 }
 
 void ucWare::ShowDescription() {
@@ -225,32 +232,29 @@ void ucWare::ShowDescription() {
 }
 
 void ucWare::ShowFlags() {
-    const std::int32_t type = Parser() ? Parser()->otype() : otype::None;
+    const RecordPtr& record = CurrentObject();
+    const std::int32_t type = record ? record->otype : Parser() ? Parser()->otype() : otype::None;
     const std::int32_t field = WareFlagsOf(type).Field;
     m_flags->setVisible(field >= 0);
-    if (field < 0)
-        return;
-    const RecordPtr& record = CurrentObject();
-    m_flags->setTitle(ToScreen(FieldsOf(type).Find(field, 0)->Name));
-    m_flags->ShowWord(record && field < record->size() ? ReadMask(*record, field) : std::nullopt);
+    m_flags->ShowWord(record && field >= 0 ? ReadMask(*record, field) : std::nullopt);
 }
 
 void ucWare::ShowIcon() {
     const RecordPtr& record = CurrentObject();
     const std::int32_t field = record ? IconField(record->otype) : -1;
-    const auto place = field >= 0 && field < record->size()
-                           ? m_fields.Icons().Find(record->ValueText(field))
-                           : std::nullopt;
-    const QRect rect =
-        place ? QRect(place->X, place->Y, place->Width, place->Height) & m_picture.rect() : QRect();
+    const auto place =
+        m_picture && field >= 0 ? m_fields.Icons().Find(SpellingAt(*record, field)) : std::nullopt;
+    QRect rect = place ? QRect(place->X, place->Y, place->Width, place->Height) & m_picture->rect()
+                       : QRect();
+    rect.setSize(rect.size().boundedTo({mostIconSide, mostIconSide}));
     m_icon->setVisible(!rect.isEmpty());
-    m_icon->setPixmap(rect.isEmpty() ? QPixmap() : QPixmap::fromImage(m_picture.copy(rect)));
+    m_icon->setPixmap(rect.isEmpty() ? QPixmap() : QPixmap::fromImage(m_picture->copy(rect)));
 }
 
 // Changes
 
 void ucWare::SetFlag(int Bit, bool On) {
-    HandleKey([&] {
+    RunAction([&] {
         const RecordPtr record = CurrentObject();
         const std::int32_t field = record ? WareFlagsOf(record->otype).Field : -1;
         const auto word = field >= 0 ? ReadMask(*record, field) : std::nullopt;
@@ -258,13 +262,14 @@ void ucWare::SetFlag(int Bit, bool On) {
             const std::uint32_t bit = std::uint32_t{1} << Bit;
             record->SetValue(field, MaskValue(On ? *word | bit : *word & ~bit));
             Q_EMIT OnObjectChanged(record);
+            RefreshViews();
         }
-        RefreshViews();
     });
+    ShowFlags(); // also where nothing was changed
 }
 
 bool ucWare::EditFields(std::int32_t Row) {
-    if (Row != PropertyRow::Colour)
+    if (Row != PropertyRow::Color)
         return false;
     const RecordPtr record = CurrentObject();
     frmColorEdit dialog(this);

@@ -6,6 +6,8 @@
 #include "tdata/WareRows.h"
 #include "txteditor/panels/RecordPanel.h"
 
+#include <memory>
+
 class FlagBoxes;
 class PropertyView;
 
@@ -52,14 +54,14 @@ private:
     void Prepare(std::int32_t OType);
 
     [[nodiscard]] PropertyRow RowFor(const WareRow& Row) const;
-    [[nodiscard]] QString ComputedText(WareRow::Kind What) const;
+    [[nodiscard]] PropertyRow ComputedRowFor(WareRow::Kind What) const;
     void ShowDescription();
     void ShowFlags();
     void ShowIcon();
     void SetFlag(int Bit, bool On);
 
     WareFields m_fields;
-    QImage m_picture; ///< of all icons; null if there is none
+    std::shared_ptr<const QImage> m_picture; ///< of all icons; none if it cannot be had
 
     QToolBar* m_bar = nullptr;
     QList<QAction*> m_scenes; ///< the toolbar's buttons that depend on the type

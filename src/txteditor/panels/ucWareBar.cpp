@@ -95,7 +95,7 @@ QAction* ucWare::AddViewAction(const char* Icon, const QString& Key, const QStri
     action->setEnabled(false);
     m_view->addAction(action);
     connect(action, &QAction::triggered, this, [this, Field, Scene] {
-        HandleKey([&] {
+        RunAction([&] {
             if (CurrentObject())
                 ExportObjectToViewer(this, *CurrentObject(), Field, Scene);
         });

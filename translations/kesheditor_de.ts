@@ -17,6 +17,37 @@
     </message>
 </context>
 <context>
+    <name>ColorEdit</name>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Wählen...</translation>
+    </message>
+    <message>
+        <source>Choose the color in a dialog</source>
+        <translation>Wählt die Farbe in einem Dialog</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>&amp;Decadic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Hexa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+</context>
+<context>
     <name>CommonBoxes</name>
     <message>
         <source>&quot; already exists.
@@ -71,13 +102,13 @@ Das System konnte es nicht starten.</translation>
     </message>
 </context>
 <context>
-    <name>ExportShipsFile</name>
+    <name>ExportFile</name>
     <message>
-        <source>Export TShips</source>
+        <source>Error in Export file: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Semicolon delimeted file (*.txt)|*.txt|Record structure (*.txt)|*.txt</source>
+        <source>Don&apos;t know how to export.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -85,16 +116,8 @@ Das System konnte es nicht starten.</translation>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Error in Export file: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Saving %1</source>
-        <translation>%1 wird gespeichert</translation>
-    </message>
-    <message>
-        <source>The ships would be lost: an export cannot be loaded again.</source>
-        <translation>Die Schiffe gingen verloren: Ein Export kann nicht wieder geladen werden.</translation>
+        <translation>Speichere %1</translation>
     </message>
 </context>
 <context>
@@ -122,6 +145,329 @@ Go to Settings and set it up.</source>
     <message>
         <source>Real name</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GoToAction</name>
+    <message>
+        <source>Show the object that is named here (also by a click with Ctrl)</source>
+        <translation>Zeigt das Objekt, das hier genannt ist (auch durch einen Klick mit Strg)</translation>
+    </message>
+    <message>
+        <source>Go to ...</source>
+        <translation>Gehe zu ...</translation>
+    </message>
+    <message>
+        <source>Go to %1</source>
+        <translation>Gehe zu %1</translation>
+    </message>
+    <message>
+        <source>Go to %1: %2</source>
+        <translation>Gehe zu %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>JobBoxes</name>
+    <message>
+        <source>Field %1</source>
+        <translation>Feld %1</translation>
+    </message>
+    <message>
+        <source>Stored: &quot;%1&quot;</source>
+        <translation>Gespeichert: „%1“</translation>
+    </message>
+    <message>
+        <source>This version of the file does not have the field. &quot;%1&quot; (field %2) stands here in its stead, and is changed.</source>
+        <translation>Diese Version der Datei hat das Feld nicht. An seiner Stelle steht hier „%1“ (Feld %2) und wird geändert.</translation>
+    </message>
+</context>
+<context>
+    <name>JobControls</name>
+    <message>
+        <source>Race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Corporation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ship Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variant Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fighter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Civilian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trader</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Military</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is owner&apos;s sector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is core sector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Has shipyard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Has owner&apos;s stations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not enemy sector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is border sector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invert sector flags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create in shipyard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create in gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create inside sector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create outside sector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create NULL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is invincible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is hidden pirate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Destroy OOS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rebuild in new sector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fly average speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fighter Drones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mass Driver</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PSG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ion Disruptor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flak</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IH</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mining las.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tug</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repair las.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Impulse Ray Emmiter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Particle Accelerator Cannon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High Energy Plasma Thrower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photon Pulse Cannon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kyon Emmiter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ship name</source>
+        <translation>Schiffsname</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>Race of the ship</source>
+        <translation>Rasse des Schiffs</translation>
+    </message>
+    <message>
+        <source>Variant</source>
+        <translation>Variante</translation>
+    </message>
+    <message>
+        <source>Classification</source>
+        <translation>Einordnung</translation>
+    </message>
+    <message>
+        <source>Sector</source>
+        <translation>Sektor</translation>
+    </message>
+    <message>
+        <source>Creation</source>
+        <translation>Entstehung</translation>
+    </message>
+    <message>
+        <source>Various</source>
+        <translation>Verschiedenes</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Erlaubt</translation>
+    </message>
+    <message>
+        <source>Forbid</source>
+        <translation>Verboten</translation>
+    </message>
+    <message>
+        <source>Race of the owner</source>
+        <translation>Rasse des Besitzers</translation>
+    </message>
+</context>
+<context>
+    <name>JobShipsModel</name>
+    <message>
+        <source>[empty]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (not found)</source>
+        <translation>%1 (nicht gefunden)</translation>
+    </message>
+</context>
+<context>
+    <name>JobSummary</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>bis zu %1</translation>
+    </message>
+    <message>
+        <source>%1 in a sector</source>
+        <translation>%1 in einem Sektor</translation>
+    </message>
+    <message>
+        <source>ships of no class</source>
+        <translation>Schiffe ohne Klasse</translation>
+    </message>
+    <message>
+        <source>any class</source>
+        <translation>jede Klasse</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>any race</source>
+        <translation>jeder Rasse</translation>
+    </message>
+    <message>
+        <source>not in sectors: %1</source>
+        <translation>nicht in Sektoren: %1</translation>
+    </message>
+    <message>
+        <source>in sectors: %1</source>
+        <translation>in Sektoren: %1</translation>
+    </message>
+    <message>
+        <source>sector %1, %2</source>
+        <translation>Sektor %1, %2</translation>
+    </message>
+    <message>
+        <source>shipyard</source>
+        <translation>Werft</translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation>Tor</translation>
+    </message>
+    <message>
+        <source>inside sector</source>
+        <translation>im Sektor</translation>
+    </message>
+    <message>
+        <source>outside sector</source>
+        <translation>außerhalb des Sektors</translation>
+    </message>
+    <message>
+        <source>created at: %1</source>
+        <translation>entsteht: %1</translation>
+    </message>
+    <message>
+        <source>owned by %1</source>
+        <translation>gehört %1</translation>
+    </message>
+    <message>
+        <source>chance docked %1</source>
+        <translation>Chance angedockt %1</translation>
+    </message>
+    <message>
+        <source>respawns after %1</source>
+        <translation>kehrt wieder nach %1</translation>
     </message>
 </context>
 <context>
@@ -216,6 +562,21 @@ Soll er angelegt werden?</translation>
     <message>
         <source>Error starting program: </source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Navigator</name>
+    <message>
+        <source>The game has no file &quot;%1&quot;.</source>
+        <translation>Das Spiel hat keine Datei „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no ware &quot;%1&quot;.</source>
+        <translation>Es gibt keine Ware „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no such object in this file.</source>
+        <translation>In dieser Datei gibt es kein solches Objekt.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +996,157 @@ Changes: %2, the last of them at %3.</source>
     </message>
 </context>
 <context>
+    <name>WareFlags</name>
+    <message>
+        <source>PAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set on Particle Accelerator Cannon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Beam</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Beam weapon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zig zag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set on Ion Disruptor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Areal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set on Alpha Phased Shockwave Generator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disables spaceflies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ignore shields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use ammo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Will require ammo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repairs hull</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flak</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reduce speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ashfall</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drain wpns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dmg over time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fragmentation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fire delay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can be fired without lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dumb</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No guidance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multi fragment warhead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heatseeker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multi warhaed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every warhead can track different target</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proximity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Detonates in profimity of target</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Man. detonation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Can be manually detonated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firestorm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Man. guided</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>WareListViewer</name>
     <message>
         <source>Ware list %1 not found</source>
@@ -819,6 +1331,25 @@ Changes: %2, the last of them at %3.</source>
     <message>
         <source>Sort by &amp;type</source>
         <translation>Nach &amp;Typ sortieren</translation>
+    </message>
+</context>
+<context>
+    <name>frmColorEdit</name>
+    <message>
+        <source>Value Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Property name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entered value is invalid.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1744,6 +2275,18 @@ Soll sie neu geladen werden?</translation>
         <source>Files of this type have a form of their own. They are written as plain records, which are not read back as this file was read.</source>
         <translation>Dateien dieses Typs haben eine eigene Form. Sie werden als einfache Datensätze geschrieben, die nicht so gelesen werden, wie diese Datei gelesen wurde.</translation>
     </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Return to where &quot;Go to&quot; was chosen</source>
+        <translation>Kehrt dorthin zurück, wo „Gehe zu“ gewählt wurde</translation>
+    </message>
+    <message>
+        <source>List only the records of one choice: %1</source>
+        <translation>Nur die Einträge einer Auswahl zeigen: %1</translation>
+    </message>
 </context>
 <context>
     <name>frmText</name>
@@ -1836,6 +2379,123 @@ Soll sie neu geladen werden?</translation>
     <message>
         <source>Progress</source>
         <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
+    <name>ucJob</name>
+    <message>
+        <source>Job info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Owner race</source>
+        <translation>Rasse des Besitzers</translation>
+    </message>
+    <message>
+        <source>Any owner race</source>
+        <translation>Jeder Besitzer</translation>
+    </message>
+    <message>
+        <source>Ship class</source>
+        <translation>Schiffsklasse</translation>
+    </message>
+    <message>
+        <source>Any ship class</source>
+        <translation>Jede Schiffsklasse</translation>
+    </message>
+    <message>
+        <source>Warning - this is old Job file (ver. %1)
+
+It&apos;s possible that not all user controls will behave correctly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wing %1 not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (not found)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ship</source>
+        <translation type="unfinished">Schiff</translation>
+    </message>
+    <message>
+        <source>Sector and placement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weapons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Race</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ware list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the job does</source>
+        <translation>Was der Auftrag tut</translation>
+    </message>
+    <message>
+        <source>Double click to change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID of the ship&apos;s name</source>
+        <translation>ID des Schiffsnamens</translation>
+    </message>
+    <message>
+        <source>Ship name ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a part of the name to find a ship</source>
+        <translation>Einen Teil des Namens eingeben, um ein Schiff zu finden</translation>
+    </message>
+    <message>
+        <source>Sector X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sector Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chance ship docked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Doubleclick to change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jobs of the wing</source>
+        <translation>Aufträge des Geschwaders</translation>
     </message>
 </context>
 <context>
@@ -2000,6 +2660,18 @@ Do you really want to modify it?</source>
         <source>(doubleclick to change)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Export TShips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon delimeted file (*.txt)|*.txt|Record structure (*.txt)|*.txt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The ships would be lost: an export cannot be loaded again.</source>
+        <translation>Die Schiffe gingen verloren: Ein Export lässt sich nicht wieder laden.</translation>
+    </message>
 </context>
 <context>
     <name>ucTurret</name>
@@ -2030,6 +2702,136 @@ Do you really want to modify it?</source>
     <message>
         <source>These are no turrets.</source>
         <translation>Das sind keine Türme.</translation>
+    </message>
+</context>
+<context>
+    <name>ucWare</name>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charge time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color (RGB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is TNebula file for Lorn. It&apos;s not fully supported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No object is selected.</source>
+        <translation>Es ist kein Objekt ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Record structure (*.txt, *.cat)|*.txt;*.cat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file would be lost: an export cannot be loaded again.</source>
+        <translation>Die Datei ginge verloren: Ein Export lässt sich nicht wieder laden.</translation>
+    </message>
+    <message>
+        <source>Objects of this type cannot be created.</source>
+        <translation>Objekte dieser Art lassen sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source> (Dust body)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (Dust density)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[Error getting description]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show object scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Debris map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scene 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View object&apos;s body in external viewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View object&apos;s picture in external viewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ucWareList</name>
+    <message>
+        <source>Wares of the list</source>
+        <translation>Waren der Liste</translation>
+    </message>
+    <message>
+        <source>Ware List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ware List info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ware lists are only shown here; none can be added.</source>
+        <translation>Warenlisten werden hier nur gezeigt; neue lassen sich nicht anlegen.</translation>
     </message>
 </context>
 </TS>

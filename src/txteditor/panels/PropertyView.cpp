@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int nameWidth = 30; ///< characters
+constexpr int nameWidth = 36; ///< characters
 
 QLineEdit* lineOf(QWidget* editor) {
     auto* combo = qobject_cast<QComboBox*>(editor);

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int boxWidth = 12;       ///< characters, at least
+constexpr int boxWidth = 6;        ///< characters, at least
 constexpr int completionRows = 15; ///< that are seen at once
 
 constexpr std::int32_t namePage = 17;

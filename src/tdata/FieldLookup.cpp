@@ -1,5 +1,6 @@
 #include "tdata/FieldLookup.h"
 
+#include "tdata/RecordNames.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshJobs.h"
 #include "tdata/mdlKeshShips.h"
@@ -10,7 +11,6 @@
 
 namespace {
 
-constexpr std::int32_t SubtypeField = 5;
 constexpr std::int32_t WareClassFromEnd = 6;
 
 constexpr std::string_view NoName = "N/A"; ///< next to the tail, and at the ID
@@ -118,7 +118,7 @@ std::int32_t FieldValueType(std::int32_t Type, std::int32_t Size, std::int32_t I
 std::int32_t FieldTranslation(std::int32_t Type, std::int32_t Version, std::int32_t Size,
                               std::int32_t Index) {
     const FieldTable& table = FieldsOf(Type);
-    if (Index == SubtypeField && HasSymbolicSubtype(Type, Version))
+    if (Index == CommonSubtypeField && HasSymbolicSubtype(Type, Version))
         return translation::List;
     const Field* const row = table.Find(Index, Size);
     if (row != nullptr && row->Translation != translation::None)

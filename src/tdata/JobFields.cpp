@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr std::int32_t NamePage = 17;
 constexpr std::int32_t FirstVariant = 10000; ///< ids of their texts
 
 constexpr std::string_view ClassRows[] = {"M1", "M2", "M3", "M4", "M5", "M6", "TP", "TS", "TL"};
@@ -36,7 +35,7 @@ std::int32_t PlaceOf(const clsTXTObject& job, std::int32_t field) {
 
 std::string ObjectText(const clsTXTObject& job, std::int32_t field) {
     const auto id = GetJobInteger(job, field);
-    return id ? ResourceText(NamePage, *id).value_or("") : std::string();
+    return id ? ResourceText(ObjectNamePage, *id).value_or("") : std::string();
 }
 
 /// What the one set flag of a group stands for; empty if none or several are set.
@@ -73,7 +72,7 @@ std::string JobOwnerRaceName(std::int32_t Place) {
 
 std::string JobVariantName(std::int32_t Place) {
     constexpr std::int32_t last = std::numeric_limits<std::int32_t>::max() - FirstVariant;
-    auto text = Place <= last ? ResourceText(NamePage, FirstVariant + Place) : std::nullopt;
+    auto text = Place <= last ? ResourceText(ObjectNamePage, FirstVariant + Place) : std::nullopt;
     if (text && !text->empty())
         return std::move(*text);
     return Place == 0 ? "Basic" : std::to_string(Place);

@@ -1,6 +1,7 @@
 #include "tdata/ShipFields.h"
 
 #include "core/mdlComFunctions.h"
+#include "tdata/RecordNames.h"
 #include "tdata/ShieldRecharge.h"
 #include "tdata/WeaponSlots.h"
 #include "tdata/clsArchive.h"
@@ -30,7 +31,6 @@ constexpr std::int32_t NeedField = 7;
 constexpr std::int32_t StrengthField = 8;
 constexpr std::int32_t EfficiencyField = 10;
 
-constexpr std::int32_t NamePage = 17;
 constexpr std::int32_t FirstVariation = 10000; ///< ids of the texts, by the index
 constexpr std::int32_t RacePage = 1266;
 
@@ -182,7 +182,7 @@ ChoiceList ShieldChoices(const clsTxtParser* shields) {
         list.Rows.assign(ShieldStrengthNames.Rows.begin(), ShieldStrengthNames.Rows.end());
     else
         for (const RecordPtr& shield : shields->ByIndex())
-            list.Rows.push_back(WeaponName(*shield));
+            list.Rows.push_back(RecordName(*shield));
     return list;
 }
 
@@ -198,7 +198,7 @@ std::string VariationName(const clsTXTObject& ship) {
     if (!variation || *variation <= 0 ||
         *variation > std::numeric_limits<std::int32_t>::max() - FirstVariation)
         return {};
-    return ResourceText(NamePage, FirstVariation + *variation).value_or("");
+    return ResourceText(ObjectNamePage, FirstVariation + *variation).value_or("");
 }
 
 } // namespace
@@ -254,7 +254,7 @@ RecordPtr ShipFields::Shield(const clsTXTObject& Ship) const {
 // --- Names
 
 std::string ShipFields::DisplayName(const clsTXTObject& Ship) const {
-    std::string name = WeaponName(Ship);
+    std::string name = RecordName(Ship);
     AppendLine(name, VariationName(Ship), " ");
     return name;
 }
@@ -294,7 +294,7 @@ std::string ShipFields::RechargeTime(const clsTXTObject& Ship) const {
     if (!count || !strength || !need || !efficiency || !reactor)
         return {};
     const auto seconds = RechargeSeconds({*count, *strength, *need, *efficiency, *reactor});
-    return seconds ? WeaponName(*shield) + " x " + std::to_string(*count) + " = " +
+    return seconds ? RecordName(*shield) + " x " + std::to_string(*count) + " = " +
                          FormatFixed(*seconds, 0) + " s"
                    : std::string();
 }

@@ -3,6 +3,7 @@
 #include "core/mdlComFunctions.h"
 #include "keshobjects/places.h"
 #include "tdata/FieldLookup.h"
+#include "tdata/RecordNames.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshWare.h"
 
@@ -14,7 +15,6 @@ constexpr double SecondsPerMinute = 60;
 constexpr double Thousand = 1000;
 constexpr double UnitsPerMetre = 500;
 constexpr double FirstInnerScene = 4300; ///< that field 12 of a station is counted from
-constexpr std::int32_t SubtypeField = 5;
 
 std::optional<KeshValue> DecimalValue(double number) {
     return std::isfinite(number) ? std::optional<KeshValue>(DecimalOf(number) + 0.0) // no "-0"
@@ -218,7 +218,7 @@ constexpr FieldConversion NebulaRows[] = {
 };
 
 constexpr FieldConversion CommonRows[] = {
-    {SubtypeField, ShowNothing, ReadSubtype, "", Subtypes},
+    {CommonSubtypeField, ShowNothing, ReadSubtype, "", Subtypes},
     {-6, ShowChoice, ReadChoice, "", WareClasses},
 };
 

@@ -1,7 +1,7 @@
 #include "tdata/WareFields.h"
 
 #include "tdata/FieldLookup.h"
-#include "tdata/WeaponSlots.h"
+#include "tdata/RecordNames.h"
 #include "tdata/clsArchive.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshWare.h"
@@ -9,8 +9,6 @@
 namespace {
 
 using namespace warelist;
-
-constexpr std::int32_t NameField = 6;
 
 ChoiceList ListFrom(const TextTable& table) {
     return {.First = table.First, .Rows = {table.Rows.begin(), table.Rows.end()}};
@@ -40,7 +38,7 @@ void WareFields::LoadFiles(std::int32_t Type) {
             return std::string(bullet.ObjectName());
         });
     if (Type == otype::Bullets && List(Ammo).Rows.empty())
-        List(Ammo) = RecordList("TWareT", WeaponName);
+        List(Ammo) = RecordList("TWareT", RecordName);
 }
 
 void WareFields::SetFile(std::int32_t Type, std::int32_t Version) {
@@ -53,5 +51,5 @@ void WareFields::SetFile(std::int32_t Type, std::int32_t Version) {
 }
 
 std::string WareFields::ResourceName(const clsTXTObject& Record) {
-    return Record.size() > NameField ? WeaponName(Record) : std::string();
+    return Record.size() > CommonNameField ? RecordName(Record) : std::string();
 }

@@ -1,6 +1,7 @@
 #include "tdata/WeaponSlots.h"
 
 #include "tdata/FieldConversion.h"
+#include "tdata/RecordNames.h"
 #include "textres/ResourceText.h"
 
 #include <array>
@@ -12,9 +13,6 @@
 namespace {
 
 constexpr std::int32_t SlotCount = 32;
-constexpr std::int32_t SubtypeField = 5;
-constexpr std::int32_t NameField = 6;
-constexpr std::int32_t NamePage = 17;
 
 using Slots = std::array<RecordPtr, SlotCount>;
 
@@ -28,8 +26,8 @@ Slots ByIndex(const clsTxtParser& weapons) {
 Slots BySubtype(const clsTxtParser& weapons, const TextTable& subtypes) {
     std::unordered_map<std::string_view, RecordPtr> first;
     for (const RecordPtr& record : weapons.ByIndex())
-        if (record->size() > SubtypeField)
-            first.emplace(record->ValueText(SubtypeField), record);
+        if (record->size() > CommonSubtypeField)
+            first.emplace(record->ValueText(CommonSubtypeField), record);
     Slots slots;
     for (std::int32_t bit = 0; bit < SlotCount; ++bit)
         if (const auto found = first.find(subtypes.At(bit));
@@ -63,10 +61,4 @@ std::optional<std::uint32_t> ReadMask(const clsTXTObject& Record, std::int32_t I
 
 KeshValue MaskValue(std::uint32_t Mask) {
     return static_cast<std::int32_t>(Mask);
-}
-
-std::string WeaponName(const clsTXTObject& Record) {
-    const auto id = IntegerAt(Record, NameField);
-    std::string name = id ? ResourceText(NamePage, *id).value_or("") : "";
-    return name.empty() ? std::string(Record.ObjectName()) : name;
 }

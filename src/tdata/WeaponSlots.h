@@ -23,6 +23,3 @@ struct WeaponSlot {
 [[nodiscard]] std::optional<std::uint32_t> ReadMask(const clsTXTObject& Record, std::int32_t Index);
 /// The signed number of the same bits, as files have it.
 [[nodiscard]] KeshValue MaskValue(std::uint32_t Mask);
-
-/// The name of a shield, laser, missile or ship in the user's language; its ID if there is none.
-[[nodiscard]] std::string WeaponName(const clsTXTObject& Record);

@@ -1,5 +1,6 @@
 #include "tdata/mdlWareList.h"
 
+#include "tdata/RecordNames.h"
 #include "tdata/clsArchive.h"
 #include "tdata/mdlKeshConst.h"
 #include "textres/ResourceText.h"
@@ -12,17 +13,15 @@ namespace {
 constexpr std::string_view MergedFiles[] = {"TWareB", "TWareE",   "TWareF",    "TWareM", "TWareN",
                                             "TWareT", "TShields", "TMissiles", "TLaser"};
 
-constexpr std::int32_t NamePage = 17;
-constexpr std::int32_t NameField = 6;
 /// Types whose name is that of the common frame; every other ware has it in front.
 constexpr std::int32_t FramedTypes[] = {otype::Shields, otype::Laser, otype::Missiles, otype::Ware};
 
 std::string TextOf(const clsTXTObject& record) {
     const bool framed = std::find(std::begin(FramedTypes), std::end(FramedTypes), record.otype) !=
                         std::end(FramedTypes);
-    const std::int32_t field = framed ? NameField : 0;
+    const std::int32_t field = framed ? CommonNameField : 0;
     const auto id = field < record.size() ? record.ValueInteger(field) : std::nullopt;
-    const auto text = id ? ResourceText(NamePage, *id) : std::nullopt;
+    const auto text = id ? ResourceText(ObjectNamePage, *id) : std::nullopt;
     return text ? *text : std::string(record.ObjectName());
 }
 

@@ -34,7 +34,8 @@ public:
 
     bool AllowSlash = false; ///< lets a value hold "/", and the last one blanks at its ends
     std::function<TextEncoding()> FileEncoding;
-    bool KeepsUntouched = false; ///< takes the text that was shown, even one that could not be typed
+    bool KeepsUntouched =
+        false;               ///< takes the text that was shown, even one that could not be typed
     bool Translated = false; ///< of a Number: shown and entered with its unit, as at first
 
     [[nodiscard]] QString Name() const;                                   ///< of the field

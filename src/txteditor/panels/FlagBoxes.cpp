@@ -13,7 +13,7 @@ QString translated(const char* text) {
 FlagBoxes::FlagBoxes(QWidget* Parent) : QGroupBox(Parent), m_columns(new ColumnLayout(this)) {
     setObjectName(QStringLiteral("FlagsFrame"));
     for (int bit = 0; bit < MostWareFlags; ++bit) {
-        auto* box = new QCheckBox(this);
+        auto* box = new QCheckBox(QString::number(bit), this);
         box->setObjectName(QStringLiteral("chkFlag%1").arg(bit));
         connect(box, &QCheckBox::clicked, this, [this, bit](bool on) { Q_EMIT Clicked(bit, on); });
         m_boxes.append(box);

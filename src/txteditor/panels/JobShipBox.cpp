@@ -3,8 +3,8 @@
 #include "core/mdlComFunctions.h"
 #include "tdata/FieldConversion.h"
 #include "tdata/JobFields.h"
+#include "tdata/RecordNames.h"
 #include "tdata/mdlKeshConst.h"
-#include "textres/ResourceText.h"
 #include "ui/TextCodec.h"
 
 #include <algorithm>
@@ -15,19 +15,13 @@ namespace {
 constexpr int boxWidth = 6;        ///< characters, at least
 constexpr int completionRows = 15; ///< that are seen at once
 
-constexpr std::int32_t namePage = 17;
-constexpr std::int32_t nameField = 6;
 constexpr std::int32_t raceField = 45;
 constexpr std::int32_t variantField = 50;
 
 /// Race, name and variant; the ID where there is no name.
 std::string describedShip(const clsTXTObject& ship) {
-    const auto id = IntegerAt(ship, nameField);
-    std::string name = id ? ResourceText(namePage, *id).value_or("") : std::string();
-    if (name.empty())
-        name = ship.ObjectName();
     std::string text = ListItem(RaceNames, IntegerAt(ship, raceField).value_or(0), false);
-    AppendLine(text, name, " ");
+    AppendLine(text, RecordName(ship), " ");
     if (const auto variant = IntegerAt(ship, variantField); variant.value_or(0) > 0)
         text += " (" + JobVariantName(*variant) + ")";
     return text;

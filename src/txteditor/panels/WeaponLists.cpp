@@ -1,5 +1,6 @@
 #include "txteditor/panels/WeaponLists.h"
 
+#include "tdata/RecordNames.h"
 #include "txteditor/panels/TextRows.h"
 #include "ui/TextCodec.h"
 
@@ -170,7 +171,7 @@ QList<WeaponLists::Row> WeaponLists::RowsOf(const std::vector<WeaponSlot>& Slots
     QList<Row> rows;
     for (const WeaponSlot& slot : Slots)
         rows.append({slot.Bit, QString::fromStdString(slot.Weapon->key()),
-                     ToScreen(WeaponName(*slot.Weapon))});
+                     ToScreen(RecordName(*slot.Weapon))});
     return rows;
 }
 

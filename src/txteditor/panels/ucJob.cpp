@@ -19,7 +19,6 @@ namespace {
 
 using namespace jobtabs;
 
-constexpr std::int32_t namesPage = 17; ///< of the text resources
 constexpr std::int32_t presentSize = 120;
 constexpr qsizetype descriptionRow = 2;
 constexpr int wingIdWidth = 20; ///< characters
@@ -45,10 +44,10 @@ std::shared_ptr<clsTxtParser> fileOf(const char* name) {
 QString textOf(const clsTXTObject& job, std::int32_t field) {
     const std::string_view id = GetJobText(job, field);
     const auto number = GetJobInteger(job, field);
-    const auto text = number ? ResourceText(namesPage, *number) : std::nullopt;
+    const auto text = number ? ResourceText(ObjectNamePage, *number) : std::nullopt;
     if (text || id.empty())
         return ToScreen(text.value_or(""));
-    return QStringLiteral("[%1:%2]").arg(QString::number(namesPage), ToScreen(id));
+    return QStringLiteral("[%1:%2]").arg(QString::number(ObjectNamePage), ToScreen(id));
 }
 
 QString nameOf(const clsTXTObject& job) {

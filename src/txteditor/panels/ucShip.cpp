@@ -2,6 +2,7 @@
 
 #include "core/mdlComFunctions.h"
 #include "core/mdlCommon.h"
+#include "tdata/RecordNames.h"
 #include "tdata/ShipExport.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshShips.h"
@@ -20,7 +21,6 @@ namespace {
 
 using namespace shiptabs;
 
-constexpr std::int32_t fieldText = 6;
 constexpr std::int32_t fieldCargoMin = 28;
 constexpr std::int32_t fieldCargoMax = 29;
 constexpr std::int32_t fieldWareList = 30;
@@ -32,14 +32,13 @@ constexpr std::int32_t modelFields[] = {16, 17, 11, 12, 9, 14, 15, 47, 48, 49, 1
 constexpr std::int32_t weaponFields[] = {22, 23, 20, 21, 25, 19, 53};
 constexpr std::int32_t weaponMasks[] = {18, 24};
 
-constexpr std::int32_t namesPage = 17; ///< of the text resources
-
 /// The text of an ID in the text resources, or that it cannot be had.
 QString descriptionOf(const clsTXTObject& ship) {
-    const auto id = ship.size() > fieldText ? ship.ValueInteger(fieldText) : std::nullopt;
+    const auto id =
+        ship.size() > CommonNameField ? ship.ValueInteger(CommonNameField) : std::nullopt;
     if (!id || !DescServer)
         return ucShip::tr("[Error getting description]");
-    return ToScreen(DescServer->GetStringDirect(namesPage, *id));
+    return ToScreen(DescServer->GetStringDirect(ObjectNamePage, *id));
 }
 
 } // namespace

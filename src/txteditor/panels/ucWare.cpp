@@ -3,6 +3,7 @@
 #include "core/mdlComFunctions.h"
 #include "tdata/FieldLookup.h"
 #include "tdata/RecordExport.h"
+#include "tdata/RecordNames.h"
 #include "tdata/WeaponSlots.h"
 #include "tdata/clsWare.h"
 #include "tdata/mdlKeshConst.h"
@@ -20,8 +21,6 @@
 
 namespace {
 
-constexpr std::int32_t nameField = 6;
-constexpr std::int32_t namesPage = 17; ///< of the text resources
 constexpr std::int32_t supportedNebula = 14;
 
 constexpr int mostIconSide = 256; ///< pixels; a broken table may ask for the whole picture
@@ -224,11 +223,12 @@ void ucWare::ShowDescription() {
     const RecordPtr& record = CurrentObject();
     if (!record || record->size() == 0 || !ShowsDescription(record->otype))
         return;
-    const auto id = record->size() > nameField ? record->ValueInteger(nameField) : std::nullopt;
+    const auto id =
+        record->size() > CommonNameField ? record->ValueInteger(CommonNameField) : std::nullopt;
     const bool told = id && *id < std::numeric_limits<std::int32_t>::max() && DescServer;
-    m_description->setPlainText(tr("Description: ") +
-                                (told ? ToScreen(DescServer->GetStringDirect(namesPage, *id + 1))
-                                      : tr("[Error getting description]")));
+    m_description->setPlainText(
+        tr("Description: ") + (told ? ToScreen(DescServer->GetStringDirect(ObjectNamePage, *id + 1))
+                                    : tr("[Error getting description]")));
 }
 
 void ucWare::ShowFlags() {

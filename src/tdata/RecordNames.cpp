@@ -1,0 +1,10 @@
+#include "tdata/RecordNames.h"
+
+#include "tdata/FieldConversion.h"
+#include "textres/ResourceText.h"
+
+std::string RecordName(const clsTXTObject& Record) {
+    const auto id = IntegerAt(Record, CommonNameField);
+    std::string name = id ? ResourceText(ObjectNamePage, *id).value_or("") : "";
+    return name.empty() ? std::string(Record.ObjectName()) : name;
+}

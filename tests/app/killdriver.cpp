@@ -77,6 +77,7 @@ private:
         if (!started)
             return next(&Driver::waitForFile);
         QApplication::setActiveWindow(m_editor);
+        m_editor->findChild<QTabWidget*>(QStringLiteral("MainTab"))->setCurrentIndex(0); // raw data
         note("start");
         next(&Driver::step);
     }

@@ -22,6 +22,7 @@ std::vector<Row> viewRows(const Options& options);
 std::vector<Row> listRows(const Options& options);
 std::vector<Row> shipRows(const Options& options);
 std::vector<Row> shipPanelRows(const Options& options);
+std::vector<Row> panelRows(const Options& options);
 std::vector<Row> textRows(const Options& options);
 std::vector<Row> checkRows(const Options& options);
 std::vector<Row> windowRows(const Options& options);

@@ -18,7 +18,7 @@
 namespace {
 
 using Group = std::pair<const char*, std::vector<bench::Row> (*)(const bench::Options&)>;
-constexpr std::array<Group, 11> groups = {{
+constexpr std::array<Group, 12> groups = {{
     {"load", bench::loadRows},
     {"packed", bench::packedRows},
     {"save", bench::saveRows},
@@ -27,6 +27,7 @@ constexpr std::array<Group, 11> groups = {{
     {"list", bench::listRows},
     {"ships", bench::shipRows},
     {"shippanel", bench::shipPanelRows},
+    {"panels", bench::panelRows},
     {"texts", bench::textRows},
     {"check", bench::checkRows},
     {"windows", bench::windowRows},
@@ -77,8 +78,8 @@ int main(int argc, char** argv) {
     app.add_option("--rounds", options.rounds, "Rounds of which the best counts")
         ->check(CLI::Range(1, 100));
     app.add_option("--only", only,
-                   "One group: load, packed, save, catalog, view, list, ships, shippanel, texts, "
-                   "check, windows");
+                   "One group: load, packed, save, catalog, view, list, ships, shippanel, panels, "
+                   "texts, check, windows");
     app.add_option("--place", place,
                    "Directory on the disk to measure; a temporary one is made there");
     app.add_option("--write", page, "Also write the page with date, machine and table here");

@@ -1,56 +1,19 @@
 // The ship panel over 5,000 ships, with the sample game's weapons and a text for every name.
 #include "bench/groups.h"
-#include "bench/program.h"
+#include "bench/panelgame.h"
 #include "bench/shipfile.h"
 #include "bench/tfile.h"
-#include "keshobjects/keshtexts.h"
-#include "keshvfs/keshvfs.h"
-#include "sample/samplegame.h"
 #include "tdata/mdlKeshConst.h"
 #include "txteditor/RecordListModel.h"
-#include "txteditor/panels/AllPanels.h"
 #include "txteditor/panels/ucShip.h"
 
 #include <QtWidgets>
 
-#include <algorithm>
 #include <array>
 
 namespace bench {
 
 namespace {
-
-constexpr int names = 3000; ///< the ships' text IDs lie below
-constexpr int selected = 1000;
-constexpr double mostForSelection = 0.005; ///< seconds
-
-class Game {
-public:
-    explicit Game(const Options& options) : m_program(options) {
-        const std::string root = (options.directory / "shipgame").string();
-        std::string error;
-        if (!sample::writeSampleGame(root, 1, error))
-            fail(error);
-        KeshVFS_AddVFSFilter("*");
-        KeshVFS_CreateVFS(root);
-        std::string texts = "<texts language=\"44\"><page id=\"17\">";
-        for (int id = 0; id < names; ++id)
-            texts += "<string id=\"" + std::to_string(id) + "\">Hull " + std::to_string(id) +
-                     "</string>";
-        Kesh_TREDescServerLoadMemory(texts + "</page></texts>", "names.xml");
-        Kesh_TREDescServerTranslateStrings();
-    }
-    Game(const Game&) = delete;
-    Game& operator=(const Game&) = delete;
-    ~Game() {
-        Kesh_TREDescServerUnload();
-        KeshVFS_CreateVFS("");
-        KeshVFS_ClearFilters();
-    }
-
-private:
-    Program m_program;
-};
 
 void initialise(ucShip& panel, clsTxtParser& parser) {
     if (!panel.Init(parser))
@@ -143,60 +106,16 @@ Row listRow(const Options& options, const std::string& path) {
                      bestOf(options.rounds, ours, theirs), 3);
 }
 
-/// Counts how often a widget is painted.
-class PaintCount : public QObject {
-public:
-    explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
-
-/// Seconds in the middle of selecting ships one after the other, each painted, on one tab.
-double selectShips(QTreeView& view) {
-    const PaintCount paints(*view.viewport());
-    std::vector<double> times;
-    for (int row = 0; row < selected; ++row) {
-        const auto start = Clock::now();
-        view.setCurrentIndex(view.model()->index(row, 0));
-        QCoreApplication::processEvents();
-        times.push_back(secondsSince(start));
-    }
-    if (paints.count < selected)
-        fail("A selected ship was not painted.");
-    std::ranges::nth_element(times, times.begin() + selected / 2);
-    return times[selected / 2];
-}
-
-void selectionRows(const std::string& path, std::vector<Row>& rows) {
-    frmTXTEditor editor(AllPanels());
-    editor.resize(1100, 760);
-    editor.MyShow();
-    editor.OpenFile(QString::fromStdString(path).replace(u'/', u'\\').toStdString());
-    auto* view = editor.findChild<QTreeView*>(QStringLiteral("ObjectView"));
-    auto* panel = editor.findChild<ucShip*>();
-    auto* tabs = panel ? panel->findChild<QTabWidget*>(QStringLiteral("MainTab")) : nullptr;
-    if (!view || !tabs || view->model()->rowCount() < selected)
-        fail("The editor does not show the ships.");
-    for (int tab = 0; tab < tabs->count(); ++tab) {
-        tabs->setCurrentIndex(tab);
-        rows.push_back(limitRow("selecting a ship, tab " + tabs->tabText(tab).toStdString(),
-                                "middle of 1,000, painted", selectShips(*view), mostForSelection));
-    }
-}
-
 } // namespace
 
 std::vector<Row> shipPanelRows(const Options& options) {
-    const Game game(options);
+    const PanelGame game(options);
     const std::string path = (options.directory / "TShips.txt").string();
     writeShips(path);
     std::vector<Row> rows{initRow(options, path), listRow(options, path)};
-    selectionRows(path, rows);
+    PanelWindow window;
+    window.Open(path);
+    addSelectionRows(window, "a ship", rows);
     return rows;
 }
 

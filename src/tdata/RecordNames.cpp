@@ -1,10 +1,15 @@
 #include "tdata/RecordNames.h"
 
 #include "tdata/FieldConversion.h"
+#include "tdata/mdlKeshConst.h"
 #include "textres/ResourceText.h"
 
 std::string RecordName(const clsTXTObject& Record) {
     const auto id = IntegerAt(Record, CommonNameField);
     std::string name = id ? ResourceText(ObjectNamePage, *id).value_or("") : "";
     return name.empty() ? std::string(Record.ObjectName()) : name;
+}
+
+std::string RecordID(const clsTXTObject& Record) {
+    return Record.otype == otype::Jobs ? SpellingAt(Record, 0) : std::string(Record.ObjectName());
 }

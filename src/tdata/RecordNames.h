@@ -12,3 +12,5 @@ inline constexpr std::int32_t CommonNameField =
 
 /// The name of a record in the user's language; its ID if there is none.
 [[nodiscard]] std::string RecordName(const clsTXTObject& Record);
+/// What names a record in its file: a job's number, else its ID.
+[[nodiscard]] std::string RecordID(const clsTXTObject& Record);

@@ -55,9 +55,11 @@ std::string_view clsValueArray::PlaceSpelling(std::uint32_t index) const {
     const auto text = m_text->Text();
     if (m_form == ValueForm::LastRaw && IsTextPlace(index))
         return keshobjects::rawAt(text, PlaceAt(index));
-    const auto spelling = keshobjects::valueAt(text, PlaceAt(index));
-    return m_form == ValueForm::List ? keshobjects::trimEnd(spelling.substr(0, spelling.find(',')))
-                                     : spelling;
+    if (m_form != ValueForm::List)
+        return keshobjects::valueAt(text, PlaceAt(index));
+    const auto rest =
+        text.substr(PlaceAt(index)); // not the rest of the list, for each of its values
+    return keshobjects::trimEnd(rest.substr(0, rest.find_first_of(",;")));
 }
 
 ValueKind clsValueArray::Kind(std::uint32_t index) const {

@@ -340,12 +340,14 @@ KeshPlace Loader::ReadNumber(bool& more) const {
     if (Kesh_TXTGetTokenValue(m_handle, token) == 0 || Kesh_TXTGetTokenPlace(m_handle, place) == 0)
         Throw(errnum::ReadValue, KeshErrorText());
     const std::string& spelling = std::get<std::string>(token);
-    const std::string where =
-        spelling.substr(0, 40) + " in " + Kesh_TXTDescribePlace(m_handle, place);
+    const auto refuse = [&](const char* why) { // finding the line takes long
+        Throw(errnum::Loader,
+              why + spelling.substr(0, 40) + " in " + Kesh_TXTDescribePlace(m_handle, place));
+    };
     if (type != KESH_TOKEN_VALUE)
-        Throw(errnum::Loader, "Unexpected here: " + where);
+        refuse("Unexpected here: ");
     if (!keshobjects::readInteger(spelling))
-        Throw(errnum::Loader, "Expected number, not " + where);
+        refuse("Expected number, not ");
     Advance();
     more = Kesh_TXTGetTokenType(m_handle) == KESH_TOKEN_LIST_SEPARATOR;
     if (more)

@@ -2,8 +2,10 @@
 
 #include "ui/TextCodec.h"
 
-GoToAction::GoToAction(QWidget& Widget, Target Find)
-    : QAction(&Widget), m_widget(Widget), m_find(std::move(Find)) {
+#include <memory>
+
+GoToAction::GoToAction(QWidget& Widget, Target Find, std::function<bool()> Finish)
+    : QAction(&Widget), m_widget(Widget), m_find(std::move(Find)), m_finish(std::move(Finish)) {
     setObjectName(QStringLiteral("mnuGoTo"));
     setToolTip(tr("Show the object that is named here (also by a click with Ctrl)"));
     setShortcut(Qt::Key_F12);
@@ -13,9 +15,23 @@ GoToAction::GoToAction(QWidget& Widget, Target Find)
     Widget.installEventFilter(this);
     if (auto* view = qobject_cast<QAbstractItemView*>(&Widget))
         FollowRows(*view);
-    for (QLineEdit* edit : Widget.findChildren<QLineEdit*>())
-        edit->installEventFilter(this); // of a combo box
+    if (auto* edit = qobject_cast<QLineEdit*>(&Widget))
+        OfferIn(*edit);
+    for (QLineEdit* edit : Widget.findChildren<QLineEdit*>()) { // of a combo box
+        edit->installEventFilter(this);
+        OfferIn(*edit);
+    }
     Update();
+}
+
+/// In front of what an edit's own popup has.
+void GoToAction::OfferIn(QLineEdit& Edit) {
+    Edit.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&Edit, &QWidget::customContextMenuRequested, this, [this, &Edit](const QPoint& place) {
+        const std::unique_ptr<QMenu> menu(Edit.createStandardContextMenu());
+        menu->insertAction(menu->actions().value(0), this);
+        menu->exec(Edit.mapToGlobal(place));
+    });
 }
 
 void GoToAction::FollowRows(QAbstractItemView& View) {
@@ -41,6 +57,8 @@ void GoToAction::Update() {
 }
 
 void GoToAction::Go() {
+    if (!m_finish())
+        return;
     if (const auto address = m_find())
         Q_EMIT Asked(*address);
 }
@@ -53,6 +71,8 @@ bool GoToAction::TakeClick(const QMouseEvent& Click) {
         const QModelIndex row = view->indexAt(Click.position().toPoint());
         if (!row.isValid())
             return false;
+        if (!m_finish())
+            return true;
         view->setCurrentIndex(row);
     }
     if (!m_find())

@@ -17,7 +17,11 @@ public:
     /// without a file is a ware.
     using Target = std::function<std::optional<RecordAddress>()>;
 
-    GoToAction(QWidget& Widget, Target Find);
+    /// `Finish` takes what is being entered, and gives false if that is refused; then nothing is
+    /// asked for.
+    GoToAction(QWidget& Widget, Target Find, std::function<bool()> Finish);
+
+    void Update(); ///< what the widget shows has changed
 
 Q_SIGNALS:
     void Asked(const RecordAddress& Address);
@@ -27,10 +31,11 @@ protected:
 
 private:
     void FollowRows(QAbstractItemView& View);
-    void Update();
+    void OfferIn(QLineEdit& Edit);
     void Go();
     [[nodiscard]] bool TakeClick(const QMouseEvent& Click);
 
     QWidget& m_widget;
     Target m_find;
+    std::function<bool()> m_finish;
 };

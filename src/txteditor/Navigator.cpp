@@ -86,6 +86,8 @@ void Navigator::GoTo(frmTXTEditor& From, const RecordAddress& Address) {
     if (!window)
         return;
     raise(*window);
+    if (!window->FinishEntry())
+        return;
     if (const RecordPtr record = FindRecord(window->Parser(), *address))
         window->SelectRecords({record});
     else
@@ -102,17 +104,23 @@ void Navigator::Back() {
     const Place place = m_back.back();
     m_back.pop_back();
     Q_EMIT Changed();
-    frmTXTEditor* window =
-        place.Window && place.Window->isVisible() && place.Window->Parser().FileName == place.File
-            ? place.Window.data()
-            : WindowOn(place.File);
+    RecordPtr record = place.Record.lock();
+    const auto holds = [&](const frmTXTEditor& window) {
+        return record && window.Parser().Find(record->ID) == record;
+    };
+    frmTXTEditor* window = place.Window && place.Window->isVisible() &&
+                                   (holds(*place.Window) || // also under another name by now
+                                    place.Window->Parser().FileName == place.File)
+                               ? place.Window.data()
+                               : WindowOn(place.File);
     if (!window)
         window = OpenNew(place.File);
     if (!window)
         return;
     raise(*window);
-    RecordPtr record = place.Record.lock();
-    if (!record || window->Parser().Find(record->ID) != record)
+    if (!window->FinishEntry())
+        return;
+    if (!holds(*window))
         record = window->Parser().FindIndex(place.Index);
     if (record)
         window->SelectRecords({record});

@@ -60,6 +60,10 @@ public:
 
     // Rows
     [[nodiscard]] virtual std::string ObjectName(const RecordPtr& Object) const = 0;
+    /// What finding and filtering look through beside the row's own text.
+    [[nodiscard]] virtual std::string SearchText(const RecordPtr& Object) const {
+        return ObjectName(Object);
+    }
     [[nodiscard]] virtual std::string GetClass(const RecordPtr& Object) const = 0;
     [[nodiscard]] virtual std::string GetRace(const RecordPtr& Object) const = 0;
     [[nodiscard]] virtual std::string

@@ -1,5 +1,6 @@
 #include "txteditor/RecordUndo.h"
 
+#include "tdata/RecordNames.h"
 #include "ui/TextCodec.h"
 
 #include <algorithm>
@@ -31,7 +32,7 @@ RecordSteps stepsOfRemoved(const RecordUndo::Records& removed) {
 class ValuesCommand : public QUndoCommand {
 public:
     ValuesCommand(RecordUndo& owner, RecordPtr record, clsValueArray before, QUndoCommand* parent)
-        : QUndoCommand(RecordUndo::tr("change of %1").arg(ToScreen(record->ObjectName())), parent),
+        : QUndoCommand(RecordUndo::tr("change of %1").arg(ToScreen(RecordID(*record))), parent),
           m_owner(owner),
           m_record(std::move(record)),
           m_before(std::move(before)),

@@ -204,10 +204,7 @@ QWidget* frmTXTEditor::BuildPanelPage() {
         panel->hide();
         layout->addWidget(panel);
         connect(panel, &ObjectEditor::OnObjectChanged, this, &frmTXTEditor::OnObjectChanged);
-        connect(panel, &ObjectEditor::GoToAsked, this, [this](const RecordAddress& address) {
-            if (FinishEntry())
-                Q_EMIT GoToAsked(address);
-        });
+        connect(panel, &ObjectEditor::GoToAsked, this, &frmTXTEditor::GoToAsked);
     }
     return page;
 }

@@ -55,7 +55,9 @@ public:
     /// Selects their rows and shows the first; a filter that hides it is taken away.
     void SelectRecords(const std::vector<RecordPtr>& Records);
     void Tell(const QString& Text); ///< in the status bar
-    void SetCanGoBack(bool Can);    ///< whether "Back" leads anywhere
+    /// What is being entered in the panel goes into its record; false if it is refused.
+    [[nodiscard]] bool FinishEntry();
+    void SetCanGoBack(bool Can); ///< whether "Back" leads anywhere
 
     // The find dialog's events
     void m_find_OnFindNext(bool WholeWords, bool ByID, QString& Text, QVariant& Tag, bool& Found);
@@ -205,15 +207,13 @@ private:
     /// Calls the panel, if there is one, amid other work: a failure is said in the status bar, and
     /// false then.
     bool TellPanel(const std::function<void(ObjectEditor&)>& Call);
-    /// What is being entered in the panel goes into its record; false if it is refused.
-    [[nodiscard]] bool FinishEntry();
     void ApplyPanelInfo(std::int32_t Info);
     void UpdateCaption();
     [[nodiscard]] QString TypeText() const;
     [[nodiscard]] NameMode PickedMode() const; ///< by the radio buttons
     [[nodiscard]] NameMode Mode() const;       ///< without a panel there are only IDs
     [[nodiscard]] QString RowText(const RecordPtr& Record) const;
-    [[nodiscard]] QString IdText(const RecordPtr& Record) const; ///< as the panel has it
+    [[nodiscard]] QString SearchText(const RecordPtr& Record) const; ///< of the panel
     void UpdateNameColumn();
     [[nodiscard]] std::vector<RecordPtr> ListedRecords();
     void FillList();

@@ -1,5 +1,6 @@
 // Adding, copying, cutting, pasting and deleting records in the TXT Editor.
 #include "core/KeshError.h"
+#include "tdata/RecordNames.h"
 #include "txteditor/RecordListModel.h"
 #include "txteditor/RecordText.h"
 #include "txteditor/ValueEntry.h"
@@ -30,7 +31,7 @@ private:
 };
 
 QString nameOf(const std::vector<RecordPtr>& records) {
-    return records.size() == 1 ? ToScreen(records.front()->ObjectName())
+    return records.size() == 1 ? ToScreen(RecordID(*records.front()))
                                : frmTXTEditor::tr("%1 objects").arg(records.size());
 }
 

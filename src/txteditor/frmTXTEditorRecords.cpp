@@ -150,8 +150,8 @@ NameMode frmTXTEditor::PickedMode() const {
     return static_cast<NameMode>(on - m_names.begin());
 }
 
-QString frmTXTEditor::IdText(const RecordPtr& Record) const {
-    return askPanel([&] { return m_activeEditor->ObjectName(Record); },
+QString frmTXTEditor::SearchText(const RecordPtr& Record) const {
+    return askPanel([&] { return m_activeEditor->SearchText(Record); },
                     QT_TR_NOOP("[error getting name]"));
 }
 
@@ -176,7 +176,7 @@ void frmTXTEditor::UpdateNameColumn() {
     m_list->SetNameColumn([this](const RecordPtr& record) { return RowText(record); },
                           HasFile() ? headers[static_cast<std::size_t>(Mode())] : tr("Name/ID"),
                           m_activeEditor
-                              ? [this](const RecordPtr& record) { return IdText(record); }
+                              ? [this](const RecordPtr& record) { return SearchText(record); }
                               : RecordListModel::TextOf());
     UpdateObjectViews();
 }

@@ -49,9 +49,7 @@ public:
     std::optional<QString> PickDirectory(QWidget*, const QString&, const QString&) override {
         return {};
     }
-    std::optional<QColor> PickColor(QWidget*, const QString&, const QColor&) override {
-        return {};
-    }
+    std::optional<QColor> PickColor(QWidget*, const QString&, const QColor&) override { return {}; }
     bool RunProgram(const QString&, const QStringList&) override { return false; }
     bool OpenUrl(const QUrl&) override { return false; }
 

@@ -19,7 +19,7 @@ struct Arguments {
     bool all = false;
     bool raw = false;
     std::optional<std::int32_t> index; ///< of one record
-    std::int32_t language = 44; ///< English
+    std::int32_t language = 44;        ///< English
     ExportForm form = ExportForm::Table;
 };
 

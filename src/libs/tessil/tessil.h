@@ -10,7 +10,7 @@
 /// Largest picture that is decoded, by side and as a whole. A file that claims more is refused
 /// before it costs memory.
 inline constexpr std::int32_t TESSIL_MAX_SIDE = 16'384;
-inline constexpr std::int64_t TESSIL_MAX_PIXELS = 4096 * 4096;
+inline constexpr std::int64_t TESSIL_MAX_PIXELS = std::int64_t{4096} * 4096;
 /// Largest file in bytes: as much as the largest picture of 16 bits a channel has uncompressed.
 inline constexpr std::int64_t TESSIL_MAX_FILE = std::int64_t{8} * TESSIL_MAX_PIXELS;
 

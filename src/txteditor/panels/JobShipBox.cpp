@@ -105,6 +105,7 @@ JobShipBox::JobShipBox(QWidget* Parent) : QComboBox(Parent), m_ships(new JobShip
     finder->setFilterMode(Qt::MatchContains);
     finder->setCaseSensitivity(Qt::CaseInsensitive);
     finder->setMaxVisibleItems(completionRows);
+    static_cast<QListView*>(finder->popup())->setUniformItemSizes(true); // of thousands
     setCompleter(finder);
     connect(this, &QComboBox::activated, this, &JobShipBox::Take);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &JobShipBox::OnEditingFinished);
@@ -133,7 +134,11 @@ void JobShipBox::FinishEntry() {
 
 void JobShipBox::OnEditingFinished() {
     const QAbstractItemView* popup = completer()->popup();
-    if (!popup->isVisible() || !popup->currentIndex().isValid()) // else that row is taken next
+    if (popup->isVisible() && popup->currentIndex().isValid()) // Enter takes it next, Tab does not
+        Take(qobject_cast<QAbstractProxyModel*>(completer()->completionModel())
+                 ->mapToSource(popup->currentIndex())
+                 .row());
+    else
         FinishEntry();
 }
 
@@ -153,6 +158,11 @@ void JobShipBox::wheelEvent(QWheelEvent* event) {
 }
 
 void JobShipBox::keyPressEvent(QKeyEvent* event) {
+    const bool step = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (step && currentIndex() < 0) {
+        event->accept(); // from a ship that is not found no way leads to the next one
+        return;
+    }
     if (event->key() == Qt::Key_Escape && m_id && lineEdit()->text() != m_ships->TextOf(*m_id))
         Show(m_id); // what was typed is given up
     else

@@ -213,7 +213,7 @@ std::optional<RecordAddress> RecordPanel::TargetOf(std::int32_t Field) const {
 }
 
 GoToAction* RecordPanel::OfferGoTo(QWidget& Widget, GoToAction::Target Find) {
-    auto* action = new GoToAction(Widget, std::move(Find));
+    auto* action = new GoToAction(Widget, std::move(Find), [this] { return FinishEntry(); });
     connect(action, &GoToAction::Asked, this, &RecordPanel::GoToAsked);
     return action;
 }

@@ -5,7 +5,7 @@
 #include <span>
 
 struct WareFlag {
-    const char* Caption; ///< both to be translated in the context "WareFlags"
+    const char* Caption = ""; ///< both to be translated in the context "WareFlags"
     const char* Tip = "";
 };
 

@@ -64,6 +64,7 @@ bool ucJob::LornQueryInterface(std::int32_t OType) const {
 }
 
 bool ucJob::Init(clsTxtParser& Parser) {
+    m_byNumber.reset();
     const bool taken = RecordPanel::Init(Parser);
     LoadFiles();
     UpdateEnabled();
@@ -102,6 +103,15 @@ std::string ucJob::ObjectName(const RecordPtr& Object) const {
     return name.append(" - ").append(JobResourceName(*Object));
 }
 
+/// Also its own name, its script and the ID of its ship.
+std::string ucJob::SearchText(const RecordPtr& Object) const {
+    constexpr std::int32_t script = 4;
+    std::string text = ObjectName(Object);
+    for (const std::int32_t field : {jobfield::Name, script, jobfield::Ship})
+        text.append("\n").append(GetJobText(*Object, field));
+    return text;
+}
+
 std::string ucJob::GetResourceName(const RecordPtr& Object) const {
     return JobResourceName(*Object);
 }
@@ -133,12 +143,14 @@ RecordPtr ucJob::CreateObject(std::int32_t OType, clsTxtParser& Parser, const Re
         SetLastError("Unkown object size for Job version " + std::to_string(Parser.Version()));
         return {};
     }
+    m_byNumber.reset();
     RecordPtr made = Parser.CreateObjectBefore(Before);
     made->Construct(*size);
     return made;
 }
 
 bool ucJob::LornAssignUniqueObjectName(const RecordPtr& Object) {
+    m_byNumber.reset();
     SetJobValue(*Object, jobfield::Number, keshobjects::readValue(NewObjectName(*Parser())));
     return SetJobValue(*Object, jobfield::Name, std::string("NEW JOB"));
 }
@@ -191,7 +203,24 @@ bool ucJob::FinishEntry() {
     return RecordPanel::FinishEntry();
 }
 
+bool ucJob::RemoveObject(const RecordPtr& Object) {
+    m_byNumber.reset();
+    return RecordPanel::RemoveObject(Object);
+}
+
+void ucJob::RestoreObject(const RecordPtr& Object) {
+    Q_UNUSED(Object);
+    m_byNumber.reset();
+}
+
+bool ucJob::FollowEdit(std::int32_t Field) {
+    if (Field == jobfield::Number)
+        m_byNumber.reset();
+    return false;
+}
+
 void ucJob::ObjectReset(const RecordPtr& Object) {
+    m_byNumber.reset();
     if (Object == CurrentObject())
         RefreshViews();
 }
@@ -250,6 +279,7 @@ void ucJob::ShowFields() {
     }
     m_ship->Show(Job() ? std::optional<std::string>(GetJobText(*Job(), jobfield::Ship))
                        : std::nullopt);
+    m_goToShip->Update();
     m_shipName->setText(Job() ? textOf(*Job(), jobfield::ShipName) : QString());
     ShowRole();
 }
@@ -295,12 +325,11 @@ void ucJob::FillWings() {
 }
 
 void ucJob::ShowWing(const clsTXTObject& Wing) {
-    const auto jobs = JobsOf(Wing);
     QList<TextRow> rows;
     for (std::int32_t i = 1; i < Wing.size(); ++i) {
         const QString id = ToScreen(Wing.ValueText(i));
         const auto number = Wing.ValueInteger(i);
-        const RecordPtr job = number ? jobs.value(*number) : nullptr;
+        const RecordPtr job = number ? JobOf(*number) : nullptr;
         rows.append(job ? TextRow{id, {id, nameOf(*job)}}
                         : TextRow{id, {tr("%1 (not found)").arg(id), {}}});
     }
@@ -308,17 +337,15 @@ void ucJob::ShowWing(const clsTXTObject& Wing) {
     m_wingJobs->SetRows(std::move(rows));
 }
 
-/// The jobs of a wing that the file has, by their number.
-QHash<std::int32_t, RecordPtr> ucJob::JobsOf(const clsTXTObject& Wing) const {
-    QHash<std::int32_t, RecordPtr> jobs;
-    for (std::int32_t i = 1; i < Wing.size(); ++i)
-        if (const auto number = Wing.ValueInteger(i))
-            jobs.insert(*number, {});
-    for (const RecordPtr& job : Parser()->ByIndex())
-        if (const auto number = GetJobInteger(*job, jobfield::Number))
-            if (const auto found = jobs.find(*number); found != jobs.end() && !*found)
-                *found = job;
-    return jobs;
+RecordPtr ucJob::JobOf(std::int32_t Number) {
+    if (!m_byNumber) {
+        m_byNumber.emplace();
+        for (const RecordPtr& job : Parser()->ByIndex())
+            if (const auto number = GetJobInteger(*job, jobfield::Number))
+                if (!m_byNumber->contains(*number))
+                    m_byNumber->insert(*number, job);
+    }
+    return m_byNumber->value(Number);
 }
 
 void ucJob::FillWares() {

@@ -29,6 +29,7 @@ public:
     [[nodiscard]] std::string PageName(std::int32_t OType) const override;
     [[nodiscard]] std::int32_t LornQueryInfo(std::int32_t OType) const override;
     [[nodiscard]] std::string ObjectName(const RecordPtr& Object) const override;
+    [[nodiscard]] std::string SearchText(const RecordPtr& Object) const override;
     [[nodiscard]] std::string GetResourceName(const RecordPtr& Object) const override;
     [[nodiscard]] std::string UniqueName(const RecordPtr& Object) const override;
     [[nodiscard]] std::vector<RecordFilter> Filters() const override;
@@ -43,6 +44,8 @@ public:
                                           std::string& Text, bool Raw) const override;
     [[nodiscard]] bool LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
                                               std::int32_t Index, KeshValue& Value) override;
+    [[nodiscard]] bool RemoveObject(const RecordPtr& Object) override;
+    void RestoreObject(const RecordPtr& Object) override;
     [[nodiscard]] bool FinishEntry() override;
     void ObjectReset(const RecordPtr& Object) override;
 
@@ -51,6 +54,7 @@ protected:
     [[nodiscard]] QString RowText(const QString&, const QString& Stored) const override {
         return Stored;
     }
+    bool FollowEdit(std::int32_t Field) override;
     void RefreshViews() override;
 
 private:
@@ -86,7 +90,7 @@ private:
     void ShowRole();
     void FillWings();
     void ShowWing(const clsTXTObject& Wing);
-    [[nodiscard]] QHash<std::int32_t, RecordPtr> JobsOf(const clsTXTObject& Wing) const;
+    [[nodiscard]] RecordPtr JobOf(std::int32_t Number); ///< the first of the file; none if none
     void FillWares();
     void WarnOfOldFile();
 
@@ -97,6 +101,7 @@ private:
 
     std::optional<JobWingIndex> m_wings;
     bool m_warned = false;
+    std::optional<QHash<std::int32_t, RecordPtr>> m_byNumber; ///< once it was asked for
 
     QTabWidget* m_tabs = nullptr;
     QList<bool> m_filled; ///< by tab
@@ -109,6 +114,7 @@ private:
     QGroupBox* m_roleGroup = nullptr;
     QButtonGroup* m_roles = nullptr;
     JobShipBox* m_ship = nullptr;
+    GoToAction* m_goToShip = nullptr;
     TextRowsView* m_wingJobs = nullptr;
     WareListViewer* m_wares = nullptr;
 };

@@ -149,8 +149,9 @@ QWidget* ucJob::BuildShip() {
     top->addWidget(caption);
     top->addWidget(m_ship, 1);
     auto* show = new QToolButton(ship);
-    show->setDefaultAction(OfferGoTo(*m_ship, [this] { return TargetOf(jobfield::Ship); }));
-    show->setIcon(ToolIcon("goto"));
+    m_goToShip = OfferGoTo(*m_ship, [this] { return TargetOf(jobfield::Ship); });
+    m_goToShip->setIcon(ToolIcon("goto"));
+    show->setDefaultAction(m_goToShip);
     show->setToolButtonStyle(Qt::ToolButtonIconOnly);
     top->addWidget(show);
     return pageOf({ship, AddBoxes(new JobBoxes({&JobClassBoxes}, page)),

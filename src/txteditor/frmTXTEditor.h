@@ -157,6 +157,8 @@ private:
     void LoadRecent();
     void AddRecent(const std::string& Name);
     void RemoveRecent(const std::string& Name);
+    void ForgetRecent(const std::string& Name);
+    void SaveRecent();
     void UpdateRecentActions();
     void Say(const QString& Text, BoxIcon Icon);
 

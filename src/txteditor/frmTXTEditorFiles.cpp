@@ -214,16 +214,23 @@ void frmTXTEditor::LoadRecent() {
 }
 
 void frmTXTEditor::AddRecent(const std::string& Name) {
-    RemoveRecent(Name);
+    ForgetRecent(Name);
     m_recent.insert(m_recent.begin(), Name);
-    Settings->SaveRecentTFiles(m_recent);
-    UpdateRecentActions();
+    SaveRecent();
 }
 
 void frmTXTEditor::RemoveRecent(const std::string& Name) {
+    ForgetRecent(Name);
+    SaveRecent();
+}
+
+void frmTXTEditor::ForgetRecent(const std::string& Name) {
     LoadRecent(); // other windows add to the same list
     std::erase_if(m_recent,
                   [&](const std::string& other) { return lornfd::equalNoCase(other, Name); });
+}
+
+void frmTXTEditor::SaveRecent() {
     Settings->SaveRecentTFiles(m_recent);
     UpdateRecentActions();
 }

@@ -238,6 +238,36 @@ TEST_F(GoTo, FindsThePlaceAgainInAChangedFile) {
         delete editor.data();
 }
 
+TEST_F(GoTo, TakesWhatIsBeingEnteredBefore) {
+    open("vfs://types\\TLaser.txt");
+    frmTXTEditor* const lasers = window;
+    pick("ObjectView", 0);
+    select("PropView", "Projectile");
+    QTreeView* fields = shownView("PropView");
+    QTest::keyClick(fields, Qt::Key_F2);
+    auto* entry = fields->findChild<QComboBox*>(text("ValueEditor"));
+    ASSERT_TRUE(entry);
+    entry->setEditText(text("2"));
+    fields->findChild<QAction*>(text("mnuGoTo"))->trigger();
+    EXPECT_EQ(where(), text("TBullets.txt BULLET_C"));
+
+    write("own/TLaser.txt", "");
+    window = lasers;
+    script.Save(FileChoice{native("own/TLaser.txt"), 1});
+    script.Box(text("already exists"), Answer::Yes);
+    trigger("save");
+    const auto count = windows.size();
+    navigator.Back();
+    EXPECT_EQ(windows.size(), count) << "the same window, under another name now";
+
+    select("PropView", "Energy");
+    QTest::keyClick(fields, Qt::Key_F2);
+    QTest::keyClicks(fields->findChild<QLineEdit*>(text("ValueEditor")), text("much"));
+    script.Box(text("must be whole number"));
+    fields->findChild<QAction*>(text("mnuGoTo"))->trigger();
+    EXPECT_FALSE(navigator.CanGoBack()) << "it is refused, and goes on";
+}
+
 TEST(RecordReference, FieldsThatNameNothingLeadNowhere) {
     clsTXTObject ship;
     ship.otype = otype::Ships;

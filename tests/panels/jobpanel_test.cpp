@@ -273,15 +273,22 @@ TEST_F(JobPanel, FindsAShipByAnyPartOfItsName) {
     QTest::keyClick(ships()->lineEdit(), 'l');
     QAbstractItemView* popup = ships()->completer()->popup();
     EXPECT_EQ(popup->model()->rowCount(), 1);
-    QTest::keyClick(popup, Qt::Key_Down);
-    QTest::keyClick(popup, Qt::Key_Return);
-    EXPECT_EQ(field(18), "SHIP_B");
-    trigger("undo");
+    for (const auto code : {Qt::Key_Tab, Qt::Key_Return}) {
+        QTest::keyClick(popup, Qt::Key_Down);
+        QTest::keyClick(popup, code);
+        EXPECT_EQ(field(18), "SHIP_B") << code;
+        trigger("undo");
+        enter("hau");
+        QTest::keyClick(ships()->lineEdit(), 'l');
+    }
+    QTest::keyClick(ships()->lineEdit(), Qt::Key_Escape);
+    QTest::keyClick(ships()->lineEdit(), Qt::Key_Escape);
     EXPECT_EQ(ships()->currentText(), QString::fromLatin1("Boron F\xE4HRE"));
     enter("Yaki Ferry (Hauler)"); // and on to another record
     pick("ObjectView", 1);
     EXPECT_EQ(field(18), "SHIP_B");
     EXPECT_EQ(ships()->currentText(), QStringLiteral("SHIP_GONE (not found)"));
+    QTest::keyClick(ships(), Qt::Key_Down);
     enter("x");
     QTest::keyClick(ships()->lineEdit(), Qt::Key_Return);
     EXPECT_EQ(field(18, 1), "SHIP_GONE");
@@ -333,7 +340,9 @@ TEST_F(JobPanel, AddsJobsOfTheVersionWithTheNextNumber) {
 }
 
 TEST_F(JobPanel, FiltersByOwnerClassAndNumber) {
-    startWith(120, {{{0, "107"}, {78, "1"}}, {{0, "8"}, {86, "1"}, {21, "1"}}, {{21, "1"}}});
+    startWith(
+        120,
+        {{{0, "107"}, {1, "PATROL"}, {78, "1"}}, {{0, "8"}, {86, "1"}, {21, "1"}}, {{21, "1"}}});
     auto* owner = child<QComboBox>("cmbFilter0");
     auto* shipClass = child<QComboBox>("cmbFilter1");
     child<QRadioButton>("rbName2")->click();
@@ -343,8 +352,10 @@ TEST_F(JobPanel, FiltersByOwnerClassAndNumber) {
     EXPECT_EQ(column("ObjectView"), QStringList(QStringLiteral("8 - ")));
     owner->setCurrentIndex(0);
     shipClass->setCurrentIndex(0);
-    child<QLineEdit>("FilterEdit")->setText(QStringLiteral("107"));
-    EXPECT_EQ(column("ObjectView"), QStringList(QStringLiteral("107 - ")));
+    for (const char* found : {"107", "patrol"}) {
+        child<QLineEdit>("FilterEdit")->setText(QString::fromLatin1(found));
+        EXPECT_EQ(column("ObjectView"), QStringList(QStringLiteral("107 - "))) << found;
+    }
 }
 
 TEST_F(JobPanel, PastedJobsKeepFreeNumbersOnly) {

@@ -143,8 +143,9 @@ void openValue() {
     frmEdit(editor.get()).ShowProperty(nullptr, editor->Parser().FindIndex(0), 0);
 }
 
-std::vector<Shot> shots(const std::string& sample) {
-    std::vector<Shot> all;
+using Shots = std::vector<Shot>;
+
+void addWindows(Shots& all) {
     for (const int tab : {0, 1, 2, 3})
         all.push_back(
             {QStringLiteral("settings%1").arg(tab), "frmSettings",
@@ -155,6 +156,9 @@ std::vector<Shot> shots(const std::string& sample) {
     all.push_back(editorShot(QStringLiteral("txteditor"), {1000, 700}));
     all.push_back(editorShot(QStringLiteral("txteditor-small"), {800, 600}));
     all.push_back(editorShot(QStringLiteral("txteditor-large"), {2560, 1440}));
+}
+
+void addPanels(Shots& all) {
     for (int tab = 0; tab < 9; ++tab)
         all.push_back(panelShot(QStringLiteral("ship%1").arg(tab), "vfs://types\\TShips.pck",
                                 "ShipEdit", tab));
@@ -174,6 +178,9 @@ std::vector<Shot> shots(const std::string& sample) {
           "TDocks", "Wrecks", "TGates", "TPlanets", "TSuns", "TAsteroids", "TDebris",
           "TBackgrounds", "TNebula", "JobWings", "IconData", "WareLists"})
         all.push_back(fileShot(name));
+}
+
+void addDialogs(Shots& all, const std::string& sample) {
     all.push_back({QStringLiteral("color"), "frmColorEdit", [] {
                        static_cast<void>(frmColorEdit().Edit(QStringLiteral("Color"), 0x20A0F0));
                    }});
@@ -212,6 +219,13 @@ std::vector<Shot> shots(const std::string& sample) {
                    }});
     all.push_back({QStringLiteral("wait"), "frmWait",
                    [] { ShowWait(QStringLiteral("Loading resource strings...")); }});
+}
+
+Shots shots(const std::string& sample) {
+    Shots all;
+    addWindows(all);
+    addPanels(all);
+    addDialogs(all, sample);
     return all;
 }
 

@@ -13,7 +13,9 @@ constexpr std::size_t mostPlaces = 100;
 
 /// The "vfs://" path of a file of the game; empty if it has none.
 std::string gameFile(const std::string& key) {
-    const VfsSearch search(JoinPath({"types", key}));
+    VfsSearch search(JoinPath({"types", key}));
+    while (search.Found() && search.IsDirectory())
+        search.Next();
     return search.Found() ? BuildCatalogPath(JoinPath({"types", search.Name()}), "vfs://")
                           : std::string();
 }

@@ -29,6 +29,7 @@ public:
     /// all if there is neither. Works in slices of a few milliseconds; Filtered tells when it is
     /// done.
     void SetFilter(const QString& Text, Test Passes = {});
+    [[nodiscard]] bool Filtering() const { return m_slice.isActive(); } ///< Filtered comes later
     [[nodiscard]] bool HasFilter() const { return !m_filter.isEmpty() || m_passes; }
     [[nodiscard]] int RecordCount() const { return static_cast<int>(m_rows.size()); } ///< of all
 

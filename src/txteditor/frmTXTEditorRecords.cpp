@@ -223,7 +223,8 @@ void frmTXTEditor::SelectRecord(const RecordPtr& Record) {
 }
 
 void frmTXTEditor::SelectRecords(const std::vector<RecordPtr>& Records) {
-    if (m_list->HasFilter() && !m_list->IndexOf(Records.front().get()).isValid())
+    const bool hidden = !m_list->IndexOf(Records.front().get()).isValid();
+    if (m_list->HasFilter() && (hidden || m_list->Filtering())) // what comes may hide it
         ClearFilter();
     SelectRecord(Records.front());
     if (Records.size() == 1)

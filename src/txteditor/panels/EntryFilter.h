@@ -15,15 +15,25 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool key = event->type() == QEvent::KeyPress;
-        const int code = key ? static_cast<QKeyEvent*>(event)->key() : 0;
-        if (event->type() != QEvent::MouseButtonDblClick && code != Qt::Key_Return &&
-            code != Qt::Key_Enter)
+        if (!IsEntry(*event))
             return QObject::eventFilter(watched, event);
         m_enter();
         return true;
     }
 
 private:
+    static bool IsEntry(const QEvent& event) {
+        if (event.type() == QEvent::MouseButtonDblClick) {
+            const auto& click = static_cast<const QMouseEvent&>(event);
+            return click.button() == Qt::LeftButton && click.modifiers() == Qt::NoModifier;
+        }
+        if (event.type() != QEvent::KeyPress)
+            return false;
+        const auto& key = static_cast<const QKeyEvent&>(event);
+        const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+        return modifiers == Qt::NoModifier &&
+               (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+    }
+
     std::function<void()> m_enter;
 };

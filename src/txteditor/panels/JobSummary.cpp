@@ -62,6 +62,13 @@ QString shipPart(const clsTXTObject& job,
                      .arg(ships, listedOf(races, JobShipRaceBoxes, Words::tr("any race")));
 }
 
+QString ownerPart(const clsTXTObject& job) {
+    const QStringList owners = JobCaptionsSet(job, JobOwnerBoxes);
+    return owners.isEmpty() ? QString()
+                            : Words::tr("owned by %1")
+                                  .arg(listedOf(owners, JobOwnerBoxes, Words::tr("any race")));
+}
+
 QString sectorPart(const clsTXTObject& job) {
     const bool inverted = JobFlagSet(job, jobfield::SectorInverted);
     return with(inverted ? Words::tr("not in sectors: %1") : Words::tr("in sectors: %1"),
@@ -97,7 +104,7 @@ QString JobSummary(const clsTXTObject& Job,
                    const std::function<QString(const std::string&)>& ShipName) {
     QStringList parts{countPart(Job),
                       shipPart(Job, ShipName),
-                      with(Words::tr("owned by %1"), JobCaptionsSet(Job, JobOwnerBoxes)),
+                      ownerPart(Job),
                       JobCaptionsSet(Job, JobRoleBoxes).value(0),
                       sectorPart(Job),
                       placePart(Job),

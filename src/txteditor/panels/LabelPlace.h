@@ -1,3 +1,4 @@
+// A place for labels of which every record has another text.
 #pragma once
 
 #include <QtWidgets>

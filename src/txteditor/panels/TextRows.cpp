@@ -66,6 +66,11 @@ void TextRowsView::SetColumns(const QStringList& Columns, const QList<int>& Widt
         setColumnWidth(column, Widths.at(column) * fontMetrics().averageCharWidth());
 }
 
+void TextRowsView::EnsureColumns(const QStringList& Columns, const QList<int>& Widths) {
+    if (m_model->Columns() != Columns)
+        SetColumns(Columns, Widths);
+}
+
 void TextRowsView::SetRows(QList<TextRow> Rows) {
     const QString key = SelectedKey();
     const int place = key.isEmpty() ? -1 : currentIndex().row();

@@ -31,6 +31,7 @@ public:
 
     void SetColumns(QStringList Columns);
     void SetRows(QList<TextRow> Rows);
+    [[nodiscard]] const QStringList& Columns() const noexcept { return m_columns; }
     [[nodiscard]] const QList<TextRow>& Rows() const noexcept { return m_rows; }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -54,6 +55,8 @@ public:
 
     /// Widths in characters; the last column takes the rest.
     void SetColumns(const QStringList& Columns, const QList<int>& Widths);
+    /// The same, but columns that are there already stay as the user made them, with their rows.
+    void EnsureColumns(const QStringList& Columns, const QList<int>& Widths);
     /// The row of the same key stays selected, else that of the same place.
     void SetRows(QList<TextRow> Rows);
     [[nodiscard]] QString SelectedKey() const; ///< empty if no row is selected

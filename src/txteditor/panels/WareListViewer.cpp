@@ -1,6 +1,7 @@
 #include "txteditor/panels/WareListViewer.h"
 
 #include "tdata/clsArchive.h"
+#include "txteditor/panels/EntryFilter.h"
 #include "ui/TextCodec.h"
 
 #include <algorithm>
@@ -40,16 +41,6 @@ Widths textWidths(const QList<TextRow>& rows, const QFontMetrics& metrics) {
     return widths;
 }
 
-/// Columns stay as they are where they are there already, and so does the selection then.
-void setColumns(TextRowsView& view, const QStringList& columns) {
-    view.header()->setStretchLastSection(false);
-    QStringList present;
-    for (int column = 0; column < view.model()->columnCount(); ++column)
-        present.append(view.model()->headerData(column, Qt::Horizontal).toString());
-    if (present != columns)
-        view.SetColumns(columns, {});
-}
-
 void showNotFound(TextRowsView& view, const QString& id) {
     view.SetColumns({WareListViewer::tr("Ware list %1 not found").arg(id)}, {});
     view.header()->setStretchLastSection(false);
@@ -67,7 +58,8 @@ void FillWareList(TextRowsView& View, const WareNames* Names, const clsTXTObject
     }
     QList<TextRow> rows = rowsOf(*Names, *Record);
     const Widths widths = textWidths(rows, View.fontMetrics());
-    setColumns(View, {WareListViewer::tr("Name"), WareListViewer::tr("ID")});
+    View.header()->setStretchLastSection(false);
+    View.EnsureColumns({WareListViewer::tr("Name"), WareListViewer::tr("ID")}, {});
     View.SetRows(std::move(rows));
     View.setColumnWidth(0, std::max(widths[0] + textMargin, nameWidth));
     View.setColumnWidth(1, std::max(widths[1] + textMargin, View.header()->sectionSizeHint(1)));
@@ -85,8 +77,9 @@ WareListViewer::WareListViewer(QWidget* Parent, const char* ViewName)
     layout->setContentsMargins({});
     layout->addWidget(m_view);
     setFocusProxy(m_view);
-    m_view->installEventFilter(this);
-    m_view->viewport()->installEventFilter(this);
+    // The list itself tells only of rows, and there may be none.
+    for (QWidget* watched : {static_cast<QWidget*>(m_view), m_view->viewport()})
+        new EntryFilter(watched, [this] { Q_EMIT Entered(); });
 }
 
 void WareListViewer::Init() {
@@ -106,16 +99,4 @@ void WareListViewer::ShowWareList(std::int32_t ID, const QString& Spelling) {
 
 void WareListViewer::Clear() {
     m_view->SetColumns({}, {});
-}
-
-// The list itself tells only of rows, and there may be none.
-bool WareListViewer::eventFilter(QObject* watched, QEvent* event) {
-    const bool pressed = event->type() == QEvent::KeyPress && watched == m_view;
-    const int key = pressed ? static_cast<QKeyEvent*>(event)->key() : 0;
-    const bool clicked = event->type() == QEvent::MouseButtonDblClick && watched != m_view &&
-                         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
-    if (!clicked && key != Qt::Key_Return && key != Qt::Key_Enter)
-        return false;
-    Q_EMIT Entered();
-    return true;
 }

@@ -39,9 +39,6 @@ public:
 Q_SIGNALS:
     void Entered(); ///< a double click anywhere in the list, or Enter
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     TextRowsView* m_view;
     std::unique_ptr<WareNames> m_names;

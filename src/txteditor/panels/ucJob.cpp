@@ -333,7 +333,7 @@ void ucJob::ShowWing(const clsTXTObject& Wing) {
         rows.append(job ? TextRow{id, {id, nameOf(*job)}}
                         : TextRow{id, {tr("%1 (not found)").arg(id), {}}});
     }
-    m_wingJobs->SetColumns({tr("ID"), tr("Name")}, {wingIdWidth});
+    m_wingJobs->EnsureColumns({tr("ID"), tr("Name")}, {wingIdWidth});
     m_wingJobs->SetRows(std::move(rows));
 }
 

@@ -64,6 +64,7 @@ private:
     std::shared_ptr<const QImage> m_picture; ///< of all icons; none if it cannot be had
 
     QToolBar* m_bar = nullptr;
+    std::int32_t m_barType = -1;
     QList<QAction*> m_scenes; ///< the toolbar's buttons that depend on the type
     PropertyView* m_view = nullptr;
     QLabel* m_icon = nullptr;

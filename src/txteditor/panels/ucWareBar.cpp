@@ -78,6 +78,8 @@ void ucWare::BuildControls() {
 }
 
 void ucWare::BuildToolbar(std::int32_t OType) {
+    if (std::exchange(m_barType, OType) == OType)
+        return;
     qDeleteAll(std::exchange(m_scenes, {}));
     for (const SceneButton& button : sceneButtons)
         if (button.Type == OType)

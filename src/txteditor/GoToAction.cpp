@@ -76,7 +76,7 @@ bool GoToAction::TakeClick(const QMouseEvent& Click) {
         view->setCurrentIndex(row);
     }
     if (!m_find())
-        return false;
+        return qobject_cast<QAbstractItemView*>(&m_widget) != nullptr;      // its row is selected
     QMetaObject::invokeMethod(this, &GoToAction::Go, Qt::QueuedConnection); // another window opens
     return true;
 }

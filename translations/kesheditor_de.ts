@@ -150,6 +150,10 @@ Go to Settings and set it up.</source>
 <context>
     <name>GoToAction</name>
     <message>
+        <source>Go to</source>
+        <translation>Gehe zu</translation>
+    </message>
+    <message>
         <source>Show the object that is named here (also by a click with Ctrl)</source>
         <translation>Zeigt das Objekt, das hier genannt ist (auch durch einen Klick mit Strg)</translation>
     </message>
@@ -575,8 +579,8 @@ Soll er angelegt werden?</translation>
         <translation>Es gibt keine Ware „%1“.</translation>
     </message>
     <message>
-        <source>There is no such object in this file.</source>
-        <translation>In dieser Datei gibt es kein solches Objekt.</translation>
+        <source>The file &quot;%1&quot; has no such object.</source>
+        <translation>Die Datei „%1“ hat kein solches Objekt.</translation>
     </message>
 </context>
 <context>
@@ -2818,8 +2822,8 @@ Do you really want to modify it?</source>
 <context>
     <name>ucWareList</name>
     <message>
-        <source>Wares of the list</source>
-        <translation>Waren der Liste</translation>
+        <source>Ware</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Ware List</source>

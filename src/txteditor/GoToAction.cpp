@@ -1,5 +1,6 @@
 #include "txteditor/GoToAction.h"
 
+#include "ui/Icons.h"
 #include "ui/TextCodec.h"
 
 #include <memory>
@@ -7,6 +8,8 @@
 GoToAction::GoToAction(QWidget& Widget, Target Find, std::function<bool()> Finish)
     : QAction(&Widget), m_widget(Widget), m_find(std::move(Find)), m_finish(std::move(Finish)) {
     setObjectName(QStringLiteral("mnuGoTo"));
+    setIcon(ToolIcon("goto"));
+    setIconText(tr("Go to")); // on buttons, which stay as wide as they are
     setToolTip(tr("Show the object that is named here (also by a click with Ctrl)"));
     setShortcut(Qt::Key_F12);
     setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -63,10 +66,13 @@ void GoToAction::Go() {
         Q_EMIT Asked(*address);
 }
 
-/// False where the click leads nowhere, and means what it does without this.
+/// False where the click leads nowhere, and means what it does without this. The second of two
+/// fast clicks does nothing in a list, where the first has gone its way.
 bool GoToAction::TakeClick(const QMouseEvent& Click) {
     if (Click.button() != Qt::LeftButton || Click.modifiers() != Qt::ControlModifier)
         return false;
+    if (Click.type() == QEvent::MouseButtonDblClick)
+        return qobject_cast<QAbstractItemView*>(&m_widget) != nullptr;
     if (auto* view = qobject_cast<QAbstractItemView*>(&m_widget)) {
         const QModelIndex row = view->indexAt(Click.position().toPoint());
         if (!row.isValid())
@@ -89,6 +95,7 @@ bool GoToAction::eventFilter(QObject* watched, QEvent* event) {
         Update(); // what leads somewhere may have changed
         break;
     case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
         if (TakeClick(*static_cast<QMouseEvent*>(event)))
             return true;
         break;

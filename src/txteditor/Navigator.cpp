@@ -26,6 +26,10 @@ bool sameFile(const std::string& a, const std::string& b) {
     return first && second && SamePlace(*first, *second);
 }
 
+bool holds(const frmTXTEditor& window, const RecordPtr& record) {
+    return record && window.Parser().Find(record->ID) == record;
+}
+
 void raise(frmTXTEditor& window) {
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.raise();
@@ -65,39 +69,63 @@ frmTXTEditor* Navigator::OpenNew(const std::string& File) {
     return nullptr;
 }
 
-frmTXTEditor* Navigator::WindowFor(frmTXTEditor& From, const RecordAddress& Address) {
-    if (ObjectTypeFromFile(Address.File) == From.Parser().otype() &&
-        FindRecord(From.Parser(), Address))
-        return &From;
+Navigator::Goal Navigator::GoalOf(frmTXTEditor& From, const RecordAddress& Address) {
+    const bool alike = ObjectTypeFromFile(Address.File) == From.Parser().otype();
+    if (const RecordPtr record = alike ? FindRecord(From.Parser(), Address) : nullptr)
+        return {&From, record};
     const std::string file = gameFile(Address.File);
     if (file.empty()) {
         From.Tell(tr("The game has no file \"%1\".").arg(QString::fromStdString(Address.File)));
-        return nullptr;
+        return {};
     }
     frmTXTEditor* const open = WindowOn(file);
-    return open ? open : OpenNew(file);
+    frmTXTEditor* const window = open ? open : OpenNew(file);
+    if (!window)
+        return {};
+    const bool sought = alike && window == &From;
+    const RecordPtr record = sought ? nullptr : FindRecord(window->Parser(), Address);
+    if (!record) // who asked stays where he is, unless a window has opened over it
+        (open ? From : *window)
+            .Tell(tr("The file \"%1\" has no such object.")
+                      .arg(QString::fromStdString(Address.File)));
+    return {window, record};
+}
+
+bool Navigator::Show(const Goal& To) {
+    raise(*To.Window);
+    if (!To.Window->FinishEntry())
+        return false;
+    if (To.Record)
+        To.Window->SelectRecords({To.Record});
+    return true;
 }
 
 void Navigator::GoTo(frmTXTEditor& From, const RecordAddress& Address) {
     const auto address = Address.File.empty() ? WareAddress(Address.Name) : Address;
     if (!address)
         return From.Tell(tr("There is no ware \"%1\".").arg(ToScreen(Address.Name)));
-    const Place origin = {&From, From.Parser().FileName, From.SelectedObject(),
-                          From.SelectedObject() ? From.SelectedObject()->Index : -1};
-    frmTXTEditor* const window = WindowFor(From, *address);
-    if (!window)
-        return;
-    raise(*window);
-    if (!window->FinishEntry())
-        return;
-    if (const RecordPtr record = FindRecord(window->Parser(), *address))
-        window->SelectRecords({record});
-    else
-        window->Tell(tr("There is no such object in this file."));
-    m_back.push_back(origin);
+    const RecordPtr left = From.SelectedObject();
+    const Place origin = {&From, From.Parser().FileName, left, left ? left->Index : -1};
+    const Goal goal = GoalOf(From, *address);
+    if (goal.Record && Show(goal) && goal.Record != left)
+        Remember(origin);
+}
+
+void Navigator::Remember(Place From) {
+    m_back.push_back(std::move(From));
     if (m_back.size() > mostPlaces)
         m_back.erase(m_back.begin());
     Q_EMIT Changed();
+}
+
+/// The one that was left if it still has the record, under another name too, or the file; else any
+/// on that file.
+frmTXTEditor* Navigator::WindowOf(const Place& To) {
+    const RecordPtr record = To.Record.lock();
+    if (To.Window && To.Window->isVisible() &&
+        (holds(*To.Window, record) || To.Window->Parser().FileName == To.File))
+        return To.Window;
+    return WindowOn(To.File);
 }
 
 void Navigator::Back() {
@@ -106,24 +134,13 @@ void Navigator::Back() {
     const Place place = m_back.back();
     m_back.pop_back();
     Q_EMIT Changed();
+    frmTXTEditor* const open = WindowOf(place);
+    frmTXTEditor* const window = open ? open : OpenNew(place.File);
+    if (!window)
+        return;
     RecordPtr record = place.Record.lock();
-    const auto holds = [&](const frmTXTEditor& window) {
-        return record && window.Parser().Find(record->ID) == record;
-    };
-    frmTXTEditor* window = place.Window && place.Window->isVisible() &&
-                                   (holds(*place.Window) || // also under another name by now
-                                    place.Window->Parser().FileName == place.File)
-                               ? place.Window.data()
-                               : WindowOn(place.File);
-    if (!window)
-        window = OpenNew(place.File);
-    if (!window)
-        return;
-    raise(*window);
-    if (!window->FinishEntry())
-        return;
-    if (!holds(*window))
+    if (!holds(*window, record))
         record = window->Parser().FindIndex(place.Index);
-    if (record)
-        window->SelectRecords({record});
+    if (!Show({window, record}))
+        Remember(place); // it waits there until the entry is right
 }

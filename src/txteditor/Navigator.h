@@ -23,7 +23,7 @@ public:
     void Add(frmTXTEditor* Window);
     [[nodiscard]] bool CanGoBack() const noexcept { return !m_back.empty(); }
     /// Shows the record of an address: in `From` if its file can have it, in an open window on the
-    /// game's file, else in a new one. Failures are said.
+    /// game's file, else in a new one. Failures are said, and Back knows nothing of them.
     void GoTo(frmTXTEditor& From, const RecordAddress& Address);
     /// Returns to the record from which the last way led, in a new window if its own is closed.
     void Back();
@@ -39,9 +39,18 @@ private:
         std::int32_t Index;
     };
 
-    [[nodiscard]] frmTXTEditor* WindowFor(frmTXTEditor& From, const RecordAddress& Address);
+    struct Goal {
+        frmTXTEditor* Window = nullptr;
+        RecordPtr Record;
+    };
+
+    /// Without a record where it leads nowhere, which is said then.
+    [[nodiscard]] Goal GoalOf(frmTXTEditor& From, const RecordAddress& Address);
     [[nodiscard]] frmTXTEditor* WindowOn(const std::string& File);
+    [[nodiscard]] frmTXTEditor* WindowOf(const Place& To);
     [[nodiscard]] frmTXTEditor* OpenNew(const std::string& File);
+    [[nodiscard]] static bool Show(const Goal& To);
+    void Remember(Place From);
 
     std::function<frmTXTEditor*()> m_newWindow;
     QList<QPointer<frmTXTEditor>> m_windows;

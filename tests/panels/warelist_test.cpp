@@ -51,7 +51,7 @@ protected:
 
     support::ScratchDir directory;
     WareListViewer viewer{nullptr, "WareView"};
-    TextRowsView* view = viewer.findChild<TextRowsView*>(QStringLiteral("WareView"));
+    WareListView* view = viewer.findChild<WareListView*>(QStringLiteral("WareView"));
     QAbstractItemModelTester tester{view->model(),
                                     QAbstractItemModelTester::FailureReportingMode::Fatal};
     int entered = 0;
@@ -106,7 +106,7 @@ TEST_F(WareListTest, ColumnsAreAsWideAsTheirTexts) {
 }
 
 TEST_F(WareListTest, TellsOfEnterAndDoubleClicksInAnEmptyListToo) {
-    useArchive("1;\r\n2;SS_BREAD;SS_LASER;\r\n");
+    useArchive("2;\r\n2;SS_BREAD;SS_LASER;\r\n1;SS_BREAD;\r\n");
     for (const std::int32_t id : {5, 0}) {
         entered = 0;
         viewer.ShowWareList(id);
@@ -115,9 +115,11 @@ TEST_F(WareListTest, TellsOfEnterAndDoubleClicksInAnEmptyListToo) {
         QTest::keyClick(view, Qt::Key_Return);
         EXPECT_EQ(entered, 2);
     }
-    view->SelectKey(QStringLiteral("SS_LASER"));
-    viewer.ShowWareList(0);
-    EXPECT_EQ(view->SelectedKey(), QStringLiteral("SS_LASER")) << "a refill keeps the row";
+    view->setCurrentIndex(view->model()->index(1, 0));
+    for (const std::int32_t id : {0, 1}) {
+        viewer.ShowWareList(id);
+        EXPECT_EQ(view->currentIndex().row(), 1 - id) << "a refill keeps the row, as far as it can";
+    }
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "txteditor/panels/TextRows.h"
 
+#include "txteditor/panels/EntryFilter.h"
 #include "ui/ListHelpers.h"
 
 void TextRowsModel::SetColumns(QStringList Columns) {
@@ -55,7 +56,8 @@ TextRowsView::TextRowsView(const char* Name, const QString& Spoken, QWidget* Par
     setAccessibleName(Spoken);
     PrepareRows(*this);
     setModel(m_model);
-    connect(this, &QTreeView::doubleClicked, this, &TextRowsView::Entered);
+    new EntryFilter(
+        this, [this] { Q_EMIT Entered(); }, EntryFilter::From::Rows);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TextRowsView::Selected);
 }
@@ -97,21 +99,11 @@ void TextRowsView::keyPressEvent(QKeyEvent* event) {
 }
 
 bool TextRowsView::OnKey(int Key) {
-    const bool row = !SelectedKey().isEmpty();
-    switch (Key) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (row)
-            Q_EMIT Entered();
-        return row;
-    case Qt::Key_Delete:
-        if (row)
-            Q_EMIT RemoveAsked();
-        return row;
-    case Qt::Key_Insert:
+    if (Key == Qt::Key_Insert)
         Q_EMIT AddAsked();
-        return true;
-    default:
+    else if (Key == Qt::Key_Delete && !SelectedKey().isEmpty())
+        Q_EMIT RemoveAsked();
+    else
         return false;
-    }
+    return true;
 }

@@ -65,7 +65,7 @@ public:
 Q_SIGNALS:
     void AddAsked();    ///< Ins
     void RemoveAsked(); ///< Del with a row selected
-    void Entered();     ///< Enter or a double click on the selected row
+    void Entered();     ///< Enter on the selected row, or a double click on a row
     void Selected();    ///< another row, or none
 
 protected:

@@ -1,15 +1,22 @@
 #include "txteditor/panels/ucWareList.h"
 
 #include "tdata/mdlKeshConst.h"
+#include "txteditor/panels/EntryFilter.h"
 #include "txteditor/panels/WareListViewer.h"
 
 ucWareList::ucWareList(QWidget* Parent)
-    : RecordPanel(Parent), m_view(new TextRowsView("WareListView", tr("Wares of the list"), this)) {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(m_view);
+    : RecordPanel(Parent), m_view(new WareListView("WareListView", this)) {
     GoToAction* ware = OfferGoTo(*m_view, [this] { return WareOfRow(*m_view); });
-    connect(m_view, &TextRowsView::Entered, ware, &QAction::trigger);
+    new EntryFilter(
+        m_view, [ware] { ware->trigger(); }, EntryFilter::From::Rows);
+    auto* bar = new QToolBar(tr("Ware"), this);
+    bar->setObjectName(QStringLiteral("Bar"));
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar->addAction(ware);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins({});
+    rows->addWidget(bar);
+    rows->addWidget(m_view);
 }
 
 bool ucWareList::LornQueryInterface(std::int32_t OType) const {
@@ -17,8 +24,7 @@ bool ucWareList::LornQueryInterface(std::int32_t OType) const {
 }
 
 bool ucWareList::Init(clsTxtParser& Parser) {
-    if (!m_names)
-        m_names = std::make_unique<WareNames>(BuildWareList());
+    m_view->Init();
     const bool taken = RecordPanel::Init(Parser);
     RefreshViews();
     return taken;
@@ -50,9 +56,9 @@ void ucWareList::ObjectReset(const RecordPtr& Object) {
 
 void ucWareList::RefreshViews() {
     if (const RecordPtr& list = CurrentObject())
-        FillWareList(*m_view, m_names.get(), list.get(), QString::number(list->Index));
+        m_view->ShowList(list, QString::number(list->Index));
     else
-        m_view->SetColumns({}, {});
+        m_view->Clear();
 }
 
 RecordPtr ucWareList::CreateObject(std::int32_t OType, clsTxtParser& Parser,

@@ -1,12 +1,9 @@
 // The panel for WareLists: the wares of one list. It changes nothing.
 #pragma once
 
-#include "tdata/mdlWareList.h"
 #include "txteditor/panels/RecordPanel.h"
 
-#include <memory>
-
-class TextRowsView;
+class WareListView;
 
 class ucWareList final : public RecordPanel {
     Q_OBJECT
@@ -32,6 +29,5 @@ protected:
     void RefreshViews() override;
 
 private:
-    TextRowsView* m_view;
-    std::unique_ptr<WareNames> m_names;
+    WareListView* m_view;
 };

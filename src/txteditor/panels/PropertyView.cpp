@@ -32,6 +32,21 @@ QComboBox* newCombo(const QStringList& choices, QWidget* parent) {
     return combo;
 }
 
+/// Brings the pages of tabs to the front on which a widget stands.
+void showPagesOf(const QWidget& widget) {
+    for (QWidget* page = widget.parentWidget(); page; page = page->parentWidget()) {
+        const QWidget* stack = page->parentWidget();
+        if (auto* tabs = qobject_cast<QTabWidget*>(stack ? stack->parentWidget() : nullptr))
+            tabs->setCurrentWidget(page);
+    }
+}
+
+/// A box that came up at the press on a button has taken the release.
+void releaseButtons(const QWidget& window) {
+    for (QAbstractButton* button : window.findChildren<QAbstractButton*>())
+        button->setDown(false);
+}
+
 /// Makes the editor of a value, and lets the list decide what becomes of its text.
 class EntryDelegate : public QStyledItemDelegate {
 public:
@@ -100,7 +115,7 @@ QWidget* PropertyView::OpenEntry(QWidget* Parent, const QModelIndex& Index) {
     if (!m_entry)
         return nullptr;
     m_field = field;
-    m_refused = m_taken = false;
+    m_refused = m_taken = m_told = false;
     const bool choice = m_entry->Class() == translation::List;
     m_editor =
         choice ? static_cast<QWidget*>(newCombo(m_entry->Choices(), Parent)) : newLine(Parent);
@@ -129,7 +144,7 @@ void PropertyView::TakeEntry(QWidget* Editor) {
     const QString refusal = m_entry->Take(lineOf(Editor)->text());
     m_refused = !refusal.isEmpty();
     m_taken = !m_refused;
-    if (m_refused)
+    if (m_refused && !std::exchange(m_told, true))
         ShowBox(this, frmEdit::tr("Value Edit"), refusal, BoxIcon::Exclamation);
 }
 
@@ -158,6 +173,11 @@ void PropertyView::ReturnTo(QWidget* Editor) {
     QTimer::singleShot(0, Editor, [this, Editor] {
         if (!m_entry || Editor != m_editor) // it was given up meanwhile
             return;
+        showPagesOf(*this);
+        releaseButtons(*window());
+        if (const QModelIndex row = indexAt(Editor->geometry().center()); row.isValid())
+            setCurrentIndex(row);
+        m_told = false;
         Editor->setFocus();
         lineOf(Editor)->selectAll();
     });
@@ -176,7 +196,7 @@ bool PropertyView::FinishEntry() {
 void PropertyView::DropEntry() {
     const QPointer<QWidget> editor = m_entry ? m_editor : nullptr;
     m_entry.reset();
-    m_refused = m_taken = false;
+    m_refused = m_taken = m_told = false;
     if (editor)
         QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
 }

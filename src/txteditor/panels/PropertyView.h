@@ -34,7 +34,7 @@ protected:
 private:
     void EditRow();
     void CopyValue() const;
-    void ReturnTo(QWidget* Editor);
+    void ReturnTo(QWidget* Editor); ///< once the click or key that was refused is over
 
     RecordPanel& m_panel;
     PropertyModel* m_model;
@@ -43,5 +43,6 @@ private:
     QPointer<QWidget> m_editor; ///< of m_entry
     std::int32_t m_field = 0;   ///< of m_entry
     bool m_refused = false;
+    bool m_told = false; ///< of the refusal; one click may ask several times to take the entry
     bool m_taken = false;
 };

@@ -3,6 +3,7 @@
 #include "core/mdlComFunctions.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshJobs.h"
+#include "tdata/mdlKeshShips.h"
 #include "textres/ResourceText.h"
 
 #include <algorithm>
@@ -13,9 +14,14 @@ namespace {
 
 constexpr std::int32_t FirstVariant = 10000; ///< ids of their texts
 
+constexpr std::int32_t ShipClassField = 5;
+constexpr std::size_t ClassLength = 2; ///< of a class, signs; what follows tells of pirates
+
 constexpr std::string_view ClassRows[] = {"M1", "M2", "M3", "M4", "M5", "M6", "TP", "TS", "TL"};
 constexpr std::string_view ShipRaceRows[] = {"Argon", "Boron",   "Split", "Paranid", "Teladi",
                                              "Xenon", "Pirates", "Khaak", "Goner",   "Yaki"};
+constexpr TextTable ClassNames{0, ClassRows};
+constexpr TextTable ShipRaceNames{0, ShipRaceRows};
 // Positions in RaceNames.
 constexpr std::int32_t OwnerRaceRows[] = {1, 2, 3, 4, 5, 6, 7, 9, 19, 8};
 
@@ -23,7 +29,7 @@ struct VersionSize {
     std::int32_t Version;
     std::int32_t Size;
 };
-constexpr VersionSize Sizes[] = {{8, 117}, {9, 119}, {10, 120}};
+constexpr VersionSize Sizes[] = {{8, 117}, {9, 119}, {10, jobfield::Count}};
 
 bool Reaches(const clsTXTObject& job, std::int32_t place) {
     return place >= 0 && place < job.size();
@@ -44,10 +50,6 @@ std::string OnlyName(const clsTXTObject& job, JobFlags flags, std::string (*name
     return set.size() == 1 ? name(set.front()) : std::string();
 }
 
-std::string ClassName(std::int32_t place) {
-    return std::string(JobClassNames.At(place));
-}
-
 // In the order of jobflags::NameParts. A job names no corporation, so that flag adds nothing.
 struct NamePart {
     JobFlags Flags = {};
@@ -55,14 +57,19 @@ struct NamePart {
 };
 constexpr NamePart NameParts[] = {{jobflags::OwnerRaces, JobOwnerRaceName},
                                   {},
-                                  {jobflags::Classes, ClassName},
+                                  {jobflags::Classes, JobClassName},
                                   {jobflags::Variants, JobVariantName}};
 static_assert(std::size(NameParts) == jobflags::NameParts.Count);
 
 } // namespace
 
-const TextTable JobClassNames{0, ClassRows};
-const TextTable JobShipRaceNames{0, ShipRaceRows};
+std::string JobClassName(std::int32_t Place) {
+    return ListItemRaw(ClassNames, Place);
+}
+
+std::string JobShipRaceName(std::int32_t Place) {
+    return ListItemRaw(ShipRaceNames, Place);
+}
 
 std::string JobOwnerRaceName(std::int32_t Place) {
     return Place >= 0 && Place < std::ssize(OwnerRaceRows)
@@ -129,6 +136,17 @@ std::optional<std::int32_t> JobNeighbour(const clsTXTObject& Job, std::int32_t F
 }
 
 // --- Names
+
+std::optional<std::int32_t> JobClassOf(const clsTXTObject& Ship) {
+    if (Ship.size() <= ShipClassField)
+        return {};
+    const std::int32_t position =
+        Ship.ValueInteger(ShipClassField)
+            .value_or(FindInList(Ship.ValueText(ShipClassField), ShipClassKeys));
+    const std::int32_t place =
+        FindInList(ShipClassLabels.At(position).substr(0, ClassLength), ClassNames);
+    return place < 0 ? std::nullopt : std::optional(place);
+}
 
 std::string JobResourceName(const clsTXTObject& Job) {
     std::string name = ObjectText(Job, jobfield::ShipName);

@@ -2,7 +2,6 @@
 // logical, as in a record of 120; records may have any size and content.
 #pragma once
 
-#include "tdata/TextTable.h"
 #include "tdata/clsTxtParser.h"
 
 #include <cstdint>
@@ -13,6 +12,7 @@
 
 /// Logical fields that have a meaning of their own.
 namespace jobfield {
+inline constexpr std::int32_t Count = 120; ///< of the newest version; older ones lack some
 inline constexpr std::int32_t Number = 0;
 inline constexpr std::int32_t Name = 1;
 inline constexpr std::int32_t Most = 2;
@@ -49,8 +49,9 @@ inline constexpr JobFlags Various{110, 5};
 inline constexpr JobFlags Roles{115, 4}; ///< one of them
 } // namespace jobflags
 
-extern const TextTable JobClassNames;    ///< by the place in jobflags::Classes
-extern const TextTable JobShipRaceNames; ///< in jobflags::ShipRaces
+// Names by the place in a group; empty outside it.
+[[nodiscard]] std::string JobClassName(std::int32_t Place);    ///< in jobflags::Classes
+[[nodiscard]] std::string JobShipRaceName(std::int32_t Place); ///< in jobflags::ShipRaces
 /// In jobflags::OwnerRaces, which has another order than the races of ships.
 [[nodiscard]] std::string JobOwnerRaceName(std::int32_t Place);
 /// In jobflags::Variants, or of any ship: the text of the variant; "Basic" or its number where
@@ -75,6 +76,10 @@ bool SetJobValue(clsTXTObject& Job, std::int32_t Field, const KeshValue& Value);
 [[nodiscard]] std::vector<std::int32_t> JobFlagsSet(const clsTXTObject& Job, JobFlags Flags);
 /// The field whose value a record without this field gives in its stead; none if it has it.
 [[nodiscard]] std::optional<std::int32_t> JobNeighbour(const clsTXTObject& Job, std::int32_t Field);
+
+/// The place in jobflags::Classes of a ship of TShips; none for a class that jobs do not know. A
+/// pirate's ship counts as the others of its class.
+[[nodiscard]] std::optional<std::int32_t> JobClassOf(const clsTXTObject& Ship);
 
 /// Ship name, what the flags add to it, and description, in the user's language; empty if there is
 /// no text.

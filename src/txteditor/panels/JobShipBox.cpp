@@ -40,7 +40,7 @@ void JobShipsModel::SetShips(const clsTxtParser* Ships, bool Names) {
             std::string id(ship->ObjectName());
             m_byId.try_emplace(id, static_cast<int>(m_rows.size()));
             QString text = ToScreen(Names ? describedShip(*ship) : id);
-            m_rows.push_back({std::move(id), std::move(text)});
+            m_rows.push_back({std::move(id), std::move(text), JobClassOf(*ship)});
         }
     endResetModel();
 }
@@ -70,6 +70,11 @@ QString JobShipsModel::TextOf(const std::string& ID) const {
     const int row = RowOf(ID);
     return row < 0 ? tr("%1 (not found)").arg(ToScreen(ID))
                    : m_rows[static_cast<std::size_t>(row)].Text;
+}
+
+std::optional<std::int32_t> JobShipsModel::ClassOf(const std::string& ID) const {
+    const int row = RowOf(ID);
+    return row < 0 ? std::nullopt : m_rows[static_cast<std::size_t>(row)].Class;
 }
 
 int JobShipsModel::rowCount(const QModelIndex& parent) const {
@@ -150,6 +155,20 @@ void JobShipBox::Take(int Row) {
     Show(id);
     if (other)
         Q_EMIT Chosen(id);
+}
+
+/// With nothing typed to take back, the keys of undo and redo are the window's.
+bool JobShipBox::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        const bool windows = (key.matches(QKeySequence::Undo) && !lineEdit()->isUndoAvailable()) ||
+                             (key.matches(QKeySequence::Redo) && !lineEdit()->isRedoAvailable());
+        if (windows) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QComboBox::event(event);
 }
 
 /// Turning the wheel over the page must not change the ship.

@@ -5,6 +5,7 @@
 
 #include <QtWidgets>
 
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -27,6 +28,8 @@ public:
     /// The row that a person means by a text: `Present` if it reads so, else the first, in any
     /// case, else that of the ID; -1 if there is none.
     [[nodiscard]] int RowMeant(const QString& Text, int Present) const;
+    /// The place of its class in jobflags::Classes; none if there is no such ship or class.
+    [[nodiscard]] std::optional<std::int32_t> ClassOf(const std::string& ID) const;
     /// What a row shows for an ID, or that there is no such ship.
     [[nodiscard]] QString TextOf(const std::string& ID) const;
 
@@ -38,6 +41,7 @@ private:
     struct Ship {
         std::string ID;
         QString Text;
+        std::optional<std::int32_t> Class = {};
     };
 
     std::vector<Ship> m_rows;
@@ -62,6 +66,7 @@ Q_SIGNALS:
     void Chosen(const std::string& ID);
 
 protected:
+    bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -7,6 +7,7 @@
 namespace {
 
 constexpr qsizetype longestList = 3;
+constexpr qsizetype longestName = 100; ///< characters; an ID may be anything
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(JobSummary)
@@ -50,7 +51,7 @@ QString countPart(const clsTXTObject& job) {
 QString shipPart(const clsTXTObject& job,
                  const std::function<QString(const std::string&)>& shipName) {
     if (const std::string id(GetJobText(job, jobfield::Ship)); !id.empty())
-        return shipName(id);
+        return Shortened(shipName(id), longestName);
     const QStringList classes = JobCaptionsSet(job, JobClassBoxes);
     const QString ships = classes.isEmpty()
                               ? Words::tr("ships of no class")

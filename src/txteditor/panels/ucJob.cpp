@@ -11,6 +11,7 @@
 #include "txteditor/panels/JobBoxes.h"
 #include "txteditor/panels/JobShipBox.h"
 #include "txteditor/panels/JobSummary.h"
+#include "txteditor/panels/LabelPlace.h"
 #include "txteditor/panels/PropertyView.h"
 #include "txteditor/panels/TextRows.h"
 #include "txteditor/panels/WareListViewer.h"
@@ -19,7 +20,6 @@ namespace {
 
 using namespace jobtabs;
 
-constexpr std::int32_t presentSize = 120;
 constexpr qsizetype descriptionRow = 2;
 constexpr int wingIdWidth = 20; ///< characters
 
@@ -27,6 +27,7 @@ constexpr std::int32_t infoFields[] = {0,  1,  6,  4,  5,  2,  3,   13, 14,
                                        15, 16, 17, 55, 56, 57, 109, 73};
 constexpr std::int32_t equipmentFields[] = {88, 89, 106, 107, 108, 74, 75, 76, 77};
 
+enum Filter { OwnerFilter, ClassFilter };
 const JobBoxRow* const filterRows[] = {&JobOwnerBoxes, &JobClassBoxes};
 
 RecordFilter filterOf(const QString& name, const QString& any, const JobBoxRow& row) {
@@ -127,7 +128,11 @@ std::vector<RecordFilter> ucJob::Filters() const {
             filterOf(tr("Ship class"), tr("Any ship class"), JobClassBoxes)};
 }
 
+/// The flags of classes say nothing where the ship is fixed.
 bool ucJob::Passes(const RecordPtr& Object, int Filter, int Choice) const {
+    const std::string ship(GetJobText(*Object, jobfield::Ship));
+    if (Filter == ClassFilter && !ship.empty() && m_ship->Ships().RowOf(ship) >= 0)
+        return m_ship->Ships().ClassOf(ship) == Choice;
     return JobFlagSet(*Object, filterRows[Filter]->Flags.First + Choice);
 }
 
@@ -170,12 +175,14 @@ bool ucJob::LornTranslateValue(const RecordPtr& Object, std::int32_t Index, std:
 
 bool ucJob::LornTranslateValueBack(const RecordPtr& Object, std::string& Text, std::int32_t Index,
                                    KeshValue& Value) {
-    Q_UNUSED(Object);
-    Q_UNUSED(Index);
     const auto number = EnteredNumber(Text);
     if (number)
         Value = *number;
-    return number.has_value();
+    else if (LornGetValueType(Object, Index) == valuetype::String)
+        Value = Text;
+    else
+        return false;
+    return true;
 }
 
 // Changes
@@ -229,6 +236,8 @@ void ucJob::ObjectReset(const RecordPtr& Object) {
 
 void ucJob::ShowObject(const RecordPtr& Object, std::int32_t OType) {
     Q_UNUSED(OType);
+    if (Object == CurrentObject()) // it may have been changed by its raw fields
+        m_byNumber.reset();
     SetCurrentObject(Object);
     UpdateEnabled();
     RefreshViews();
@@ -236,7 +245,7 @@ void ucJob::ShowObject(const RecordPtr& Object, std::int32_t OType) {
 }
 
 void ucJob::WarnOfOldFile() {
-    if (!Job() || Job()->size() >= presentSize || std::exchange(m_warned, true))
+    if (!Job() || Job()->size() >= jobfield::Count || std::exchange(m_warned, true))
         return;
     Say(tr("Warning - this is old Job file (ver. %1)\n\n"
            "It's possible that not all user controls will behave correctly.")
@@ -310,6 +319,7 @@ void ucJob::ShowInfo() {
     const auto shipName = [this](const std::string& id) { return m_ship->Ships().TextOf(id); };
     m_summary->setText(Job() ? JobSummary(*Job(), shipName) : QString());
     m_summary->setToolTip(Qt::convertFromPlainText(m_summary->text(), Qt::WhiteSpaceNormal));
+    m_summaryPlace->Fit();
 }
 
 void ucJob::FillWings() {
@@ -340,10 +350,14 @@ void ucJob::ShowWing(const clsTXTObject& Wing) {
 RecordPtr ucJob::JobOf(std::int32_t Number) {
     if (!m_byNumber) {
         m_byNumber.emplace();
+        const auto add = [this](std::optional<std::int32_t> number, const RecordPtr& job) {
+            if (number && !m_byNumber->contains(*number))
+                m_byNumber->insert(*number, job);
+        };
         for (const RecordPtr& job : Parser()->ByIndex())
-            if (const auto number = GetJobInteger(*job, jobfield::Number))
-                if (!m_byNumber->contains(*number))
-                    m_byNumber->insert(*number, job);
+            add(GetJobInteger(*job, jobfield::Number), job);
+        for (const RecordPtr& job : Parser()->ByIndex()) // some files have it at the end
+            add(job->size() > 0 ? job->ValueInteger(job->size() - 1) : std::nullopt, job);
     }
     return m_byNumber->value(Number);
 }

@@ -8,6 +8,7 @@
 
 class JobBoxes;
 class JobShipBox;
+class LabelPlace;
 class PropertyView;
 class TextRowsView;
 class WareListViewer;
@@ -110,6 +111,7 @@ private:
     PropertyView* m_fields = nullptr;
     PropertyView* m_equipment = nullptr;
     QLabel* m_summary = nullptr;
+    LabelPlace* m_summaryPlace = nullptr;
     QLabel* m_shipName = nullptr;
     QGroupBox* m_roleGroup = nullptr;
     QButtonGroup* m_roles = nullptr;

@@ -15,6 +15,7 @@ namespace {
 using namespace jobtabs;
 
 constexpr int summaryLines = 3;
+constexpr int mostSummaryLines = 7;
 constexpr int numberWidth = 12;   ///< characters
 constexpr int equipmentLines = 6; ///< at least
 
@@ -107,7 +108,8 @@ QWidget* ucJob::BuildInfo() {
     m_summary->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_summary->setAccessibleName(tr("What the job does"));
     auto* rows = new QVBoxLayout(page);
-    rows->addWidget(new LabelPlace(*m_summary, page, summaryLines));
+    m_summaryPlace = new LabelPlace(*m_summary, page, summaryLines, mostSummaryLines);
+    rows->addWidget(m_summaryPlace);
     m_fields = new PropertyView("PropView", *this, page);
     rows->addWidget(m_fields, 1);
     rows->addWidget(BuildShipName(page));
@@ -244,6 +246,7 @@ QWidget* ucJob::BuildWares() {
 void ucJob::SetReadOnly(bool Value) {
     RecordPanel::SetReadOnly(Value);
     UpdateEnabled();
+    ShowFields(); // what was being typed is given up
 }
 
 void ucJob::UpdateEnabled() {

@@ -4,29 +4,10 @@
 #include "core/mdlCommon.h"
 #include "tdata/clsArchive.h"
 #include "tdata/mdlKeshConst.h"
+#include "tests/support/refusinginterface.h"
 #include "textres/clsDescServer.h"
-#include "ui/UserInterface.h"
 
 namespace bench {
-
-namespace {
-
-class Refusing : public UserInterface {
-public:
-    Answer ShowMessage(QWidget*, const MessageRequest& request) override {
-        return request.Buttons == BoxButtons::Ok ? Answer::Ok : Answer::No;
-    }
-    std::optional<FileChoice> ShowOpen(QWidget*, const FileRequest&) override { return {}; }
-    std::optional<FileChoice> ShowSave(QWidget*, const FileRequest&) override { return {}; }
-    std::optional<QString> PickDirectory(QWidget*, const QString&, const QString&) override {
-        return {};
-    }
-    std::optional<QColor> PickColor(QWidget*, const QString&, const QColor&) override { return {}; }
-    bool RunProgram(const QString&, const QStringList&) override { return false; }
-    bool OpenUrl(const QUrl&) override { return false; }
-};
-
-} // namespace
 
 Program::Program(const Options& options) {
     qputenv("KESH_CONFIG_DIR", QByteArray::fromStdString(options.directory.string()));
@@ -35,7 +16,7 @@ Program::Program(const Options& options) {
     Settings = std::make_unique<clsSettings>();
     DescServer = std::make_unique<clsDescServer>();
     Archive = std::make_unique<clsArchive>();
-    m_former = SetUserInterface(std::make_unique<Refusing>());
+    m_former = SetUserInterface(std::make_unique<support::RefusingInterface>());
 }
 
 Program::~Program() {

@@ -159,6 +159,113 @@ TEST_F(GoTo, LeadsFromRowsToRecordsAndBack) {
     }
 }
 
+/// How a user asks for what a widget names.
+struct Ask {
+    const char* By;
+    void (*Do)(QWidget& Asked, const QPoint& Place);
+};
+const Ask asks[] = {
+    {"Ctrl+click",
+     [](QWidget& asked, const QPoint& place) {
+         QTest::mouseClick(&asked, Qt::LeftButton, Qt::ControlModifier, place);
+     }},
+    {"F12", [](QWidget& asked, const QPoint&) { QTest::keyClick(&asked, Qt::Key_F12); }},
+    {"popup",
+     [](QWidget& asked, const QPoint& place) {
+         QTimer::singleShot(0, qApp, [] {
+             auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+             ASSERT_TRUE(menu);
+             EXPECT_TRUE(menu->actions().first()->text().startsWith(text("Go to ")));
+             menu->setActiveAction(menu->actions().first());
+             QTest::keyClick(menu, Qt::Key_Return);
+         });
+         QContextMenuEvent event(QContextMenuEvent::Mouse, place, asked.mapToGlobal(place));
+         QCoreApplication::sendEvent(&asked, &event);
+     }},
+    {"button",
+     [](QWidget& asked, const QPoint&) {
+         for (auto* button : asked.window()->findChildren<QToolButton*>())
+             if (button->isVisible() && button->defaultAction() &&
+                 button->defaultAction()->objectName() == text("mnuGoTo"))
+                 return QTest::mouseClick(button, Qt::LeftButton);
+         ADD_FAILURE();
+     }},
+    {"double click", // in a list only
+     [](QWidget& asked, const QPoint& place) {
+         QTest::mouseDClick(&asked, Qt::LeftButton, {}, place);
+     }},
+};
+
+TEST_F(GoTo, ListsAndBoxesAreAskedInEveryWay) {
+    open("vfs://types\\WareLists.txt");
+    frmTXTEditor* const lists = window;
+    pick("ObjectView", 1);
+    open("vfs://types\\Jobs.txt");
+    frmTXTEditor* const jobs = window;
+    pick("ObjectView", 0);
+    showTab("JobEdit", 1);
+    auto* ship = jobs->findChild<QComboBox*>(text("cmbShipTypeID"));
+    for (const Ask& ask : asks) {
+        SCOPED_TRACE(ask.By);
+        window = lists;
+        const QPoint place =
+            shownView("WareListView")->visualRect(select("WareListView", "SH_B")).center();
+        ask.Do(*shownView("WareListView")->viewport(), place);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(where(), text("TShields.txt SH_B"));
+        navigator.Back();
+        if (&ask != std::end(asks) - 1) {
+            QApplication::setActiveWindow(jobs);
+            ship->setFocus();
+            ask.Do(*ship->lineEdit(), {5, 5});
+            QCoreApplication::processEvents();
+            EXPECT_EQ(where(), text("TShips.txt SHIP_B"));
+            navigator.Back();
+        }
+        EXPECT_FALSE(navigator.CanGoBack());
+        while (windows.size() > 2)
+            delete windows.takeLast().data();
+    }
+}
+
+TEST_F(GoTo, UsesTheWindowThatHasTheFileAndShowsWhatAFilterHides) {
+    open(program("data/types/TWareF.txt").c_str()); // by another path than the game's
+    frmTXTEditor* const wares = window;
+    window->findChild<QLineEdit*>(text("FilterEdit"))->setText(text("BREAD"));
+    open("vfs://types\\WareLists.txt");
+    frmTXTEditor* const lists = window;
+    const std::pair<int, const char*> entries[] = {{1, "CAKE"}, {0, "BREAD"}, {1, "CAKE"}};
+    for (const auto& [list, ware] : entries) {
+        window = lists;
+        pick("ObjectView", list);
+        click("WareListView", ware);
+        EXPECT_EQ(where(wares), text("TWareF.txt ") + text(ware));
+        EXPECT_EQ(view("ObjectView")->selectionModel()->selectedRows().size(), 1);
+    }
+    EXPECT_EQ(windows.size(), 2);
+    wares->close(); // a window of the way, which is not needed to return
+    for (const int list : {1, 0, 1}) {
+        navigator.Back();
+        EXPECT_EQ(lists->SelectedObject()->Index, list);
+    }
+    EXPECT_FALSE(navigator.CanGoBack());
+}
+
+TEST_F(GoTo, RemembersAHundredWays) {
+    open("vfs://types\\TShields.txt");
+    pick("ObjectView", 0);
+    const auto go = [&](int index) { navigator.GoTo(*window, {"TShields", index}); };
+    go(0);
+    EXPECT_FALSE(navigator.CanGoBack()) << "it was there already";
+    for (int i = 1; i <= 103; ++i)
+        go(i % 2);
+    int steps = 0;
+    for (; navigator.CanGoBack(); ++steps)
+        back();
+    EXPECT_EQ(steps, 100);
+    EXPECT_EQ(window->SelectedObject()->Index, 1) << "the fourth of them";
+}
+
 TEST_F(GoTo, JobsLeadToWingsListsAndShipsAndToEachOther) {
     open("vfs://types\\Jobs.txt");
     frmTXTEditor* const jobs = window;
@@ -199,8 +306,11 @@ TEST_F(GoTo, SaysWhatLeadsNowhere) {
     EXPECT_EQ(action->text(), text("Go to TBullets: 7"));
     click("PropView", "Projectile");
     EXPECT_EQ(where(), text("TBullets.txt -"));
-    EXPECT_EQ(windows.last()->statusBar()->currentMessage(),
-              text("There is no such object in this file."));
+    const QString missing = text("The file \"TBullets\" has no such object.");
+    EXPECT_EQ(windows.last()->statusBar()->currentMessage(), missing);
+    window = lasers;
+    click("PropView", "Projectile");
+    EXPECT_EQ(lasers->statusBar()->currentMessage(), missing) << "who asked stays where he is";
 
     QFile::remove(native("data/types/TBullets.txt"));
     windows.last()->close();
@@ -214,6 +324,23 @@ TEST_F(GoTo, SaysWhatLeadsNowhere) {
     select("WareListView", "NOTHING");
     QTest::keyClick(shownView("WareListView"), Qt::Key_Return);
     EXPECT_EQ(window->statusBar()->currentMessage(), text("There is no ware \"NOTHING\"."));
+    EXPECT_FALSE(navigator.CanGoBack());
+}
+
+TEST_F(GoTo, ClicksWithCtrlBeginNoEntry) {
+    const int interval = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(20); // after which a click on a selected row enters
+    open("vfs://types\\TLaser.txt");
+    pick("ObjectView", 1);
+    for (const char* label : {"Energy", "Projectile"}) {
+        QTreeView* fields = shownView("PropView");
+        const QPoint place = fields->visualRect(select("PropView", label)).center();
+        QTest::mouseClick(fields->viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+        QTest::mouseDClick(fields->viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+        QTest::qWait(60);
+        EXPECT_FALSE(fields->findChild<QWidget*>(text("ValueEditor"))) << label;
+    }
+    QApplication::setDoubleClickInterval(interval);
 }
 
 TEST_F(GoTo, FindsThePlaceAgainInAChangedFile) {

@@ -221,15 +221,30 @@ TEST_F(ShipPanel, ReportsWhatDoesNotFitAndLeadsToIt) {
 
 TEST_F(ShipPanel, ReadOnlyItChangesNothing) {
     startWith("49", {ship("A", {})});
-    panel->SetReadOnly(true);
     pick("ObjectView", 0);
-    selectField("InfoView", QStringLiteral("Class"));
-    key("InfoView", Qt::Key_F2);
-    EXPECT_FALSE(editorIn("InfoView"));
-    key("InfoView", Qt::Key_Return); // a dialog would stay
+    const std::string before = record();
+    const std::pair<const char*, const char*> lists[] = {{"InfoView", "Docking slots"},
+                                                         {"PerformanceView", "Speed"},
+                                                         {"ModelView", "Ship scene"},
+                                                         {"WeaponView", "Shield type"}};
+    for (int tab = 0; const auto& [list, row] : lists) {
+        SCOPED_TRACE(list);
+        showTab(tab++);
+        panel->SetReadOnly(false);
+        beginEntry(list, QString::fromLatin1(row), QStringLiteral("7"));
+        panel->SetReadOnly(true); // gives it up
+        QCoreApplication::sendPostedEvents({}, QEvent::DeferredDelete);
+        EXPECT_FALSE(editorIn(list));
+        key(list, Qt::Key_F2);
+        EXPECT_FALSE(editorIn(list));
+        key(list, Qt::Key_Return); // a dialog would stay
+    }
     showTab(4);
     EXPECT_FALSE(child<QAction>("newturret")->isVisible());
     key("TurView", Qt::Key_Insert);
+    showTab(8);
+    QTest::mouseDClick(child<QLineEdit>("WareListIDEdit"), Qt::LeftButton);
+    EXPECT_EQ(record(), before);
 }
 
 TEST_F(ShipPanel, TakesWhatIsBeingEnteredBeforeItSaves) {

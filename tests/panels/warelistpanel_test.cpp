@@ -1,4 +1,5 @@
 // A window with a WareLists file in it.
+#include "panels/monkey.h"
 #include "panels/paneltest.h"
 #include "txteditor/panels/ucWareList.h"
 
@@ -9,13 +10,17 @@ using WareListPanel = PanelTest<ucWareList>;
 TEST_F(WareListPanel, ShowsTheWaresOfTheListThatIsPicked) {
     write("data/types/TWareB.txt", wares({"SS_BREAD"}));
     openGame();
-    startWithFile("WareLists.txt", "2;\r\n2;SS_BREAD;SS_NONE;\r\n1;SS_SALT;\r\n");
+    startWithFile("WareLists.txt", "3;\r\n2;SS_BREAD;SS_NONE;\r\n1;SS_SALT;\r\n0;\r\n");
     EXPECT_EQ(caption(), caption("WareLists.txt", QStringLiteral("Ware List")));
     EXPECT_EQ(child<QTabWidget>("MainTab")->tabText(1), QStringLiteral("Ware List info"));
     pick("ObjectView", 0);
     EXPECT_EQ(rows("WareListView"), QStringLiteral("SS_BREAD=SS_BREAD|SS_NONE=SS_NONE"));
     pick("ObjectView", 1);
     EXPECT_EQ(rows("WareListView"), QStringLiteral("SS_SALT=SS_SALT"));
+    pick("ObjectView", 2);
+    EXPECT_EQ(view("WareListView")->model()->columnCount(), 2);
+    EXPECT_EQ(rows("WareListView"), QString());
+    QTest::keyClick(view("WareListView"), Qt::Key_Return);
     panel->ShowObject({}, otype::WareLists);
     EXPECT_EQ(rows("WareListView"), QString());
 }
@@ -30,6 +35,22 @@ TEST_F(WareListPanel, FollowsTheRawDataAndAddsNoList) {
     script.Box(QStringLiteral("none can be added"));
     trigger("mnuNew");
     EXPECT_EQ(window->Parser().ByIndex().size(), 1U);
+}
+
+TEST_F(WareListPanel, LivesThroughClicksWithBrokenFiles) {
+    write("data/types/TWareB.txt", "48;9;\r\n1;2;\r\n");
+    write("data/types/TLaser.txt", "");
+    openGame();
+    startWithFile("WareLists.txt", "3;\r\n2;;\xE9;\r\n0;\r\n1;SS_SALT;\r\n");
+    const std::string before = record() + record(1) + record(2);
+    Monkey monkey(3);
+    for (int step = 0; step < 150; ++step) {
+        if (step % 10 == 0)
+            pick("ObjectView", monkey.Below(3));
+        monkey.Step(*panel);
+    }
+    EXPECT_EQ(record() + record(1) + record(2), before);
+    EXPECT_FALSE(child<QAction>("undo")->isEnabled());
 }
 
 } // namespace

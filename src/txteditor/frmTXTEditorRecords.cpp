@@ -216,7 +216,9 @@ void frmTXTEditor::SelectRecord(const RecordPtr& Record) {
         return;
     }
     const bool stood = m_objectView->selectionModel()->isSelected(row);
-    m_objectView->setCurrentIndex(row); // shows it if another was on view
+    // The view itself would heed the keys that are held for a shortcut. Shows it if another was on.
+    m_objectView->selectionModel()->setCurrentIndex(row, QItemSelectionModel::ClearAndSelect |
+                                                             QItemSelectionModel::Rows);
     if (stood || Record != m_selected)
         ShowObject(Record);
     m_objectView->scrollTo(row);

@@ -1,4 +1,5 @@
 // A window with a Jobs file in it.
+#include "panels/monkey.h"
 #include "panels/paneltest.h"
 #include "support/gametexts.h"
 #include "tdata/mdlKeshJobs.h"
@@ -15,20 +16,31 @@ struct BoxRow {
     int First;
     int Count;
     int Tab;
+    const char* Captions;
 };
 constexpr BoxRow boxRows[] = {
-    {"chkShipNameFlags", 9, 4, jobtabs::Info},
-    {"chkShipClass", 19, 9, jobtabs::Ship},
-    {"chkShipRace", 28, 10, jobtabs::Ship},
-    {"chkShipVariant", 38, 17, jobtabs::Ship},
-    {"chkSectorFlags", 58, 6, jobtabs::Sector},
-    {"chkSectorFlagsInverted", 64, 1, jobtabs::Sector},
-    {"chkSectorCreationFlags", 67, 5, jobtabs::Sector},
-    {"chkOwnerRace", 78, 10, jobtabs::Race},
-    {"chkWeaponAllowDrones", 90, 1, jobtabs::Weapons},
-    {"chkWeaponForbid", 91, 5, jobtabs::Weapons},
-    {"chkWeaponAllow", 96, 8, jobtabs::Weapons},
-    {"chkPlacementVarious", 110, 5, jobtabs::Sector},
+    {"chkShipNameFlags", 9, 4, jobtabs::Info, "Race,Corporation,Ship Type,Variant Name"},
+    {"chkShipClass", 19, 9, jobtabs::Ship, "M1,M2,M3,M4,M5,M6,TP,TS,TL"},
+    {"chkShipRace", 28, 10, jobtabs::Ship,
+     "Argon,Boron,Split,Paranid,Teladi,Xenon,Pirates,Khaak,Goner,Yaki"},
+    {"chkShipVariant", 38, 17, jobtabs::Ship,
+     "Basic,1,2,Hauler,Tug && tow,5,6,7,8,9,10,11,12,13,14,15,16"},
+    {"chkSectorFlags", 58, 6, jobtabs::Sector,
+     "Is owner's sector,Is core sector,Has shipyard,Has owner's stations,Not enemy sector,Is "
+     "border sector"},
+    {"chkSectorFlagsInverted", 64, 1, jobtabs::Sector, "Invert sector flags"},
+    {"chkSectorCreationFlags", 67, 5, jobtabs::Sector,
+     "Create in shipyard,Create in gate,Create inside sector,Create outside sector,Create NULL"},
+    {"chkOwnerRace", 78, 10, jobtabs::Race,
+     "Argon,Boron,Split,Paranid,Teladi,Xenon,Khaak,Goner,Yaki,Pirate"},
+    {"chkWeaponAllowDrones", 90, 1, jobtabs::Weapons, "Fighter Drones"},
+    {"chkWeaponForbid", 91, 5, jobtabs::Weapons,
+     "Impulse Ray Emmiter,Particle Accelerator Cannon,High Energy Plasma Thrower,Photon Pulse "
+     "Cannon,Kyon Emmiter"},
+    {"chkWeaponAllow", 96, 8, jobtabs::Weapons,
+     "Mass Driver,PSG,Ion Disruptor,Flak,IH,Mining las.,Tug,Repair las."},
+    {"chkPlacementVarious", 110, 5, jobtabs::Sector,
+     "Is invincible,Is hidden pirate,Destroy OOS,Rebuild in new sector,Fly average speed"},
 };
 
 class JobPanel : public PanelTest<ucJob> {
@@ -54,7 +66,8 @@ protected:
             text += job(size, values) + "\r\n";
         startWithFile("Jobs.txt", text);
         if (size < 120)
-            script.Box(QStringLiteral("Warning - this is old Job file (ver. %1)")
+            script.Box(QStringLiteral("Warning - this is old Job file (ver. %1)\n\nIt's possible "
+                                      "that not all user controls will behave correctly.")
                            .arg(QString::fromLatin1(version(size))));
         pick("ObjectView", 0);
     }
@@ -71,15 +84,21 @@ protected:
     [[nodiscard]] QString summary() const { return label("lblSummary"); }
     void useShips() {
         QByteArray text = "49;4;\r\n";
-        for (const char* own :
-             {"SHIP_A;7;1;0", "SHIP_B;7;19;3", "F\xE4HRE;99;2;0", "SHIP_C;7;1;0"}) {
+        for (const char* own : {"SHIP_A;7;1;0;SG_SH_M3", "SHIP_B;7;19;3;SG_SH_TL_P",
+                                "F\xE4HRE;99;2;0;0", "SHIP_C;7;1;0;SG_SH_M7"}) {
             const QList<QByteArray> parts = QByteArray(own).split(';');
             for (int i = 0; i < 64; ++i)
-                text += (i == 6 ? parts[1] : i == 45 ? parts[2] : i == 50 ? parts[3] : "0") + ";";
+                text += (i == 5    ? parts[4]
+                         : i == 6  ? parts[1]
+                         : i == 45 ? parts[2]
+                         : i == 50 ? parts[3]
+                                   : "0") +
+                        ";";
             text += parts[0] + ";\r\n";
         }
         write("data/types/TShips.txt", text);
-        write("data/types/JobWings.txt", "5;100,7,101;\r\n6;100;\r\n");
+        write("data/types/JobWings.txt",
+              "5;100,7,6;\r\n6;" + QByteArray("100,").repeated(2999) + "100;\r\n");
         write("data/types/WareLists.txt", "1;\r\n1;SS_SALT;\r\n");
         openGame();
     }
@@ -146,6 +165,24 @@ TEST_F(JobPanel, EachBoxStandsForItsField) {
     }
 }
 
+TEST_F(JobPanel, CallsItsBoxesByNameAndByTheTextsOfVariants) {
+    const auto captions = [this](const BoxRow& row) {
+        QStringList texts;
+        for (int place = 0; place < row.Count; ++place)
+            texts.append(box(row, place)->text());
+        return texts.join(u',');
+    };
+    {
+        const support::GameTexts texts("<page id=\"17\"><string id=\"10003\">Hauler</string>"
+                                       "<string id=\"10004\">Tug &amp; tow</string></page>");
+        startWith(120, {{}});
+        for (const BoxRow& row : boxRows)
+            EXPECT_EQ(captions(row), QString::fromLatin1(row.Captions));
+    }
+    window->OpenFile(program("Jobs.txt")); // with other texts
+    EXPECT_TRUE(captions(boxRows[3]).startsWith(QStringLiteral("Basic,1,2,3,4,5,")));
+}
+
 TEST_F(JobPanel, ABoxForAMissingFieldShowsItsNeighbour) {
     startWith(117, {{{37, "1"}}});
     const BoxRow& races = boxRows[2];
@@ -177,6 +214,7 @@ TEST_F(JobPanel, KeepsWhatIsNeitherYesNorNoUntilAClick) {
         QCheckBox* race = child<QCheckBox>("chkOwnerRace0");
         EXPECT_EQ(race->isChecked(), c.Shown);
         EXPECT_EQ(field(78), c.Stored);
+        EXPECT_TRUE(race->toolTip().contains(QString::fromUtf8(c.Stored)));
         QTest::keyClick(race, Qt::Key_Space);
         EXPECT_EQ(field(78), c.Clicked);
         trigger("undo");
@@ -235,6 +273,66 @@ TEST_F(JobPanel, EntersFieldsOfEachVersion) {
     }
 }
 
+TEST_F(JobPanel, ARefusedEntryIsToldOnceByOneAction) {
+    const auto click = [&](QWidget* widget, QPoint place, Qt::KeyboardModifiers keys = {}) {
+        QTest::mouseClick(widget, Qt::LeftButton, keys, place);
+    };
+    const auto row = [&](Qt::KeyboardModifiers keys) {
+        click(view("PropView")->viewport(),
+              view("PropView")->visualRect(view("PropView")->model()->index(8, 1)).center(), keys);
+    };
+    struct Case {
+        const char* Name;
+        std::function<void()> Action;
+        bool Stays; ///< what was typed
+    };
+    const Case cases[] = {
+        {"Enter", [&] { press(editorIn("PropView"), Qt::Key_Return); }, true},
+        {"Tab", [&] { press(editorIn("PropView"), Qt::Key_Tab); }, true},
+        {"box",
+         [&] {
+             click(box(boxRows[0], 0), {5, 5});
+         },
+         true},
+        {"row", [&] { row({}); }, true},
+        {"row with Ctrl", [&] { row(Qt::ControlModifier); }, true},
+        {"edit",
+         [&] {
+             click(child<QLineEdit>("ShipNameIDEdit"), {5, 5});
+         },
+         true},
+        {"tab", [&] { click(tabs()->tabBar(), tabs()->tabBar()->tabRect(1).center()); }, true},
+        {"raw data", [&] { child<QTabWidget>("MainTab")->setCurrentIndex(0); }, true},
+        {"save", [&] { trigger("save"); }, true},
+        {"filter",
+         [&] {
+             click(child<QLineEdit>("FilterEdit"), {5, 5});
+         },
+         true},
+        {"new", [&] { trigger("mnuNew"); }, true},
+        {"sort",
+         [&] {
+             click(child<QCheckBox>("chkSort"), {5, 5});
+         },
+         true},
+        {"record", [&] { pick("ObjectView", 1); }, false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Name);
+        startWith(120, {{}, {}});
+        beginEntry("PropView", QStringLiteral("Max # of jobs"), QStringLiteral("many"));
+        script.Box(QStringLiteral("must be whole number"));
+        c.Action();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents({}, QEvent::DeferredDelete);
+        EXPECT_EQ(tabs()->currentIndex(), int(jobtabs::Info));
+        EXPECT_EQ(editorIn("PropView") != nullptr, c.Stays);
+        EXPECT_EQ(QApplication::focusWidget() == editorIn("PropView"), c.Stays);
+        if (c.Stays)
+            press(editorIn("PropView"), Qt::Key_Escape);
+    }
+}
+
 TEST_F(JobPanel, FindsAShipByAnyPartOfItsName) {
     const support::GameTexts texts("<page id=\"17\"><string id=\"7\">Ferry</string>"
                                    "<string id=\"10003\">Hauler</string></page>");
@@ -284,6 +382,13 @@ TEST_F(JobPanel, FindsAShipByAnyPartOfItsName) {
     QTest::keyClick(ships()->lineEdit(), Qt::Key_Escape);
     QTest::keyClick(ships()->lineEdit(), Qt::Key_Escape);
     EXPECT_EQ(ships()->currentText(), QString::fromLatin1("Boron F\xE4HRE"));
+    popup->hide();
+    for (const auto& [code, stored] :
+         {std::pair(Qt::Key_Down, "SHIP_C"), {Qt::Key_Z, "F\xE4HRE"}}) {
+        QTest::keyClick(ships(), code, code == Qt::Key_Z ? Qt::ControlModifier : Qt::NoModifier);
+        EXPECT_EQ(field(18), stored);
+    }
+    EXPECT_EQ(view("ObjectView")->selectionModel()->selectedRows().size(), 1); // Ctrl or not
     enter("Yaki Ferry (Hauler)"); // and on to another record
     pick("ObjectView", 1);
     EXPECT_EQ(field(18), "SHIP_B");
@@ -298,9 +403,11 @@ TEST_F(JobPanel, FindsAShipByAnyPartOfItsName) {
 
 TEST_F(JobPanel, FollowsWingAndWareList) {
     useShips();
-    startWith(120, {{{0, "100"}, {1, "FIRST"}, {13, "5"}, {14, "0"}}, {{13, "9"}, {14, "x"}}});
+    startWith(120, {{{0, "100"}, {1, "FIRST"}, {13, "5"}, {14, "0"}},
+                    {{13, "9"}, {14, "x"}},
+                    {{0, "200"}, {13, "6"}}});
     showTab(jobtabs::Wings);
-    EXPECT_EQ(rows("WingsView"), QStringLiteral("100=FIRST|7 (not found)=|101 (not found)="));
+    EXPECT_EQ(rows("WingsView"), QStringLiteral("100=FIRST|7 (not found)=|6 (not found)="));
     showTab(jobtabs::Wares);
     EXPECT_EQ(rows("WareListView"), QStringLiteral("SS_SALT=SS_SALT"));
     const auto heading = [&](const char* name) {
@@ -310,6 +417,8 @@ TEST_F(JobPanel, FollowsWingAndWareList) {
     EXPECT_EQ(heading("WareListView"), QStringLiteral("Ware list x not found"));
     showTab(jobtabs::Wings);
     EXPECT_EQ(heading("WingsView"), QStringLiteral("Wing 9 not found"));
+    pick("ObjectView", 2); // its wing has the number of a job that ends another one
+    EXPECT_EQ(column("WingsView", 1), QStringList(3000, QStringLiteral("FIRST")));
 }
 
 TEST_F(JobPanel, WarnsOnceOfAnOldFile) {
@@ -319,6 +428,24 @@ TEST_F(JobPanel, WarnsOnceOfAnOldFile) {
     window->OpenFile(program("Jobs.txt"));
     pick("ObjectView", 0);
     EXPECT_EQ(script.Boxes.size(), 1U);
+}
+
+TEST_F(JobPanel, TellsOfAJobByItsNumber) {
+    startWith(120, {{{0, "41"}}, {{0, "42"}}});
+    script.Box(QStringLiteral("Do you really want to delete the selected object 41 ?"),
+               Answer::Yes);
+    QTest::keyClick(view("ObjectView"), Qt::Key_Delete);
+    EXPECT_EQ(field(0), "42");
+    EXPECT_EQ(child<QAction>("undo")->text(), QStringLiteral("&Undo deletion of 41"));
+    trigger("undo");
+    EXPECT_EQ(field(0), "41");
+    pick("ObjectView", 0);
+    QTest::mouseClick(box(boxRows[0], 0), Qt::LeftButton, {}, {5, 5});
+    EXPECT_EQ(child<QAction>("undo")->text(), QStringLiteral("&Undo change of 41"));
+    QObject::connect(panel, &ucJob::OnObjectChanged, window,
+                     [](const RecordPtr&) { throw KeshError(errnum::General, "test", "no room"); });
+    script.Box(QStringLiteral("Error in key handler: no room"));
+    QTest::mouseClick(box(boxRows[0], 1), Qt::LeftButton, {}, {5, 5});
 }
 
 TEST_F(JobPanel, AddsJobsOfTheVersionWithTheNextNumber) {
@@ -358,6 +485,21 @@ TEST_F(JobPanel, FiltersByOwnerClassAndNumber) {
     }
 }
 
+TEST_F(JobPanel, AFixedShipPassesByItsOwnClass) {
+    useShips(); // of classes M3, TL of pirates, TL of old files, and none that jobs know
+    startWith(120, {{{0, "1"}, {18, "SHIP_A"}, {27, "1"}},
+                    {{0, "2"}, {18, "SHIP_B"}, {21, "1"}},
+                    {{0, "3"}, {18, "F\xE4HRE"}},
+                    {{0, "4"}, {18, "SHIP_C"}, {21, "1"}},
+                    {{0, "5"}, {18, "SHIP_GONE"}, {21, "1"}}});
+    auto* shipClass = child<QComboBox>("cmbFilter1");
+    child<QRadioButton>("rbName2")->click();
+    for (const auto& [name, jobs] : {std::pair("M3", "1 - 5 - "), {"TL", "2 - 3 - "}}) {
+        shipClass->setCurrentIndex(shipClass->findText(QString::fromLatin1(name)));
+        EXPECT_EQ(column("ObjectView").join(QString()), QString::fromLatin1(jobs));
+    }
+}
+
 TEST_F(JobPanel, PastedJobsKeepFreeNumbersOnly) {
     startWith(120, {{{0, "7"}}, {{0, "9"}}});
     pickRows(0, 1);
@@ -372,9 +514,15 @@ TEST_F(JobPanel, PastedJobsKeepFreeNumbersOnly) {
 TEST_F(JobPanel, ReadOnlyItChangesNothing) {
     useShips();
     startWith(120, {{{18, "SHIP_A"}}});
-    panel->SetReadOnly(true);
-    pick("ObjectView", 0);
     const std::string before = record();
+    showTab(jobtabs::Ship);
+    QTest::keyClicks(ships()->lineEdit(), QStringLiteral("x"));
+    showTab(jobtabs::Weapons);
+    beginEntry("EquipView", QStringLiteral("Shield"), QStringLiteral("7"));
+    panel->SetReadOnly(true);
+    EXPECT_EQ(ships()->currentText(), QStringLiteral("Argon SHIP_A"));
+    QCoreApplication::sendPostedEvents({}, QEvent::DeferredDelete);
+    EXPECT_FALSE(editorIn("EquipView"));
     for (const BoxRow& row : boxRows) {
         showTab(row.Tab);
         QTest::mouseClick(box(row, 0), Qt::LeftButton);
@@ -385,12 +533,41 @@ TEST_F(JobPanel, ReadOnlyItChangesNothing) {
     QTest::keyClick(ships(), Qt::Key_Down);
     showTab(jobtabs::Sector);
     QTest::mouseDClick(child<QLineEdit>("SectorXEdit"), Qt::LeftButton); // a dialog would stay
-    showTab(jobtabs::Info);
-    selectField("PropView", QStringLiteral("Name"));
-    key("PropView", Qt::Key_F2);
-    EXPECT_FALSE(editorIn("PropView"));
+    for (const auto& [name, row, tab] : {std::tuple("PropView", "Name", jobtabs::Info),
+                                         {"EquipView", "Laser", jobtabs::Weapons}}) {
+        showTab(tab);
+        selectField(name, QString::fromLatin1(row));
+        key(name, Qt::Key_F2);
+        EXPECT_FALSE(editorIn(name));
+        key(name, Qt::Key_Return);
+    }
     EXPECT_EQ(record(), before);
     EXPECT_FALSE(child<QAction>("undo")->isEnabled());
+}
+
+/// With helper files that are broken in any way.
+TEST_F(JobPanel, TakesAnyClicksAndKeysAndUndoesThem) {
+    useShips();
+    for (const char* broken : {"", "49;99999;\r\n1;2;", "\xFF\xFE\x00;;;x"}) {
+        for (const char* name : {"TShips", "JobWings", "WareLists"})
+            write(QByteArray("data/types/").append(name).append(".txt").constData(), broken);
+        openGame();
+        startWith(117, {{{13, "5"}, {18, "SHIP_A"}}, {{14, "x"}}});
+        const std::string before = record() + record(1);
+        {
+            Monkey monkey(7);
+            for (int i = 0; i < 400; ++i) {
+                if (i % 40 == 0)
+                    showTab(i / 40 % tabs()->count());
+                monkey.Step(*panel);
+            }
+        }
+        static_cast<void>(panel->FinishEntry());
+        EXPECT_TRUE(child<QAction>("undo")->isEnabled());
+        while (child<QAction>("undo")->isEnabled())
+            trigger("undo");
+        EXPECT_EQ(record() + record(1), before);
+    }
 }
 
 /// Whatever stands in a file, it is shown, and saved as it is but for what was clicked.

@@ -8,6 +8,7 @@ namespace {
 
 constexpr auto settingsKey = "TE";
 constexpr auto lastFind = "LastFindString";
+constexpr int leastChoice = 8; ///< letters that a box of choices has room for
 
 } // namespace
 
@@ -79,7 +80,8 @@ void frmTXTEditor::OfferFilters() {
         box->setObjectName(QStringLiteral("cmbFilter%1").arg(m_choices.size()));
         box->setAccessibleName(ToScreen(filter.Name));
         box->setToolTip(tr("List only the records of one choice: %1").arg(ToScreen(filter.Name)));
-        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        box->setMinimumWidth(leastChoice * fontMetrics().averageCharWidth());
         box->addItem(ToScreen(filter.Any));
         for (const std::string& choice : filter.Choices)
             box->addItem(ToScreen(choice));

@@ -39,7 +39,8 @@ void frmTXTEditor::SelectFileType(std::int32_t OType) {
     }
     for (ObjectEditor* panel : m_editors)
         panel->setVisible(panel == m_activeEditor);
-    m_tab->setTabEnabled(panelTab, m_activeEditor != nullptr);
+    // The tab alone: on the way of the tab widget all that stands in the page would hear of it too.
+    m_tab->tabBar()->setTabEnabled(panelTab, m_activeEditor != nullptr);
     m_tab->setCurrentIndex(m_activeEditor ? panelTab : rawTab);
     ApplyPanelInfo(info);
     OfferFilters();

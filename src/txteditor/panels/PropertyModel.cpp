@@ -31,10 +31,22 @@ void PropertyModel::SetRows(QList<PropertyRow> Rows) {
         endResetModel();
         return;
     }
-    if (Rows == m_rows)
-        return;
-    m_rows = std::move(Rows);
-    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    const QList<PropertyRow> former = std::exchange(m_rows, std::move(Rows));
+    for (int row = 0; row < rowCount(); ++row)
+        TellChange(row, former.at(row));
+}
+
+/// Cell by cell: a view paints all of itself again for more than one.
+void PropertyModel::TellChange(int row, const PropertyRow& former) {
+    const auto tell = [&](int column) {
+        const QModelIndex cell = index(row, column);
+        Q_EMIT dataChanged(cell, cell);
+    };
+    const PropertyRow& now = m_rows.at(row);
+    if (now.Name != former.Name || now.Tip != former.Tip)
+        tell(0);
+    if (now != former)
+        tell(ValueColumn);
 }
 
 const PropertyRow* PropertyModel::Row(const QModelIndex& index) const {

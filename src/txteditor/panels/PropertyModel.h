@@ -44,5 +44,7 @@ public:
     [[nodiscard]] QModelIndex buddy(const QModelIndex& index) const override;
 
 private:
+    void TellChange(int row, const PropertyRow& former);
+
     QList<PropertyRow> m_rows;
 };

@@ -143,6 +143,20 @@ TEST_F(JobPanel, ShowsTheFieldsOfAJob) {
     EXPECT_FALSE(ships()->isEnabled());
 }
 
+TEST_F(JobPanel, ShowsAllOfALongSummary) {
+    Values set{{18, "A_SHIP_OF_SUCH_A_LONG_NAME_THAT_IT_FILLS_A_LINE_OF_ITS_OWN"}};
+    for (const BoxRow& row : boxRows)
+        for (int place = 0; place < row.Count; ++place)
+            set[row.First + place] = "1";
+    startWith(120, {set});
+    const auto* text = child<QLabel>("lblSummary");
+    const int wide = text->height();
+    window->resize(600, 500);
+    QCoreApplication::processEvents();
+    EXPECT_GT(text->height(), wide);
+    EXPECT_GE(text->height(), text->heightForWidth(text->width()));
+}
+
 TEST_F(JobPanel, EachBoxStandsForItsField) {
     for (const int size : sizes) {
         startWith(size, {{}});
@@ -206,15 +220,20 @@ TEST_F(JobPanel, KeepsWhatIsNeitherYesNorNoUntilAClick) {
         bool Shown;
         const char* Clicked;
     };
-    const Case cases[] = {
-        {"2", true, "0"}, {"yes", false, "1"}, {"", false, "1"}, {"0.5", true, "0"}};
+    const std::string longText = std::string(99, 'x') + "\xC3\xA4"; // the tip ends in a letter
+    const Case cases[] = {{"2", true, "0"},
+                          {"yes", false, "1"},
+                          {"", false, "1"},
+                          {"0.5", true, "0"},
+                          {longText.c_str(), false, "1"}};
     for (const Case& c : cases) {
         startWith(120, {{{78, c.Stored}}});
         showTab(jobtabs::Race);
         QCheckBox* race = child<QCheckBox>("chkOwnerRace0");
         EXPECT_EQ(race->isChecked(), c.Shown);
         EXPECT_EQ(field(78), c.Stored);
-        EXPECT_TRUE(race->toolTip().contains(QString::fromUtf8(c.Stored)));
+        EXPECT_TRUE(race->toolTip().contains(QString::fromUtf8(c.Stored).left(99)));
+        EXPECT_FALSE(race->toolTip().contains(QChar(0xC3)));
         QTest::keyClick(race, Qt::Key_Space);
         EXPECT_EQ(field(78), c.Clicked);
         trigger("undo");

@@ -61,7 +61,6 @@ std::size_t checkAll() {
 } // namespace
 
 std::vector<Row> checkRows(const Options& options) {
-    InitArrays();
     const std::filesystem::path root = options.directory / "game";
     const int megabytes = 2 * options.megabytes;
     std::string error;

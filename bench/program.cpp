@@ -3,7 +3,6 @@
 #include "core/clsSettings.h"
 #include "core/mdlCommon.h"
 #include "tdata/clsArchive.h"
-#include "tdata/mdlKeshConst.h"
 #include "tests/support/refusinginterface.h"
 #include "textres/clsDescServer.h"
 
@@ -12,7 +11,6 @@ namespace bench {
 Program::Program(const Options& options) {
     qputenv("KESH_CONFIG_DIR", QByteArray::fromStdString(options.directory.string()));
     qputenv("KESH_STATE_DIR", QByteArray::fromStdString(options.directory.string()));
-    InitArrays();
     Settings = std::make_unique<clsSettings>();
     DescServer = std::make_unique<clsDescServer>();
     Archive = std::make_unique<clsArchive>();

@@ -7,7 +7,6 @@
 #include "tdata/mdlShipLabels.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
@@ -16,17 +15,6 @@ constexpr std::int32_t WareClassFromEnd = 6;
 constexpr std::string_view NoName = "N/A"; ///< next to the tail, and at the ID
 const FieldTable NoFields{};
 const TextTable NoSubtypes{};
-
-// By type code.
-constexpr std::array<const FieldTable*, 23> Tables{
-    &NoFields,           &ShipFieldNames,    &ShieldFieldNames,
-    &LaserFieldNames,    &BulletFieldNames,  &MissileFieldNames,
-    &WareFieldNames,     &FactoryFieldNames, &DefaultFieldNames,
-    &CockpitFieldNames,  &DockFieldNames,    &DefaultFieldNames,
-    &DefaultFieldNames,  &PlanetFieldNames,  &SunFieldNames,
-    &AsteroidFieldNames, &DebrisFieldNames,  &BackgroundFieldNames,
-    &NebulaFieldNames,   &JobFieldNames,     &NoFields,
-    &NoFields,           &NoFields};
 
 struct Symbolic {
     std::int32_t Type;
@@ -65,8 +53,8 @@ const Field* FieldTable::Find(std::int32_t index, std::int32_t size) const noexc
 }
 
 const FieldTable& FieldsOf(std::int32_t Type) {
-    const bool known = Type >= 0 && Type < std::ssize(Tables);
-    return known ? *Tables[static_cast<std::size_t>(Type)] : NoFields;
+    const ObjectTypeKey* const row = ObjectTypeOf(Type);
+    return row != nullptr && row->Fields != nullptr ? *row->Fields : NoFields;
 }
 
 std::string CommonFieldName(std::int32_t Size, std::int32_t Index) {

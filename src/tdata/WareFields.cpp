@@ -2,6 +2,7 @@
 
 #include "tdata/FieldLookup.h"
 #include "tdata/RecordNames.h"
+#include "tdata/WareRows.h"
 #include "tdata/clsArchive.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshWare.h"
@@ -23,15 +24,10 @@ ChoiceList RecordList(std::string_view name, std::string (*rowOf)(const clsTXTOb
     return list;
 }
 
-bool HasIcon(std::int32_t type) {
-    return type == otype::Laser || type == otype::Missiles || type == otype::Factories ||
-           type == otype::Docks;
-}
-
 } // namespace
 
 void WareFields::LoadFiles(std::int32_t Type) {
-    if (HasIcon(Type) && m_icons.Names().empty() && m_icons.Load())
+    if (IconField(Type) >= 0 && m_icons.Names().empty() && m_icons.Load())
         List(warelist::Icons).Rows = m_icons.Names();
     if (Type == otype::Laser && List(Bullets).Rows.empty())
         List(Bullets) = RecordList("TBullets", [](const clsTXTObject& bullet) {

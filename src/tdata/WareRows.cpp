@@ -44,24 +44,36 @@ constexpr Part PlanetView[] = {
 
 constexpr Part NebulaView[] = {Field(0, 12), {Kind::DustBody, 13, 27}, Field(27, Last)};
 
+using namespace waretrait;
+
 struct View {
     std::int32_t Type;
     std::span<const Part> Parts;
-    bool Description;
+    std::uint32_t Traits;
     std::int32_t Icon = -1;
 };
 constexpr View Views[] = {
-    {otype::Shields, ShieldView, false},       {otype::Laser, GeneralView, true, 12},
-    {otype::Bullets, BulletView, false},       {otype::Missiles, GeneralView, true, 25},
-    {otype::Factories, GeneralView, true, 18}, {otype::Docks, GeneralView, true, 17},
-    {otype::Planets, PlanetView, true},        {otype::Nebula, NebulaView, true},
+    {otype::Shields, ShieldView, Plain | Creatable | Names},
+    {otype::Laser, GeneralView, Plain | Creatable | Names | Description, 12},
+    {otype::Bullets, BulletView, Plain | Creatable},
+    {otype::Missiles, GeneralView, Plain | Creatable | Names | Description, 25},
+    {otype::Ware, GeneralView, Plain | Creatable | Names | Description},
+    {otype::Factories, GeneralView, Plain | Creatable | Names | Races | Description, 18},
+    {otype::Special, GeneralView, Creatable | Names | Description},
+    {otype::Docks, GeneralView, Creatable | Names | Description, 17},
+    {otype::Wrecks, GeneralView, Names | Description},
+    {otype::Gates, GeneralView, Names | Description},
+    {otype::Planets, PlanetView, Names | Description},
+    {otype::Suns, GeneralView, Names | Description},
+    {otype::Asteroids, GeneralView, Names | Description},
+    {otype::Debris, GeneralView, Names | Description},
+    {otype::Backgrounds, GeneralView, Names | Description},
+    {otype::Nebula, NebulaView, Names | Description},
 };
-constexpr View AnyOther{otype::None, GeneralView, true};
 
-const View& ViewOf(std::int32_t type) {
-    const auto* found = std::find_if(std::begin(Views), std::end(Views),
-                                     [type](const View& view) { return view.Type == type; });
-    return found == std::end(Views) ? AnyOther : *found;
+const View* ViewOf(std::int32_t type) {
+    const auto* found = std::ranges::find(Views, type, &View::Type);
+    return found == std::end(Views) ? nullptr : found;
 }
 
 void Append(std::vector<WareRow>& rows, const Part& part, std::int32_t size) {
@@ -89,25 +101,27 @@ std::int32_t FirstColorField(const clsTXTObject& record) {
 } // namespace
 
 bool HasWareRows(std::int32_t Type) {
-    return Type >= otype::Shields && Type <= otype::Nebula && Type != otype::Cockpits;
+    return ViewOf(Type) != nullptr;
+}
+
+bool HasWareTrait(std::int32_t Type, std::uint32_t Trait) {
+    const View* const view = ViewOf(Type);
+    return view != nullptr && (view->Traits & Trait) != 0;
 }
 
 std::vector<WareRow> WareRows(const clsTXTObject& Record) {
-    std::vector<WareRow> rows;
-    if (Record.size() == 0)
-        return rows;
-    rows = {{Kind::ID}, {Kind::Name}};
-    for (const Part& part : ViewOf(Record.otype).Parts)
+    const View* const view = ViewOf(Record.otype);
+    if (view == nullptr || Record.size() == 0)
+        return {};
+    std::vector<WareRow> rows{{Kind::ID}, {Kind::Name}};
+    for (const Part& part : view->Parts)
         Append(rows, part, Record.size());
     return rows;
 }
 
-bool ShowsDescription(std::int32_t Type) {
-    return ViewOf(Type).Description;
-}
-
 std::int32_t IconField(std::int32_t Type) {
-    return ViewOf(Type).Icon;
+    const View* const view = ViewOf(Type);
+    return view != nullptr ? view->Icon : -1;
 }
 
 std::optional<std::string> ChargeTime(const clsTXTObject& Shield) {

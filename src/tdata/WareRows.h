@@ -18,12 +18,21 @@ struct WareRow {
     friend bool operator==(const WareRow&, const WareRow&) = default;
 };
 
+/// What an editor offers for a type, by bit.
+namespace waretrait {
+inline constexpr std::uint32_t Names = 1; ///< the list may show names
+inline constexpr std::uint32_t Races = 2; ///< or races
+inline constexpr std::uint32_t Creatable = 4;
+inline constexpr std::uint32_t Description = 8; ///< the view ends with that of the record
+inline constexpr std::uint32_t Plain = 16;      ///< served without being prepared for the type
+} // namespace waretrait
+
 /// True for the types whose records have these rows.
 [[nodiscard]] bool HasWareRows(std::int32_t Type);
+/// True for such a type with that trait.
+[[nodiscard]] bool HasWareTrait(std::int32_t Type, std::uint32_t Trait);
 /// Rows of a record; the ID, which is its last value, stands in front. None for an empty record.
 [[nodiscard]] std::vector<WareRow> WareRows(const clsTXTObject& Record);
-/// True if the type's view ends with the description of the record.
-[[nodiscard]] bool ShowsDescription(std::int32_t Type);
 /// The field that holds the key of the icon to show; -1 if the type has none.
 [[nodiscard]] std::int32_t IconField(std::int32_t Type);
 

@@ -2,6 +2,7 @@
 
 #include "core/mdlComFunctions.h"
 #include "lornfd/paths.h"
+#include "tdata/FieldTable.h"
 
 #include <algorithm>
 #include <array>
@@ -10,36 +11,32 @@ namespace {
 
 // In search order: a name that holds several keys gets the first.
 constexpr std::array<ObjectTypeKey, 22> Keys{{
-    {"JobWings", otype::JobWings, ""},
-    {"Jobs", otype::Jobs, ""},
-    {"WareLists", otype::WareLists, ""},
-    {"Wrecks", otype::Wrecks, "Wrecks"},
-    {"TBullets", otype::Bullets, "Bullets"},
-    {"TCockpits", otype::Cockpits, ""},
-    {"TDocks", otype::Docks, "Docks"},
-    {"TFactories", otype::Factories, "Factories"},
-    {"TLaser", otype::Laser, "Lasers"},
-    {"TMissiles", otype::Missiles, "Missiles"},
-    {"TShields", otype::Shields, "Shields"},
-    {"TShips", otype::Ships, ""},
-    {"TSpecial", otype::Special, "Special"},
-    {"TWare", otype::Ware, "Wares"},
-    {"TGates", otype::Gates, "Gates"},
-    {"TAsteroids", otype::Asteroids, "Asteroids"},
-    {"TSuns", otype::Suns, "Suns"},
-    {"TPlanets", otype::Planets, "Planets"},
-    {"TDebris", otype::Debris, ""},
-    {"IconData", otype::IconData, ""},
-    {"TBackgrounds", otype::Backgrounds, "Background"},
-    {"TNebula", otype::Nebula, "Nebula"},
+    {"JobWings", otype::JobWings},
+    {"Jobs", otype::Jobs, "", 0, &JobFieldNames},
+    {"WareLists", otype::WareLists},
+    {"Wrecks", otype::Wrecks, "Wrecks", 20, &DefaultFieldNames},
+    {"TBullets", otype::Bullets, "Bullets", 47, &BulletFieldNames},
+    {"TCockpits", otype::Cockpits, "", 19, &CockpitFieldNames},
+    {"TDocks", otype::Docks, "Docks", 28, &DockFieldNames},
+    {"TFactories", otype::Factories, "Factories", 29, &FactoryFieldNames},
+    {"TLaser", otype::Laser, "Lasers", 23, &LaserFieldNames},
+    {"TMissiles", otype::Missiles, "Missiles", 37, &MissileFieldNames},
+    {"TShields", otype::Shields, "Shields", 21, &ShieldFieldNames},
+    {"TShips", otype::Ships, "", 65, &ShipFieldNames},
+    {"TSpecial", otype::Special, "Special", 18, &DefaultFieldNames},
+    {"TWare", otype::Ware, "Wares", 17, &WareFieldNames},
+    {"TGates", otype::Gates, "Gates", 18, &DefaultFieldNames},
+    {"TAsteroids", otype::Asteroids, "Asteroids", 21, &AsteroidFieldNames},
+    {"TSuns", otype::Suns, "Suns", 19, &SunFieldNames},
+    {"TPlanets", otype::Planets, "Planets", 37, &PlanetFieldNames},
+    {"TDebris", otype::Debris, "Debris", 21, &DebrisFieldNames},
+    {"IconData", otype::IconData},
+    {"TBackgrounds", otype::Backgrounds, "Background", 38, &BackgroundFieldNames},
+    {"TNebula", otype::Nebula, "Nebula", 36, &NebulaFieldNames},
 }};
 
 constexpr std::array<std::string_view, 6> WareFiles{"TWareB", "TWareE", "TWareF",
                                                     "TWareM", "TWareN", "TWareT"};
-
-// By type code, 0 to 18.
-constexpr std::array<std::int32_t, 19> Sizes{0,  65, 21, 23, 47, 37, 17, 29, 18, 19,
-                                             28, 20, 18, 37, 19, 21, 21, 38, 36};
 
 constexpr std::string_view HeadNames[] = {"Body file",  "Picture ID", "Rotation X",
                                           "Rotation Y", "Rotation Z", "Galaxy subtype",
@@ -60,18 +57,17 @@ constexpr std::string_view LanguageRows[] = {"English", "German", "French", "Cze
 
 constexpr std::string_view Prefixes[] = {"", "K", "M", "G", "T"};
 
-// By type code; filled once from the keys, which stand in another order.
-std::array<std::string_view, 23> NamesByCode;
-
 } // namespace
 
-void InitArrays() {
-    for (const auto& key : Keys)
-        NamesByCode[static_cast<std::size_t>(key.Code)] = key.Key;
-}
+void InitArrays() {}
 
 std::span<const ObjectTypeKey> ObjectTypeKeys() {
     return Keys;
+}
+
+const ObjectTypeKey* ObjectTypeOf(std::int32_t Type) {
+    const auto found = std::ranges::find(Keys, Type, &ObjectTypeKey::Code);
+    return found == Keys.end() ? nullptr : &*found;
 }
 
 std::span<const std::string_view> WareFileNames() {
@@ -92,12 +88,13 @@ bool IsTFileName(std::string_view Path) {
 }
 
 std::string_view ObjectTypeKeyOf(std::int32_t Type) {
-    return Type >= 0 && Type < std::ssize(NamesByCode) ? NamesByCode[static_cast<std::size_t>(Type)]
-                                                       : std::string_view();
+    const ObjectTypeKey* const row = ObjectTypeOf(Type);
+    return row != nullptr ? row->Key : std::string_view();
 }
 
 std::int32_t ObjectSize(std::int32_t Type) {
-    return Type >= 0 && Type < std::ssize(Sizes) ? Sizes[static_cast<std::size_t>(Type)] : 0;
+    const ObjectTypeKey* const row = ObjectTypeOf(Type);
+    return row != nullptr ? row->Size : 0;
 }
 
 std::span<const std::int32_t> LanguageIDs() {

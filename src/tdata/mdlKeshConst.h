@@ -36,16 +36,23 @@ inline constexpr std::int32_t WareLists = 21;
 inline constexpr std::int32_t IconData = 22;
 } // namespace otype
 
-/// A file key and what it stands for, in search order: the first key found anywhere in a name wins.
+struct FieldTable;
+
+/// What is known of an object type, a row a type, in search order: the first key found anywhere in
+/// a file's name wins.
 struct ObjectTypeKey {
-    std::string_view Key;
+    std::string_view Key; ///< "TShips"
     std::int32_t Code;
-    std::string_view PanelTitle;
+    std::string_view PanelTitle = {};
+    std::int32_t Size = 0;              ///< fields of a record; 0 if that is not fixed
+    const FieldTable* Fields = nullptr; ///< null if it names none
 };
 std::span<const ObjectTypeKey> ObjectTypeKeys();
+/// The row of a type; null for an unknown code.
+const ObjectTypeKey* ObjectTypeOf(std::int32_t Type);
 std::span<const std::string_view> WareFileNames();
 
-/// Fills what the tables derive from each other; called once at start-up.
+/// A step of the start that is known by its name; the tables are constants, so it does nothing.
 void InitArrays();
 /// Type code for a file's name without regard to case and extension; 0 if it is no object file.
 std::int32_t ObjectTypeFromFile(std::string_view Path);

@@ -9,7 +9,6 @@
 #include "keshvfs/keshvfs.h"
 #include "support/scriptedinterface.h"
 #include "tdata/clsArchive.h"
-#include "tdata/mdlKeshConst.h"
 #include "textres/clsDescServer.h"
 #include "txteditor/frmTXTEditor.h"
 
@@ -31,7 +30,6 @@ void meanwhile(std::function<void(Window&)> use) {
 class AppTest : public Surroundings {
 protected:
     AppTest() {
-        InitArrays();
         Settings = std::make_unique<clsSettings>();
         DescServer = std::make_unique<clsDescServer>();
         Archive = std::make_unique<clsArchive>();

@@ -1,7 +1,6 @@
 // What a command line asks for.
 #include "app/Requests.h"
 #include "keshobjects/keshobjects.h"
-#include "tdata/mdlKeshConst.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +13,6 @@ struct KindCase {
 };
 
 TEST(Requests, TheTypeDecidesElseTheName) {
-    InitArrays();
     const KindCase cases[] = {
         {"x", "-TFile", FileKind::TFile},
         {"x", "/TFILE", FileKind::TFile},

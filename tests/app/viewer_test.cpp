@@ -1,6 +1,7 @@
 // The external viewer, and what lists and edits are asked.
 #include "apptest.h"
 #include "lornfd/lornfd.h"
+#include "tdata/mdlKeshConst.h"
 #include "txteditor/ExportObjectToViewer.h"
 #include "ui/ExternalViewer.h"
 #include "ui/ListHelpers.h"

@@ -29,7 +29,6 @@ struct Input {
 class ShipDialogs : public testing::Test {
 protected:
     ShipDialogs() {
-        InitArrays();
         std::string types = "20;5;";
         for (const char* id : {"SC_C", "SC_a", "12", "SC_B", "SC_a"})
             types += repeat("0;", 18) + id + ";";

@@ -9,7 +9,6 @@
 #include "lornfd/faults.h"
 #include "lornfd/lornfd.h"
 #include "support/scriptedinterface.h"
-#include "tdata/mdlKeshConst.h"
 #include "txteditor/frmEdit.h"
 #include "txteditor/frmTXTEditor.h"
 
@@ -18,7 +17,6 @@
 class EditorTest : public Surroundings {
 protected:
     EditorTest() {
-        InitArrays();
         Settings = std::make_unique<clsSettings>();
         Settings->SetDataRoot(program("data"));
     }

@@ -4,7 +4,6 @@
 #include "commands.h"
 #include "core/mdlCommon.h"
 #include "lornfd/lornfd.h"
-#include "tdata/mdlKeshConst.h"
 
 #include <CLI/CLI.hpp>
 
@@ -203,7 +202,6 @@ ExitCode run(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? Done : WrongUsage;
     }
-    InitArrays();
     for (const Row& row : Commands)
         if (app.got_subcommand(row.name))
             return execute(row, view, arguments);

@@ -25,14 +25,9 @@ constexpr std::int32_t supportedNebula = 14;
 
 constexpr int mostIconSide = 256; ///< pixels; a broken table may ask for the whole picture
 
-/// What a panel of a type is called; "Debris" has no title but its key's, behind the "T".
 std::string titleOf(std::int32_t type) {
-    if (type == otype::Debris)
-        return std::string(ObjectTypeKeyOf(type).substr(1));
-    for (const ObjectTypeKey& key : ObjectTypeKeys())
-        if (key.Code == type)
-            return std::string(key.PanelTitle);
-    return {};
+    const ObjectTypeKey* const row = ObjectTypeOf(type);
+    return row != nullptr ? std::string(row->PanelTitle) : std::string();
 }
 
 /// A row that is worked out from several fields.
@@ -62,7 +57,7 @@ constexpr ComputedRow computedRows[] = {
 // The file
 
 bool ucWare::LornQueryInterface(std::int32_t OType) const {
-    return OType >= otype::Shields && OType <= otype::Factories;
+    return HasWareTrait(OType, waretrait::Plain);
 }
 
 bool ucWare::LornQueryInterfaceEx(std::int32_t& OType) {
@@ -102,14 +97,8 @@ std::string ucWare::PageName(std::int32_t OType) const {
 }
 
 std::int32_t ucWare::LornQueryInfo(std::int32_t OType) const {
-    switch (OType) {
-    case otype::Factories:
-        return panelinfo::HasNames | panelinfo::HasRaces;
-    case otype::Bullets:
-        return 0;
-    default:
-        return panelinfo::HasNames;
-    }
+    return (HasWareTrait(OType, waretrait::Names) ? panelinfo::HasNames : 0) |
+           (HasWareTrait(OType, waretrait::Races) ? panelinfo::HasRaces : 0);
 }
 
 bool ucWare::Validate(std::string& Text) {
@@ -144,9 +133,7 @@ std::string ucWare::GetResourceName(const RecordPtr& Object) const {
 }
 
 RecordPtr ucWare::CreateObject(std::int32_t OType, clsTxtParser& Parser, const RecordPtr& Before) {
-    const bool creatable =
-        (OType >= otype::Shields && OType <= otype::Special) || OType == otype::Docks;
-    if (!creatable) {
+    if (!HasWareTrait(OType, waretrait::Creatable)) {
         SetLastError(tr("Objects of this type cannot be created.").toStdString());
         return {};
     }
@@ -221,7 +208,7 @@ PropertyRow ucWare::ComputedRowFor(WareRow::Kind What) const {
 void ucWare::ShowDescription() {
     m_description->clear();
     const RecordPtr& record = CurrentObject();
-    if (!record || record->size() == 0 || !ShowsDescription(record->otype))
+    if (!record || record->size() == 0 || !HasWareTrait(record->otype, waretrait::Description))
         return;
     const auto id =
         record->size() > CommonNameField ? record->ValueInteger(CommonNameField) : std::nullopt;

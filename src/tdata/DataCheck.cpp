@@ -2,6 +2,7 @@
 
 #include "lornfd/paths.h"
 #include "tdata/FieldLookup.h"
+#include "tdata/JobFields.h"
 #include "tdata/clsShip.h"
 #include "tdata/clsTurret.h"
 #include "tdata/mdlKeshConst.h"
@@ -80,17 +81,27 @@ private:
 };
 
 const Checker::Rule Checker::Rules[] = {
-    {otype::Ships, 5, &Checker::ShipClass},  {otype::Ships, 22, &Checker::Shield},
-    {otype::Ships, 30, &Checker::WareList},  {otype::Ships, 44, &Checker::WareClass},
-    {otype::Ships, 45, &Checker::Race},      {otype::Ships, 52, &Checker::ShipType},
-    {otype::Laser, 5, &Checker::Subtype},    {otype::Laser, 9, &Checker::Bullet},
-    {otype::Missiles, 5, &Checker::Subtype}, {otype::Factories, 5, &Checker::Subtype},
-    {otype::Factories, 13, &Checker::Race},  {otype::Docks, 5, &Checker::Subtype},
-    {otype::Docks, 13, &Checker::Race},      {otype::Wrecks, 5, &Checker::Subtype},
-    {AnyFramed, 6, &Checker::ObjectName},    {AnyFramed, -6, &Checker::WareClass},
-    {otype::Jobs, 6, &Checker::TextId},      {otype::Jobs, 8, &Checker::TextId},
-    {otype::Jobs, 13, &Checker::JobWing},    {otype::Jobs, 14, &Checker::WareList},
-    {otype::Jobs, 18, &Checker::ShipID},
+    {otype::Ships, shipfield::Class, &Checker::ShipClass},
+    {otype::Ships, shipfield::Shield, &Checker::Shield},
+    {otype::Ships, shipfield::WareList, &Checker::WareList},
+    {otype::Ships, shipfield::CargoClass, &Checker::WareClass},
+    {otype::Ships, shipfield::Race, &Checker::Race},
+    {otype::Ships, shipfield::Type, &Checker::ShipType},
+    {otype::Laser, 5, &Checker::Subtype},
+    {otype::Laser, 9, &Checker::Bullet},
+    {otype::Missiles, 5, &Checker::Subtype},
+    {otype::Factories, 5, &Checker::Subtype},
+    {otype::Factories, 13, &Checker::Race},
+    {otype::Docks, 5, &Checker::Subtype},
+    {otype::Docks, 13, &Checker::Race},
+    {otype::Wrecks, 5, &Checker::Subtype},
+    {AnyFramed, 6, &Checker::ObjectName},
+    {AnyFramed, -6, &Checker::WareClass},
+    {otype::Jobs, jobfield::Description, &Checker::TextId},
+    {otype::Jobs, jobfield::ShipName, &Checker::TextId},
+    {otype::Jobs, jobfield::Wing, &Checker::JobWing},
+    {otype::Jobs, jobfield::WareList, &Checker::WareList},
+    {otype::Jobs, jobfield::Ship, &Checker::ShipID},
 };
 
 /// Jobs and wings are known by their first value, ware lists and the root of icons by their place

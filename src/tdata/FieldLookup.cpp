@@ -1,6 +1,8 @@
 #include "tdata/FieldLookup.h"
 
 #include "tdata/RecordNames.h"
+#include "tdata/clsShip.h"
+#include "tdata/clsTurret.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshJobs.h"
 #include "tdata/mdlKeshShips.h"
@@ -35,12 +37,10 @@ const Symbolic* SymbolicOf(std::int32_t type) {
 
 /// The name of the value that counts gun groups moves with the number of turrets.
 bool CountsGunGroups(const clsTXTObject& record, std::int32_t index) {
-    constexpr std::int32_t turretCount = 53;
-    constexpr std::int64_t sections = 54;
-    if (record.otype != otype::Ships || record.size() <= turretCount)
+    if (record.otype != otype::Ships || record.size() <= clsShip::FieldTurretCount)
         return false;
-    const auto turrets = record.ValueInteger(turretCount);
-    return turrets && sections + 4 * std::int64_t{*turrets} == index;
+    const auto turrets = record.ValueInteger(clsShip::FieldTurretCount);
+    return turrets && clsShip::SectionTurrets + std::int64_t{clsTurret::size()} * *turrets == index;
 }
 
 } // namespace

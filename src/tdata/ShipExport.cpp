@@ -5,6 +5,7 @@
 #include "keshobjects/keshobjects.h"
 #include "lornfd/lornfd.h"
 #include "tdata/FieldLookup.h"
+#include "tdata/mdlKeshShips.h"
 
 namespace {
 
@@ -32,16 +33,19 @@ std::string SpeedCell(const std::optional<float>& speed, const Row& row, std::in
 }
 
 std::string LeastSpeed(const Row& row) {
-    return SpeedCell(ShipSpeed(row.Ship), row, 7);
+    return SpeedCell(ShipSpeed(row.Ship), row, shipfield::Speed);
 }
 
 std::string MostSpeed(const Row& row) {
-    return SpeedCell(TunedShipSpeed(row.Ship), row, ShipSpeed(row.Ship) ? 26 : 7);
+    return SpeedCell(TunedShipSpeed(row.Ship), row,
+                     ShipSpeed(row.Ship) ? shipfield::EngineTuning : shipfield::Speed);
 }
 
 std::string Acceleration(const Row& row) {
     std::string text;
-    return row.Fields.Translate(row.Ship, 8, text, true) ? text : SpellingAt(row.Ship, 8);
+    return row.Fields.Translate(row.Ship, shipfield::Acceleration, text, true)
+               ? text
+               : SpellingAt(row.Ship, shipfield::Acceleration);
 }
 
 std::string ShieldEnergy(const Row& row) {
@@ -56,16 +60,16 @@ constexpr Column Columns[] = {
     {"Class", [](const Row& row) { return row.Fields.Class(row.Ship); }},
     {"Speed - Min [m/s]", LeastSpeed},
     {"Speed - Max [m/s]", MostSpeed},
-    {"Tunning - Engine", Stored<26>},
-    {"Tunning - Rudder", Stored<27>},
+    {"Tunning - Engine", Stored<shipfield::EngineTuning>},
+    {"Tunning - Rudder", Stored<shipfield::RudderTuning>},
     {"Acceleration [m/s]", Acceleration},
-    {"Reactor", Stored<13>},
-    {"Weapons - Energy", Stored<20>},
-    {"Weapons - Recharge rate", Stored<21>},
+    {"Reactor", Stored<shipfield::Reactor>},
+    {"Weapons - Energy", Stored<shipfield::Energy>},
+    {"Weapons - Recharge rate", Stored<shipfield::Recharge>},
     {"Shield - Energy [KJ]", ShieldEnergy},
-    {"Shield - Count", Stored<23>},
-    {"Cargo", Stored<29>},
-    {"Hull strength", Stored<46>},
+    {"Shield - Count", Stored<shipfield::ShieldCount>},
+    {"Cargo", Stored<shipfield::CargoMax>},
+    {"Hull strength", Stored<shipfield::Hull>},
 };
 
 /// The text in one line and one cell.

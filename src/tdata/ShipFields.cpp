@@ -15,17 +15,6 @@
 
 namespace {
 
-constexpr std::int32_t ClassField = 5;
-constexpr std::int32_t SpeedField = 7;
-constexpr std::int32_t ReactorField = 13;
-constexpr std::int32_t EnergyField = 20;
-constexpr std::int32_t ShieldField = 22;
-constexpr std::int32_t ShieldCountField = 23;
-constexpr std::int32_t EngineTuningField = 26;
-constexpr std::int32_t RaceField = 45;
-constexpr std::int32_t VariationField = 50;
-constexpr std::int32_t TypeField = 52;
-
 // Of a shield
 constexpr std::int32_t NeedField = 7;
 constexpr std::int32_t StrengthField = 8;
@@ -90,13 +79,13 @@ std::optional<KeshValue> ReadMetres(const StoredField&, std::string_view text) {
 }
 
 std::optional<std::string> ShowRate(const StoredField& field, bool) {
-    const auto energy = NumberAt(field.Record, EnergyField);
+    const auto energy = NumberAt(field.Record, shipfield::Energy);
     const auto rate = field.Number();
     return energy && rate ? FixedText(*energy * *rate, 3) : std::nullopt;
 }
 
 std::optional<KeshValue> ReadRate(const StoredField& field, std::string_view text) {
-    const auto energy = NumberAt(field.Record, EnergyField);
+    const auto energy = NumberAt(field.Record, shipfield::Energy);
     const auto entered = EnteredNumber(text);
     if (!energy || !entered || *entered == 0)
         return {};
@@ -119,19 +108,19 @@ std::optional<std::string> ShowType(const StoredField& field, bool) {
 }
 
 constexpr FieldConversion Conversions[] = {
-    {2, ShowTurns, ReadTurns, " rot/min"},
-    {3, ShowTurns, ReadTurns, " rot/min"},
-    {4, ShowTurns, ReadTurns, " rot/min"},
-    {ClassField, ShowClass, ReadChoice, "", Classes},
-    {SpeedField, ShowSpeed, ReadMetres, " m/s"},
-    {8, ShowAcceleration, ReadMetres, " m/s"},
-    {ReactorField, ShowNumber, ReadNumber, " kW"},
-    {EnergyField, ShowNumber, ReadRounded, " W"},
-    {21, ShowRate, ReadRate, " W/s"},
-    {ShieldField, ShowChoice, ReadChoice, "", ShieldTypes},
-    {44, ShowChoice, ReadChoice, "", CargoSizes},
-    {RaceField, ShowChoice, ReadChoice, "", Races},
-    {TypeField, ShowType, ReadChoice, "", Types},
+    {shipfield::Yaw, ShowTurns, ReadTurns, " rot/min"},
+    {shipfield::Pitch, ShowTurns, ReadTurns, " rot/min"},
+    {shipfield::Roll, ShowTurns, ReadTurns, " rot/min"},
+    {shipfield::Class, ShowClass, ReadChoice, "", Classes},
+    {shipfield::Speed, ShowSpeed, ReadMetres, " m/s"},
+    {shipfield::Acceleration, ShowAcceleration, ReadMetres, " m/s"},
+    {shipfield::Reactor, ShowNumber, ReadNumber, " kW"},
+    {shipfield::Energy, ShowNumber, ReadRounded, " W"},
+    {shipfield::Recharge, ShowRate, ReadRate, " W/s"},
+    {shipfield::Shield, ShowChoice, ReadChoice, "", ShieldTypes},
+    {shipfield::CargoClass, ShowChoice, ReadChoice, "", CargoSizes},
+    {shipfield::Race, ShowChoice, ReadChoice, "", Races},
+    {shipfield::Type, ShowType, ReadChoice, "", Types},
     {-6, ShowChoice, ReadChoice, "", CargoSizes},
 };
 
@@ -194,7 +183,7 @@ std::optional<float> Single(double number) {
 
 /// The text of a variation of a ship; empty where it has none.
 std::string VariationName(const clsTXTObject& ship) {
-    const auto variation = IntegerAt(ship, VariationField);
+    const auto variation = IntegerAt(ship, shipfield::Variation);
     if (!variation || *variation <= 0 ||
         *variation > std::numeric_limits<std::int32_t>::max() - FirstVariation)
         return {};
@@ -204,13 +193,13 @@ std::string VariationName(const clsTXTObject& ship) {
 } // namespace
 
 std::optional<float> ShipSpeed(const clsTXTObject& Ship) {
-    const auto units = NumberAt(Ship, SpeedField);
+    const auto units = NumberAt(Ship, shipfield::Speed);
     return units ? Single(*units / UnitsPerMetre) : std::nullopt;
 }
 
 std::optional<float> TunedShipSpeed(const clsTXTObject& Ship) {
     const auto speed = ShipSpeed(Ship);
-    const auto tunings = NumberAt(Ship, EngineTuningField);
+    const auto tunings = NumberAt(Ship, shipfield::EngineTuning);
     return speed && tunings ? Single(*speed + *tunings * (double{*speed} / 10)) : std::nullopt;
 }
 
@@ -247,7 +236,7 @@ bool ShipFields::Symbolic() const noexcept {
 }
 
 RecordPtr ShipFields::Shield(const clsTXTObject& Ship) const {
-    const auto index = IntegerAt(Ship, ShieldField);
+    const auto index = IntegerAt(Ship, shipfield::Shield);
     return index ? m_shields->FindIndex(*index) : nullptr;
 }
 
@@ -264,11 +253,11 @@ std::string ShipFields::ResourceName(const clsTXTObject& Ship) const {
 }
 
 std::string ShipFields::Race(const clsTXTObject& Ship) const {
-    return Shown(Ship, RaceField);
+    return Shown(Ship, shipfield::Race);
 }
 
 std::string ShipFields::Class(const clsTXTObject& Ship) const {
-    return Shown(Ship, ClassField);
+    return Shown(Ship, shipfield::Class);
 }
 
 std::string ShipFields::Shown(const clsTXTObject& Ship, std::int32_t Index) const {
@@ -286,11 +275,11 @@ std::string ShipFields::RechargeTime(const clsTXTObject& Ship) const {
     const RecordPtr shield = Shield(Ship);
     if (!shield)
         return {};
-    const auto count = IntegerAt(Ship, ShieldCountField);
+    const auto count = IntegerAt(Ship, shipfield::ShieldCount);
     const auto strength = IntegerAt(*shield, StrengthField);
     const auto need = IntegerAt(*shield, NeedField);
     const auto efficiency = NumberAt(*shield, EfficiencyField);
-    const auto reactor = IntegerAt(Ship, ReactorField);
+    const auto reactor = IntegerAt(Ship, shipfield::Reactor);
     if (!count || !strength || !need || !efficiency || !reactor)
         return {};
     const auto seconds = RechargeSeconds({*count, *strength, *need, *efficiency, *reactor});

@@ -2,6 +2,7 @@
 
 #include "core/KeshError.h"
 #include "core/mdlCommon.h"
+#include "tdata/clsShip.h"
 #include "tdata/mdlKeshConst.h"
 
 #include <algorithm>
@@ -21,11 +22,10 @@ using RecordBlock = std::vector<clsTXTObject, keshobjects::BigAllocator<clsTXTOb
 /// of what was taken. True if the walk came to the record's end.
 template <class Take, class CountAt>
 bool WalkShip(const Take& take, const CountAt& countAt) {
-    constexpr std::int64_t head = 55;
-    constexpr std::int64_t tail = 10;
+    constexpr std::int64_t head = clsShip::SectionTurrets + 1; ///< with the count of gun groups
     if (!take(head))
         return false;
-    const std::int64_t turrets = std::max(0, countAt(head - 2));
+    const std::int64_t turrets = std::max(0, countAt(clsShip::FieldTurretCount));
     if (!take(4 * turrets))
         return false;
     const std::int32_t groups = countAt(head - 1 + 4 * turrets);
@@ -38,7 +38,7 @@ bool WalkShip(const Take& take, const CountAt& countAt) {
             return false;
         at += 4 + 6 * guns;
     }
-    return take(tail);
+    return take(CommonTailCount);
 }
 
 class Loader {

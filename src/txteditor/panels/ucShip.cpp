@@ -21,11 +21,7 @@ namespace {
 
 using namespace shiptabs;
 
-constexpr std::int32_t fieldCargoMin = 28;
-constexpr std::int32_t fieldCargoMax = 29;
-constexpr std::int32_t fieldWareList = 30;
-constexpr std::int32_t fieldType = 52;
-
+// What each tab shows, in its order.
 constexpr std::int32_t infoFields[] = {5, 52, 45, 44, 28, 29, 43, 50, 6};
 constexpr std::int32_t performanceFields[] = {2, 3, 4, 7, 8, 51, 26, 27, 13, 46, 10};
 constexpr std::int32_t modelFields[] = {16, 17, 11, 12, 9, 14, 15, 47, 48, 49, 1, 0};
@@ -230,16 +226,16 @@ bool ucShip::FollowEdit(std::int32_t Field) {
         static_cast<void>(m_ship->LoadObjects()); // the views show what it says now
         m_filled[Turrets] = m_filled[Guns] = false;
     }
-    if (Field == fieldCargoMax)
-        return LetCargoFollow(fieldCargoMax, fieldCargoMin);
-    return Field == fieldCargoMin && LetCargoFollow(fieldCargoMin, fieldCargoMax);
+    if (Field == shipfield::CargoMax)
+        return LetCargoFollow(shipfield::CargoMax, shipfield::CargoMin);
+    return Field == shipfield::CargoMin && LetCargoFollow(shipfield::CargoMin, shipfield::CargoMax);
 }
 
 /// The least cargo is never above the most.
 bool ucShip::LetCargoFollow(std::int32_t Changed, std::int32_t Follower) {
     const RecordPtr& ship = CurrentObject();
-    const auto least = ship->ValueNumber(fieldCargoMin);
-    const auto most = ship->ValueNumber(fieldCargoMax);
+    const auto least = ship->ValueNumber(shipfield::CargoMin);
+    const auto most = ship->ValueNumber(shipfield::CargoMax);
     if (!least || !most || *least <= *most)
         return false;
     ship->SetValue(Follower, ship->Value(Changed));
@@ -309,7 +305,8 @@ void ucShip::FillInfo() {
         return;
     }
     const clsTXTObject& ship = *CurrentObject();
-    const KeshValue type = ship.size() > fieldType ? ship.Value(fieldType) : KeshValue();
+    const KeshValue type =
+        ship.size() > shipfield::Type ? ship.Value(shipfield::Type) : KeshValue();
     m_description->setPlainText(tr("Ship type: ") +
                                 ToScreen(GetShipTypeName(type, m_fields.Version(), false)) + u'\n' +
                                 tr("Description: ") + descriptionOf(ship));
@@ -352,12 +349,13 @@ void ucShip::FillWeapons(const Weapons& Kind) {
 }
 
 void ucShip::FillWares() {
-    const bool has = CurrentObject() && CurrentObject()->size() > fieldWareList;
-    m_wareListId->setText(has ? ToScreen(CurrentObject()->ValueText(fieldWareList)) : QString());
+    const bool has = CurrentObject() && CurrentObject()->size() > shipfield::WareList;
+    m_wareListId->setText(has ? ToScreen(CurrentObject()->ValueText(shipfield::WareList))
+                              : QString());
     if (!has)
         m_wares->Clear();
     else
-        m_wares->ShowWareList(CurrentObject()->ValueInteger(fieldWareList).value_or(-1),
+        m_wares->ShowWareList(CurrentObject()->ValueInteger(shipfield::WareList).value_or(-1),
                               m_wareListId->text());
 }
 
@@ -381,11 +379,11 @@ void ucShip::OnShipChanged(bool Structure) {
 }
 
 void ucShip::EditWareList() {
-    if (CurrentObject() && CurrentObject()->size() > fieldWareList)
-        EditField(fieldWareList);
+    if (CurrentObject() && CurrentObject()->size() > shipfield::WareList)
+        EditField(shipfield::WareList);
 }
 
 void ucShip::ShowBody(std::int32_t Field) {
     if (CurrentObject())
-        ExportObjectToViewer(this, *CurrentObject(), Field, Field != fieldBody);
+        ExportObjectToViewer(this, *CurrentObject(), Field, Field != shipfield::Body);
 }

@@ -5,6 +5,7 @@
 #include "tdata/ShipFields.h"
 #include "tdata/WeaponSlots.h"
 #include "tdata/clsShipParser.h"
+#include "tdata/mdlKeshShips.h"
 #include "txteditor/panels/RecordPanel.h"
 
 #include <array>
@@ -69,11 +70,6 @@ private:
         std::vector<WeaponSlot> Slots = {};
         WeaponLists* Lists = nullptr;
     };
-    static constexpr std::int32_t fieldBody = 0;
-    static constexpr std::int32_t fieldScene = 16;
-    static constexpr std::int32_t fieldCockpit = 17;
-    static constexpr std::int32_t fieldLasers = 18;
-    static constexpr std::int32_t fieldMissiles = 24;
 
     // Setting up
     void BuildTabs();
@@ -120,7 +116,7 @@ private:
     ShipTurretTab* m_turrets = nullptr;
     ShipGunTab* m_guns = nullptr;
     std::array<Weapons, 2> m_weapons{
-        {{fieldLasers, &LaserSubtypes}, {fieldMissiles, &MissileSubtypes}}};
+        {{shipfield::Lasers, &LaserSubtypes}, {shipfield::Missiles, &MissileSubtypes}}};
     QLineEdit* m_wareListId = nullptr;
     WareListViewer* m_wares = nullptr;
 };

@@ -1,4 +1,5 @@
 // The controls of the ship panel.
+#include "tdata/mdlKeshShips.h"
 #include "txteditor/panels/EntryFilter.h"
 #include "txteditor/panels/PropertyView.h"
 #include "txteditor/panels/ShipGunTab.h"
@@ -14,7 +15,6 @@ namespace {
 using namespace shiptabs;
 
 constexpr int descriptionLines = 4;
-constexpr std::int32_t wareListField = 30;
 
 /// A button of the toolbar, on the tabs From to To.
 struct Button {
@@ -142,7 +142,7 @@ QWidget* ucShip::BuildWares() {
     m_wares = new WareListViewer(page);
     connect(m_wares, &WareListViewer::Entered, this, &ucShip::EditWareList);
     OfferGoTo(m_wares->View(), [this] { return WareOfRow(m_wares->View()); });
-    OfferGoTo(*m_wareListId, [this] { return TargetOf(wareListField); });
+    OfferGoTo(*m_wareListId, [this] { return TargetOf(shipfield::WareList); });
     auto* top = new QHBoxLayout;
     top->addWidget(caption);
     top->addWidget(m_wareListId);
@@ -156,9 +156,9 @@ QWidget* ucShip::BuildWares() {
 
 void ucShip::ConnectActions() {
     const auto body = [this](std::int32_t field) { return [this, field] { ShowBody(field); }; };
-    const std::function<void()> works[] = {body(fieldBody),
-                                           body(fieldScene),
-                                           body(fieldCockpit),
+    const std::function<void()> works[] = {body(shipfield::Body),
+                                           body(shipfield::Scene),
+                                           body(shipfield::Cockpit),
                                            [this] { m_turrets->AddTurret(); },
                                            [this] { m_turrets->RemoveTurret(); },
                                            [this] { m_guns->AddGun(); },

@@ -6,7 +6,6 @@
 #include "tdata/mdlKeshShips.h"
 #include "textres/ResourceText.h"
 
-#include <algorithm>
 #include <iterator>
 #include <limits>
 
@@ -24,12 +23,6 @@ constexpr TextTable ClassNames{0, ClassRows};
 constexpr TextTable ShipRaceNames{0, ShipRaceRows};
 // Positions in RaceNames.
 constexpr std::int32_t OwnerRaceRows[] = {1, 2, 3, 4, 5, 6, 7, 9, 19, 8};
-
-struct VersionSize {
-    std::int32_t Version;
-    std::int32_t Size;
-};
-constexpr VersionSize Sizes[] = {{8, 117}, {9, 119}, {10, jobfield::Count}};
 
 bool Reaches(const clsTXTObject& job, std::int32_t place) {
     return place >= 0 && place < job.size();
@@ -83,13 +76,6 @@ std::string JobVariantName(std::int32_t Place) {
     if (text && !text->empty())
         return std::move(*text);
     return Place == 0 ? "Basic" : std::to_string(Place);
-}
-
-std::optional<std::int32_t> JobSize(std::int32_t Version) {
-    const auto* const row =
-        std::find_if(std::begin(Sizes), std::end(Sizes),
-                     [=](const VersionSize& s) { return s.Version == Version; });
-    return row == std::end(Sizes) ? std::nullopt : std::optional(row->Size);
 }
 
 // --- Values

@@ -58,9 +58,6 @@ inline constexpr JobFlags Roles{115, 4}; ///< one of them
 /// there is none.
 [[nodiscard]] std::string JobVariantName(std::int32_t Place);
 
-/// Values of a new job in a file of that version; none for a version that cannot be written.
-[[nodiscard]] std::optional<std::int32_t> JobSize(std::int32_t Version);
-
 /// The value; unset outside the record.
 [[nodiscard]] KeshValue GetJobValue(const clsTXTObject& Job, std::int32_t Field);
 /// Its spelling, valid until the next change; empty outside the record.

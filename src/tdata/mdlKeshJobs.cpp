@@ -46,16 +46,26 @@ constexpr Field JobRows[] = {
 constexpr std::int32_t MissingOf117[] = {36, 55, 86};
 constexpr std::int32_t MissingOf119[] = {55};
 
+struct JobLayout {
+    std::int32_t Version;
+    std::int32_t Size;
+    std::span<const std::int32_t> Missing = {};
+};
+constexpr JobLayout JobLayouts[] = {{8, 117, MissingOf117}, {9, 119, MissingOf119}, {10, 120}};
+
 std::span<const std::int32_t> MissingFields(std::int32_t size) {
-    if (size == 117)
-        return MissingOf117;
-    return size == 119 ? std::span<const std::int32_t>(MissingOf119)
-                       : std::span<const std::int32_t>();
+    const auto* const layout = std::ranges::find(JobLayouts, size, &JobLayout::Size);
+    return layout == std::end(JobLayouts) ? std::span<const std::int32_t>() : layout->Missing;
 }
 
 } // namespace
 
 const FieldTable JobFieldNames{Frame::None, JobRows};
+
+std::optional<std::int32_t> JobSize(std::int32_t Version) {
+    const auto* const layout = std::ranges::find(JobLayouts, Version, &JobLayout::Version);
+    return layout == std::end(JobLayouts) ? std::nullopt : std::optional(layout->Size);
+}
 
 std::int32_t JobPhysicalIndex(std::int32_t Size, std::int32_t Logical) {
     const auto missing = MissingFields(Size);

@@ -4,6 +4,7 @@
 #include "core/mdlCommon.h"
 #include "tdata/clsShip.h"
 #include "tdata/mdlKeshConst.h"
+#include "tdata/mdlKeshJobs.h"
 
 #include <algorithm>
 #include <functional>
@@ -210,21 +211,14 @@ std::int32_t Loader::CountAt(std::int64_t indexInRecord) const {
 // --- Layouts of their own
 
 bool Loader::LoadJobs() {
-    struct Layout {
-        std::int32_t version;
-        std::int32_t fields;
-    };
-    static constexpr Layout layouts[]{{8, 117}, {9, 119}, {10, 120}};
     m_result.version = ReadWhole();
-    const auto* layout =
-        std::find_if(std::begin(layouts), std::end(layouts),
-                     [this](const Layout& row) { return row.version == m_result.version; });
-    if (layout == std::end(layouts))
+    const auto size = JobSize(m_result.version);
+    if (!size)
         return Fail("Unsupported version: " + std::to_string(m_result.version));
     SkipBlankRestOfLine();
     while (!IsEOF()) {
         BeginRecord();
-        ReadPlaces(layout->fields - 1);
+        ReadPlaces(*size - 1);
         m_text->Places.push_back(ReadRawPlace());
         AddRecord(ValueForm::LastRaw);
     }

@@ -2,6 +2,7 @@
 
 #include "core/mdlComFunctions.h"
 #include "keshobjects/places.h"
+#include "tdata/mdlRecordNumbers.h"
 
 #include <algorithm>
 #include <array>
@@ -11,10 +12,6 @@
 namespace {
 
 constexpr int CertainDigits = 15; ///< that a double keeps of any decimal
-
-bool Reaches(const clsTXTObject& record, std::int32_t index) {
-    return index >= 0 && index < record.size();
-}
 
 template <typename Float, typename... Form>
 double ThroughText(Float number, Form... form) {
@@ -68,7 +65,7 @@ std::optional<std::string> FieldConversion::Shown(const StoredField& Field, bool
 
 const FieldConversion* FindConversion(std::span<const FieldConversion> Rows,
                                       const clsTXTObject& Record, std::int32_t Index) {
-    if (!Reaches(Record, Index))
+    if (Index < 0 || Index >= Record.size())
         return nullptr;
     const auto found = std::find_if(Rows.begin(), Rows.end(), [&](const FieldConversion& row) {
         return (row.Index < 0 ? Record.size() + row.Index : row.Index) == Index;
@@ -117,19 +114,6 @@ bool FieldConverter::TranslateBack(const clsTXTObject& Record, const std::string
 }
 
 // --- Numbers
-
-std::optional<double> NumberAt(const clsTXTObject& Record, std::int32_t Index) {
-    return Reaches(Record, Index) ? keshobjects::readNumber(Record.ValueText(Index)) : std::nullopt;
-}
-
-std::optional<std::int32_t> IntegerAt(const clsTXTObject& Record, std::int32_t Index) {
-    const auto number = NumberAt(Record, Index);
-    return number ? keshobjects::roundToInteger(*number) : std::nullopt;
-}
-
-std::string SpellingAt(const clsTXTObject& Record, std::int32_t Index) {
-    return Reaches(Record, Index) ? std::string(Record.ValueText(Index)) : std::string();
-}
 
 std::string_view TrimmedValue(std::string_view Text) {
     const auto* const first = std::find_if_not(Text.begin(), Text.end(), keshobjects::isBlank);

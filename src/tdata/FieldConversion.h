@@ -98,12 +98,6 @@ private:
 [[nodiscard]] std::string_view TrimmedValue(std::string_view Text);
 
 // Numbers
-/// A value that is or spells a number; nothing for any other and outside the record.
-[[nodiscard]] std::optional<double> NumberAt(const clsTXTObject& Record, std::int32_t Index);
-/// The same rounded to 32 bits, halves to even.
-[[nodiscard]] std::optional<std::int32_t> IntegerAt(const clsTXTObject& Record, std::int32_t Index);
-/// The spelling of a value; empty outside the record.
-[[nodiscard]] std::string SpellingAt(const clsTXTObject& Record, std::int32_t Index);
 /// What a person typed, blanks around it left out.
 [[nodiscard]] std::optional<double> EnteredNumber(std::string_view Text);
 /// A whole number as a value; nothing if it leaves 32 bits.

@@ -1,8 +1,8 @@
 #include "tdata/GuiIcons.h"
 
 #include "core/mdlComFunctions.h"
-#include "tdata/FieldConversion.h"
 #include "tdata/clsArchive.h"
+#include "tdata/mdlRecordNumbers.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // The icons of the game's user interface: names, places and the picture that they are cut from.
 #pragma once
 
-#include "tdata/clsTxtParser.h"
+#include "tdata/clsTXTObject.h"
 
 #include <cstdint>
 #include <optional>
@@ -9,6 +9,8 @@
 #include <string_view>
 #include <unordered_map>
 #include <vector>
+
+class clsTxtParser;
 
 /// In pixels of the picture.
 struct IconPlace {

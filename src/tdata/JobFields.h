@@ -2,7 +2,7 @@
 // logical, as in a record of 120; records may have any size and content.
 #pragma once
 
-#include "tdata/clsTxtParser.h"
+#include "tdata/clsTXTObject.h"
 
 #include <cstdint>
 #include <optional>

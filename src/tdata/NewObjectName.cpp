@@ -2,6 +2,7 @@
 
 #include "lornfd/paths.h"
 #include "tdata/JobFields.h"
+#include "tdata/clsTxtParser.h"
 #include "tdata/mdlKeshConst.h"
 
 #include <algorithm>

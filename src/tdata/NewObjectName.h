@@ -1,12 +1,14 @@
 // IDs for new records.
 #pragma once
 
-#include "tdata/clsTxtParser.h"
+#include "tdata/clsTXTObject.h"
 
 #include <optional>
 #include <span>
 #include <string>
 #include <unordered_set>
+
+class clsTxtParser;
 
 /// "NEW_OBJECT_" and a number above that of every ID in the file that holds this word. A job's ID
 /// is its number: one above the largest, or a free one if there is none above.

@@ -1,7 +1,7 @@
 #include "tdata/RecordNames.h"
 
-#include "tdata/FieldConversion.h"
 #include "tdata/mdlKeshConst.h"
+#include "tdata/mdlRecordNumbers.h"
 #include "textres/ResourceText.h"
 
 std::string RecordName(const clsTXTObject& Record) {

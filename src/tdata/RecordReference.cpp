@@ -1,10 +1,10 @@
 #include "tdata/RecordReference.h"
 
-#include "tdata/FieldConversion.h"
 #include "tdata/JobWingIndex.h"
 #include "tdata/clsArchive.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshJobs.h"
+#include "tdata/mdlRecordNumbers.h"
 #include "tdata/mdlWareList.h"
 
 #include <algorithm>

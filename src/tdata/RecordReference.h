@@ -1,12 +1,14 @@
 // Which fields name a record of another file, and where that record is.
 #pragma once
 
-#include "tdata/clsTxtParser.h"
+#include "tdata/clsTXTObject.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+
+class clsTxtParser;
 
 /// A record of one of the game's files, by its place there or by what names it.
 struct RecordAddress {

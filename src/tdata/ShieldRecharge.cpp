@@ -51,7 +51,7 @@ std::optional<double> RechargeSeconds(const ShieldRecharge& Input) {
     if (Input.Count < 1)
         return 0;
     if (Input.Need == 0)
-        throw KeshError(errnum::DivisionByZero, "ucShip", "Division by zero");
+        throw KeshError(errnum::DivisionByZero, "ShieldRecharge", "Division by zero");
     const std::int64_t batch = BatchSize(Input);
     const double total = batch < 1 ? std::nan("") : FillInBatches(Input, batch);
     return std::isfinite(total) ? std::optional(total) : std::nullopt;

@@ -6,6 +6,7 @@
 #include "lornfd/lornfd.h"
 #include "tdata/FieldLookup.h"
 #include "tdata/mdlKeshShips.h"
+#include "tdata/mdlRecordNumbers.h"
 
 namespace {
 

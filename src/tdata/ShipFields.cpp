@@ -8,6 +8,7 @@
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshShips.h"
 #include "tdata/mdlKeshWare.h"
+#include "tdata/mdlRecordNumbers.h"
 #include "textres/ResourceText.h"
 
 #include <cmath>

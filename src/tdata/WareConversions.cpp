@@ -6,6 +6,7 @@
 #include "tdata/RecordNames.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshWare.h"
+#include "tdata/mdlRecordNumbers.h"
 
 #include <cmath>
 

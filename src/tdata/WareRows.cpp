@@ -4,6 +4,7 @@
 #include "keshobjects/places.h"
 #include "tdata/FieldConversion.h"
 #include "tdata/mdlKeshConst.h"
+#include "tdata/mdlRecordNumbers.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,8 @@
 #include "tdata/WeaponSlots.h"
 
-#include "tdata/FieldConversion.h"
 #include "tdata/RecordNames.h"
+#include "tdata/clsTxtParser.h"
+#include "tdata/mdlRecordNumbers.h"
 #include "textres/ResourceText.h"
 
 #include <array>

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "tdata/TextTable.h"
-#include "tdata/clsTxtParser.h"
+#include "tdata/clsTXTObject.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
+
+class clsTxtParser;
 
 struct WeaponSlot {
     std::int32_t Bit;

@@ -1,7 +1,7 @@
 // A record of TCockpits: a type of turret.
 #pragma once
 
-#include "tdata/clsTxtParser.h"
+#include "tdata/clsTXTObject.h"
 
 #include <cstdint>
 #include <string>

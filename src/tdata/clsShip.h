@@ -6,7 +6,7 @@
 // and copy nothing.
 #pragma once
 
-#include "tdata/clsTxtParser.h"
+#include "tdata/clsTXTObject.h"
 
 #include <cstdint>
 #include <memory>

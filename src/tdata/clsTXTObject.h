@@ -98,3 +98,5 @@ private:
     clsValueArray m_values;
     mutable std::unique_ptr<Seldom> m_seldom;
 };
+
+using RecordPtr = std::shared_ptr<clsTXTObject>;

@@ -11,8 +11,6 @@
 #include <unordered_map>
 #include <vector>
 
-using RecordPtr = std::shared_ptr<clsTXTObject>;
-
 class NewNames;
 
 class clsTxtParser {

@@ -1,7 +1,7 @@
 // A thin view of a record for the ware panels.
 #pragma once
 
-#include "tdata/clsTxtParser.h"
+#include "tdata/clsTXTObject.h"
 
 #include <string>
 

@@ -15,7 +15,24 @@ std::string Described(const clsTXTObject& record, std::int32_t index) {
            std::string(record.ValueText(index).substr(0, 40)) + "\".";
 }
 
+bool Reaches(const clsTXTObject& record, std::int32_t index) {
+    return index >= 0 && index < record.size();
+}
+
 } // namespace
+
+std::optional<double> NumberAt(const clsTXTObject& Record, std::int32_t Index) {
+    return Reaches(Record, Index) ? keshobjects::readNumber(Record.ValueText(Index)) : std::nullopt;
+}
+
+std::optional<std::int32_t> IntegerAt(const clsTXTObject& Record, std::int32_t Index) {
+    const auto number = NumberAt(Record, Index);
+    return number ? keshobjects::roundToInteger(*number) : std::nullopt;
+}
+
+std::string SpellingAt(const clsTXTObject& Record, std::int32_t Index) {
+    return Reaches(Record, Index) ? std::string(Record.ValueText(Index)) : std::string();
+}
 
 double RecordNumber(const clsTXTObject& record, std::int32_t index) {
     if (const auto number = record.ValueNumber(index))

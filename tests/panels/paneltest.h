@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tdata/clsArchive.h"
+#include "tdata/mdlKeshConst.h"
 #include "txteditor/editortest.h"
 
 template <class Panel>

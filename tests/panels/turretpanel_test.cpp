@@ -1,6 +1,7 @@
 // A window with a TCockpits file in it.
 #include "tdata/FieldTable.h"
 #include "tdata/clsArchive.h"
+#include "tdata/mdlKeshConst.h"
 #include "txteditor/editortest.h"
 #include "txteditor/panels/ucTurret.h"
 

@@ -1,10 +1,10 @@
 #include "txteditor/panels/JobShipBox.h"
 
 #include "core/mdlComFunctions.h"
-#include "tdata/FieldConversion.h"
 #include "tdata/JobFields.h"
 #include "tdata/RecordNames.h"
 #include "tdata/mdlKeshConst.h"
+#include "tdata/mdlRecordNumbers.h"
 #include "ui/TextCodec.h"
 
 #include <algorithm>

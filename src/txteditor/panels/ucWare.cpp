@@ -7,6 +7,7 @@
 #include "tdata/WeaponSlots.h"
 #include "tdata/clsWare.h"
 #include "tdata/mdlKeshConst.h"
+#include "tdata/mdlRecordNumbers.h"
 #include "textres/ResourceText.h"
 #include "txteditor/panels/ExportFile.h"
 #include "txteditor/panels/FlagBoxes.h"

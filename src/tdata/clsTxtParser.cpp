@@ -6,6 +6,7 @@
 #include "lornfd/lornfd.h"
 #include "lornfd/paths.h"
 #include "tdata/NewObjectName.h"
+#include "tdata/RecordWriter.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlTxtLoaders.h"
 
@@ -16,92 +17,8 @@
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
-
 bool NameBefore(const clsTXTObject* a, const clsTXTObject* b) {
     return lornfd::compareNoCase(a->ObjectName(), b->ObjectName()) < 0;
-}
-
-/// Collects records for the file handle in large pieces.
-class RecordWriter {
-public:
-    explicit RecordWriter(std::int32_t file) : m_file(file) { m_text.reserve(BlockSize); }
-
-    RecordWriter& operator<<(std::string_view text) {
-        EndLines();
-        Append(text);
-        return *this;
-    }
-    /// A whole record as a loaded text has it, and a line end. Those that follow each other there
-    /// are written in one piece.
-    void CopyLine(std::string_view record) {
-        if (Follows(record)) {
-            m_lines = {m_lines.data(), m_lines.size() + LineEnd.size() + record.size()};
-            return;
-        }
-        EndLines();
-        m_lines = record;
-    }
-    [[nodiscard]] bool Flush() {
-        EndLines();
-        WriteNow();
-        return m_good;
-    }
-
-private:
-    static constexpr std::size_t BlockSize = std::size_t{1} << 18;
-
-    /// A loaded text has bytes behind its end, so that looking there is allowed.
-    [[nodiscard]] bool Follows(std::string_view record) const {
-        const char* const end = m_lines.data() + m_lines.size();
-        return !m_lines.empty() && record.data() == end + LineEnd.size() &&
-               std::string_view(end, LineEnd.size()) == LineEnd;
-    }
-    void EndLines() {
-        if (m_lines.empty())
-            return;
-        Append(std::exchange(m_lines, {}));
-        Append(LineEnd);
-    }
-    void Append(std::string_view text) {
-        if (m_text.size() + text.size() >= BlockSize)
-            WriteNow();
-        if (text.size() >= BlockSize)
-            Write(text);
-        else
-            m_text += text;
-    }
-    void WriteNow() {
-        Write(m_text);
-        m_text.clear();
-    }
-    /// What failed is remembered for the end.
-    void Write(std::string_view text) { m_good = m_good && Kesh_TXTWriteFile(m_file, text) != 0; }
-
-    std::int32_t m_file;
-    std::string_view m_lines; ///< whole records of a loaded text, without the last line end
-    std::string m_text;
-    bool m_good = true;
-};
-
-void WriteValues(RecordWriter& out, const clsTXTObject& record, std::int32_t count) {
-    for (std::int32_t i = 0; i < count; ++i)
-        out << record.ValueText(i) << ";";
-}
-
-void WriteRecord(RecordWriter& out, const clsTXTObject& record) {
-    if (const auto written = record.Values().Written()) {
-        out.CopyLine(*written);
-        return;
-    }
-    WriteValues(out, record, record.size());
-    out << LineEnd;
-}
-
-/// A job's name is the raw rest of its line.
-void WriteJob(RecordWriter& out, const clsTXTObject& record) {
-    WriteValues(out, record, record.size() - 1);
-    out << record.ObjectName() << LineEnd;
 }
 
 } // namespace
@@ -183,14 +100,15 @@ bool clsTxtParser::WriteRecords(std::int32_t FileHandle, std::vector<clsTXTObjec
     const bool jobs = m_otype == otype::Jobs;
     RecordWriter out(FileHandle);
     if (jobs)
-        out << std::to_string(m_version) << ";" << LineEnd;
+        out << std::to_string(m_version) << ";" << RecordWriter::LineEnd;
     else
-        out << "// Created with " << ProgramID() << LineEnd << std::to_string(m_version) << ";"
-            << std::to_string(m_byIndex.size()) << ";" << LineEnd;
+        out << "// Created with " << ProgramID() << RecordWriter::LineEnd
+            << std::to_string(m_version) << ";" << std::to_string(m_byIndex.size()) << ";"
+            << RecordWriter::LineEnd;
     for (const auto& record : m_byIndex) {
         if (!CheckWritable(*record))
             return false;
-        jobs ? WriteJob(out, *record) : WriteRecord(out, *record);
+        jobs ? out.WriteJob(*record) : out.WriteRecord(*record);
         if (record->Dirty)
             Dirty.push_back(record.get());
     }

@@ -1,10 +1,8 @@
-#include "tdata/mdlTxtLoaders.h"
-
 #include "core/KeshError.h"
 #include "core/mdlCommon.h"
+#include "tdata/TxtLoader.h"
 #include "tdata/clsShip.h"
 #include "tdata/mdlKeshConst.h"
-#include "tdata/mdlKeshJobs.h"
 
 #include <algorithm>
 #include <functional>
@@ -13,10 +11,6 @@
 
 namespace tdata {
 namespace {
-
-// Records come in one block: hundreds of thousands of single allocations would cost more than the
-// parsing.
-using RecordBlock = std::vector<clsTXTObject, keshobjects::BigAllocator<clsTXTObject>>;
 
 /// A ship's record grows while it is read: each count in it tells how much comes next. `take` is
 /// told how many values come, and may end the walk by false; `countAt` gives the count at an index
@@ -42,76 +36,19 @@ bool WalkShip(const Take& take, const CountAt& countAt) {
     return take(CommonTailCount);
 }
 
-class Loader {
-public:
-    Loader(std::shared_ptr<clsLoadedText> text, std::int32_t type)
-        : m_text(std::move(text)), m_handle(m_text->Handle()), m_type(type) {}
+} // namespace
 
-    LoadResult Run();
-
-private:
-    using Routine = bool (Loader::*)();
-
-    bool LoadRecords();
-    bool LoadJobs();
-    bool LoadJobWings();
-    bool LoadWareLists();
-    bool LoadIconData();
-    bool ReadFixed();
-    bool ReadShip();
-    void ReadWing();
-    void ReadIcon();
-    [[nodiscard]] std::int32_t FixedSize(); ///< 0 with the error set if such files are refused
-    std::int32_t Refuse(std::string text) { return Fail(std::move(text)) ? 1 : 0; }
-
-    [[nodiscard]] bool IsEOF() const { return Kesh_TXTGetTokenType(m_handle) == KESH_TOKEN_END; }
-    [[nodiscard]] std::int32_t ReadWhole() const;
-    [[nodiscard]] KeshPlace ReadPlace();
-    [[nodiscard]] KeshPlace ReadWholePlace() const;
-    [[nodiscard]] KeshPlace ReadRawPlace() const;
-    [[nodiscard]] KeshPlace ReadNumber(bool& more) const;
-    void SkipBlankRestOfLine() const;
-    void Advance() const;
-    void ReadPlaces(std::int64_t count);
-    [[nodiscard]] std::int32_t CountAt(std::int64_t indexInRecord) const;
-    /// The start of a value, for messages.
-    [[nodiscard]] std::string Shown(KeshPlace place) const {
-        return std::string(keshobjects::valueAt(m_text->Text(), place).substr(0, 40));
-    }
-
-    void Reserve(std::int64_t records, std::int64_t valuesEach);
-    void BeginRecord();
-    void AddRecord(ValueForm form);
-    [[nodiscard]] clsValueArray ValuesRead(ValueForm form) const;
-    bool Fail(std::string text);
-    [[nodiscard]] std::string Reason(const std::exception& failure) const;
-    void NoteWhatFollows();
-
-    std::shared_ptr<clsLoadedText> m_text;
-    std::int32_t m_handle;
-    std::int32_t m_type;
-    std::int32_t m_nextID = 0;
-    std::shared_ptr<RecordBlock> m_block = std::make_shared<RecordBlock>();
-    std::size_t m_first = 0; ///< in Places, of the record being read
-    bool m_written = true;   ///< it stands in written form so far
-    LoadResult m_result;
-};
-
-[[noreturn]] void Throw(std::uint32_t number, const std::string& text) {
-    throw KeshError(number, "clsTxtParser", text);
-}
-
-LoadResult Loader::Run() {
+LoadResult TxtLoader::Run() {
     static constexpr std::pair<std::int32_t, Routine> own[]{
-        {otype::Jobs, &Loader::LoadJobs},
-        {otype::JobWings, &Loader::LoadJobWings},
-        {otype::WareLists, &Loader::LoadWareLists},
-        {otype::IconData, &Loader::LoadIconData}};
+        {otype::Jobs, &TxtLoader::LoadJobs},
+        {otype::JobWings, &TxtLoader::LoadJobWings},
+        {otype::WareLists, &TxtLoader::LoadWareLists},
+        {otype::IconData, &TxtLoader::LoadIconData}};
     const auto* found = std::find_if(std::begin(own), std::end(own),
                                      [this](const auto& row) { return row.first == m_type; });
     try {
         m_result.ok =
-            std::invoke(found == std::end(own) ? &Loader::LoadRecords : found->second, *this);
+            std::invoke(found == std::end(own) ? &TxtLoader::LoadRecords : found->second, *this);
     } catch (const std::exception& failure) {
         Fail((found == std::end(own) ? "Error loading T file:\r\n" : "") + Reason(failure));
     }
@@ -121,20 +58,24 @@ LoadResult Loader::Run() {
     return std::move(m_result);
 }
 
-bool Loader::Fail(std::string text) {
+void TxtLoader::Throw(std::uint32_t number, const std::string& text) {
+    throw KeshError(number, "clsTxtParser", text);
+}
+
+bool TxtLoader::Fail(std::string text) {
     m_result.ok = false;
     m_result.error = std::move(text);
     return false;
 }
 
-std::string Loader::Reason(const std::exception& failure) const {
+std::string TxtLoader::Reason(const std::exception& failure) const {
     if (dynamic_cast<const std::bad_alloc*>(&failure) != nullptr)
         return "Not enough memory for \"" + Kesh_TXTGetName(m_handle) + "\".";
     return failure.what();
 }
 
 // Nobody may save the file without a chance to learn that this gets lost.
-void Loader::NoteWhatFollows() {
+void TxtLoader::NoteWhatFollows() {
     if (IsEOF())
         return;
     KeshPlace place = 0;
@@ -147,20 +88,23 @@ void Loader::NoteWhatFollows() {
 
 // --- The common layout
 
-bool Loader::LoadRecords() {
+bool TxtLoader::LoadRecords() {
     m_result.version = ReadWhole();
     const std::int32_t count = ReadWhole();
-    const bool ships = m_type == otype::Ships;
-    if (!ships && count > 0 && FixedSize() <= 0)
+    if (count <= 0)
         return false;
-    Reserve(count, ships ? ObjectSize(otype::Ships) : std::max(1, ObjectSize(m_type)));
+    const bool ships = m_type == otype::Ships;
+    const std::int32_t size = ships ? ObjectSize(m_type) : FixedSize();
+    if (size <= 0)
+        return false;
+    Reserve(count, size);
     for (std::int32_t i = 0; i < count; ++i)
-        if (!(ships ? ReadShip() : ReadFixed()))
+        if (!(ships ? ReadShip() : ReadFixed(size)))
             return false;
-    return count > 0;
+    return true;
 }
 
-std::int32_t Loader::FixedSize() {
+std::int32_t TxtLoader::FixedSize() {
     struct Oldest {
         std::int32_t type;
         std::int32_t version;
@@ -179,14 +123,14 @@ std::int32_t Loader::FixedSize() {
     return size > 0 ? size : Refuse("Unknown size of entries in file. Cannot load.");
 }
 
-bool Loader::ReadFixed() {
+bool TxtLoader::ReadFixed(std::int32_t size) {
     BeginRecord();
-    ReadPlaces(FixedSize());
+    ReadPlaces(size);
     AddRecord(ValueForm::AsShown);
     return true;
 }
 
-bool Loader::ReadShip() {
+bool TxtLoader::ReadShip() {
     try {
         BeginRecord();
         WalkShip([this](std::int64_t count) { return ReadPlaces(count), true; },
@@ -198,7 +142,7 @@ bool Loader::ReadShip() {
     }
 }
 
-std::int32_t Loader::CountAt(std::int64_t indexInRecord) const {
+std::int32_t TxtLoader::CountAt(std::int64_t indexInRecord) const {
     const auto place = m_text->Places[m_first + static_cast<std::size_t>(indexInRecord)];
     const auto number = keshobjects::numberAt(m_text->Text(), place);
     const auto count = number ? keshobjects::roundToInteger(*number) : std::nullopt;
@@ -208,110 +152,23 @@ std::int32_t Loader::CountAt(std::int64_t indexInRecord) const {
     return *count;
 }
 
-// --- Layouts of their own
-
-bool Loader::LoadJobs() {
-    m_result.version = ReadWhole();
-    const auto size = JobSize(m_result.version);
-    if (!size)
-        return Fail("Unsupported version: " + std::to_string(m_result.version));
-    SkipBlankRestOfLine();
-    while (!IsEOF()) {
-        BeginRecord();
-        ReadPlaces(*size - 1);
-        m_text->Places.push_back(ReadRawPlace());
-        AddRecord(ValueForm::LastRaw);
-    }
-    return true;
-}
-
-// Behind the version the line goes on as a raw token, which is no record even in a file of none.
-void Loader::SkipBlankRestOfLine() const {
-    KeshPlace place = 0;
-    if (Kesh_TXTGetRawPlace(m_handle, place) == 0)
-        return;
-    const auto rest = keshobjects::rawAt(m_text->Text(), place);
-    if (std::all_of(rest.begin(), rest.end(), keshobjects::isBlank))
-        Advance();
-}
-
-bool Loader::LoadJobWings() {
-    while (!IsEOF())
-        ReadWing();
-    return true;
-}
-
-void Loader::ReadWing() {
-    BeginRecord();
-    m_written = false; // lists are written with ";" throughout
-    m_text->Places.push_back(ReadWholePlace());
-    for (bool more = true; more;)
-        m_text->Places.push_back(ReadNumber(more));
-    AddRecord(ValueForm::List);
-}
-
-bool Loader::LoadWareLists() {
-    const std::int32_t count = ReadWhole();
-    for (std::int32_t i = 0; i < count; ++i) {
-        const std::int32_t wares = ReadWhole();
-        BeginRecord();
-        ReadPlaces(wares);
-        AddRecord(ValueForm::AllText);
-    }
-    return true;
-}
-
-bool Loader::LoadIconData() {
-    if (IsEOF())
-        return Fail("File is empty");
-    BeginRecord();
-    AddRecord(ValueForm::Sections);
-    const RecordPtr root = m_result.records.back();
-    std::vector<KeshPlace> headers;
-    do {
-        for (int texts = 0; texts < 2; ++texts)
-            headers.push_back(ReadPlace());
-        for (int numbers = 0; numbers < 3; ++numbers)
-            headers.push_back(ReadWholePlace());
-        const std::int32_t entries = *keshobjects::integerAt(m_text->Text(), headers.back());
-        for (std::int32_t i = 0; i < entries; ++i)
-            ReadIcon();
-    } while (!IsEOF());
-    BeginRecord();
-    m_written = false; // the icons stand between the sections
-    m_text->Places.insert(m_text->Places.end(), headers.begin(), headers.end());
-    root->LoadValues(ValuesRead(ValueForm::Sections));
-    return true;
-}
-
-void Loader::ReadIcon() {
-    const KeshPlace name = ReadPlace();
-    static_cast<void>(ReadPlace()); // the game's own number of the entry; nothing reads it
-    BeginRecord();
-    m_written = false; // the name stands in front of its numbers
-    for (int i = 0; i < 4; ++i)
-        m_text->Places.push_back(ReadWholePlace());
-    m_text->Places.push_back(name);
-    AddRecord(ValueForm::LastText);
-}
-
 // --- Reading
 
-std::int32_t Loader::ReadWhole() const {
+std::int32_t TxtLoader::ReadWhole() const {
     KeshValue value;
     if (Kesh_TXTLoadValue(m_handle, KESH_VALUE_WHOLE, value) == 0)
         Throw(errnum::ReadValue, KeshErrorText());
     return std::get<std::int32_t>(value);
 }
 
-KeshPlace Loader::ReadPlace() {
+KeshPlace TxtLoader::ReadPlace() {
     KeshPlace place = 0;
     if (Kesh_TXTLoadPlaces(m_handle, 1, &place, m_written) != 1)
         Throw(errnum::ReadValue, KeshErrorText());
     return place;
 }
 
-KeshPlace Loader::ReadWholePlace() const {
+KeshPlace TxtLoader::ReadWholePlace() const {
     KeshPlace place = 0;
     if (Kesh_TXTGetTokenPlace(m_handle, place) == 0)
         Throw(errnum::ReadValue, KeshErrorText());
@@ -319,7 +176,7 @@ KeshPlace Loader::ReadWholePlace() const {
     return place;
 }
 
-KeshPlace Loader::ReadRawPlace() const {
+KeshPlace TxtLoader::ReadRawPlace() const {
     KeshPlace place = 0;
     if (Kesh_TXTGetRawPlace(m_handle, place) == 0)
         Throw(errnum::Loader, "Attempt to read at EOF");
@@ -327,7 +184,7 @@ KeshPlace Loader::ReadRawPlace() const {
     return place;
 }
 
-KeshPlace Loader::ReadNumber(bool& more) const {
+KeshPlace TxtLoader::ReadNumber(bool& more) const {
     KeshValue token;
     KeshPlace place = 0;
     const auto type = Kesh_TXTGetTokenType(m_handle);
@@ -349,12 +206,12 @@ KeshPlace Loader::ReadNumber(bool& more) const {
     return place;
 }
 
-void Loader::Advance() const {
+void TxtLoader::Advance() const {
     if (Kesh_TXTAdvance(m_handle, 1) == 0)
         Throw(errnum::ReadValue, KeshErrorText());
 }
 
-void Loader::ReadPlaces(std::int64_t count) {
+void TxtLoader::ReadPlaces(std::int64_t count) {
     if (count <= 0)
         return;
     auto& places = m_text->Places;
@@ -377,7 +234,7 @@ void Loader::ReadPlaces(std::int64_t count) {
 
 // --- Records
 
-void Loader::Reserve(std::int64_t records, std::int64_t valuesEach) {
+void TxtLoader::Reserve(std::int64_t records, std::int64_t valuesEach) {
     const auto most = static_cast<std::int64_t>(m_text->Text().size()) / valuesEach + 1;
     const auto bound = static_cast<std::size_t>(std::clamp<std::int64_t>(records, 0, most));
     m_block->reserve(bound);
@@ -385,17 +242,17 @@ void Loader::Reserve(std::int64_t records, std::int64_t valuesEach) {
     m_text->Places.reserve(bound * static_cast<std::size_t>(valuesEach));
 }
 
-void Loader::BeginRecord() {
+void TxtLoader::BeginRecord() {
     m_first = m_text->Places.size();
     m_written = true;
 }
 
-clsValueArray Loader::ValuesRead(ValueForm form) const {
+clsValueArray TxtLoader::ValuesRead(ValueForm form) const {
     const auto size = static_cast<std::uint32_t>(m_text->Places.size() - m_first);
     return {m_text, static_cast<std::uint32_t>(m_first), size, form, m_written};
 }
 
-void Loader::AddRecord(ValueForm form) {
+void TxtLoader::AddRecord(ValueForm form) {
     if (m_block->size() == m_block->capacity()) {
         // Records that are handed out never move: a full block stays as it is, the next one is
         // larger.
@@ -413,10 +270,8 @@ void Loader::AddRecord(ValueForm form) {
     m_result.records.emplace_back(m_block, &record);
 }
 
-} // namespace
-
 LoadResult LoadTxtRecords(const std::shared_ptr<clsLoadedText>& text, std::int32_t type) {
-    return Loader(text, type).Run();
+    return TxtLoader(text, type).Run();
 }
 
 bool ShipFits(const clsTXTObject& record) {

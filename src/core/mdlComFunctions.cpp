@@ -15,7 +15,6 @@
 namespace {
 
 constexpr std::string_view HexDigits = "0123456789abcdefABCDEF";
-constexpr double GameUnitsPerMetre = 500;
 constexpr double MetresPerMile = 1852;
 
 /// The shortest decimal text that reads back as `value`, without an exponent.

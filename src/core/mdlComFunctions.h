@@ -106,6 +106,7 @@ void AddSorted(std::vector<std::shared_ptr<T>>& Collection, std::shared_ptr<T> O
     Collection.insert(at, std::move(Object));
 }
 
-/// A distance in game units (500 a metre) with its unit, or bare with Plain; Miles gives nautical
+inline constexpr int GameUnitsPerMetre = 500;
+/// A distance in game units with its unit, or bare with Plain; Miles gives nautical
 /// miles.
 [[nodiscard]] std::string FormatDistance(double GameUnits, bool Plain, bool Miles);

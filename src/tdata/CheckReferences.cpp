@@ -20,7 +20,7 @@ std::unordered_set<std::string_view> NamesIn(const clsTxtParser* file) {
 const clsTxtParser* CheckReferences::File(std::string_view Key) {
     auto found = m_files.find(Key);
     if (found == m_files.end())
-        found = m_files.emplace(Key, m_withGame && Archive ? Archive->GetFile(Key) : nullptr).first;
+        found = m_files.emplace(Key, m_withGame ? GameFileOf(Key) : nullptr).first;
     return found->second.get();
 }
 

@@ -1,4 +1,4 @@
-// What is wrong with the game's data, as structures that a tool prints and a window lists.
+// What is wrong with the game's data, as structures that a tool prints.
 #pragma once
 
 #include "tdata/CheckReferences.h"

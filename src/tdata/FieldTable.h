@@ -33,7 +33,7 @@ struct Field {
     std::string_view Name = {}; ///< empty: the common frame names it, or nothing does
     std::int32_t Type = valuetype::Integer;
     std::int32_t Translation = translation::None;
-    std::string_view Unit = {}; ///< in the value dialog
+    std::string_view Unit = {}; ///< in the value dialog; a row has its own, which need not agree
     std::int32_t Since = 0;     ///< version of the file from which Translation holds
 };
 

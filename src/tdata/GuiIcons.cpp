@@ -57,7 +57,7 @@ std::string WithoutDirectory(std::string name) {
 } // namespace
 
 bool GuiIcons::Load() {
-    if (const auto file = Archive ? Archive->GetFile("IconData") : nullptr)
+    if (const auto file = GameFileOf("IconData"))
         Take(*file);
     return !m_names.empty();
 }

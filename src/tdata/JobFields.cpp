@@ -7,13 +7,9 @@
 #include "textres/ResourceText.h"
 
 #include <iterator>
-#include <limits>
 
 namespace {
 
-constexpr std::int32_t FirstVariant = 10000; ///< ids of their texts
-
-constexpr std::int32_t ShipClassField = 5;
 constexpr std::size_t ClassLength = 2; ///< of a class, signs; what follows tells of pirates
 
 constexpr std::string_view ClassRows[] = {"M1", "M2", "M3", "M4", "M5", "M6", "TP", "TS", "TL"};
@@ -71,11 +67,10 @@ std::string JobOwnerRaceName(std::int32_t Place) {
 }
 
 std::string JobVariantName(std::int32_t Place) {
-    constexpr std::int32_t last = std::numeric_limits<std::int32_t>::max() - FirstVariant;
-    auto text = Place <= last ? ResourceText(ObjectNamePage, FirstVariant + Place) : std::nullopt;
-    if (text && !text->empty())
-        return std::move(*text);
-    return Place == 0 ? "Basic" : std::to_string(Place);
+    std::string text = GetShipVariationName(Place);
+    if (text.empty())
+        text = Place == 0 ? "Basic" : std::to_string(Place);
+    return text;
 }
 
 // --- Values
@@ -124,11 +119,11 @@ std::optional<std::int32_t> JobNeighbour(const clsTXTObject& Job, std::int32_t F
 // --- Names
 
 std::optional<std::int32_t> JobClassOf(const clsTXTObject& Ship) {
-    if (Ship.size() <= ShipClassField)
+    if (Ship.size() <= shipfield::Class)
         return {};
     const std::int32_t position =
-        Ship.ValueInteger(ShipClassField)
-            .value_or(FindInList(Ship.ValueText(ShipClassField), ShipClassKeys));
+        Ship.ValueInteger(shipfield::Class)
+            .value_or(FindInList(Ship.ValueText(shipfield::Class), ShipClassKeys));
     const std::int32_t place =
         FindInList(ShipClassLabels.At(position).substr(0, ClassLength), ClassNames);
     return place < 0 ? std::nullopt : std::optional(place);

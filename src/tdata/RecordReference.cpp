@@ -64,7 +64,7 @@ std::optional<RecordAddress> ReferenceOf(const clsTXTObject& Record, std::int32_
 
 std::optional<RecordAddress> WareAddress(std::string_view ID) {
     for (const std::string_view name : MergedWareFiles())
-        if (const auto file = Archive ? Archive->GetFile(name) : nullptr; file && file->FindID(ID))
+        if (const auto file = GameFileOf(name); file && file->FindID(ID))
             return RecordAddress{std::string(name), -1, std::string(ID)};
     return {};
 }

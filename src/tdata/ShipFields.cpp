@@ -21,10 +21,8 @@ constexpr std::int32_t NeedField = 7;
 constexpr std::int32_t StrengthField = 8;
 constexpr std::int32_t EfficiencyField = 10;
 
-constexpr std::int32_t FirstVariation = 10000; ///< ids of the texts, by the index
 constexpr std::int32_t RacePage = 1266;
 
-constexpr double UnitsPerMetre = 500;
 constexpr double SecondsPerMinute = 60;
 
 enum ShipList : std::int32_t { Classes, Types, ShieldTypes, Races, CargoSizes, ListCount };
@@ -66,7 +64,7 @@ std::optional<std::string> ShowSpeed(const StoredField& field, bool raw) {
 
 std::optional<std::string> ShowAcceleration(const StoredField& field, bool) {
     const auto units = field.Number();
-    return units ? FixedText(*units / UnitsPerMetre, 3) : std::nullopt;
+    return units ? FixedText(*units / GameUnitsPerMetre, 3) : std::nullopt;
 }
 
 /// A part of a unit takes a whole one.
@@ -74,7 +72,7 @@ std::optional<KeshValue> ReadMetres(const StoredField&, std::string_view text) {
     const auto metres = EnteredNumber(text);
     if (!metres)
         return {};
-    const double units = DecimalOf(*metres * UnitsPerMetre);
+    const double units = DecimalOf(*metres * GameUnitsPerMetre);
     const double whole = std::trunc(units);
     return WholeValue(whole == units ? units : whole + 1);
 }
@@ -126,10 +124,6 @@ constexpr FieldConversion Conversions[] = {
 };
 
 // --- Lists
-
-std::shared_ptr<const clsTxtParser> FileOf(std::string_view name) {
-    return Archive ? Archive->GetFile(name) : nullptr;
-}
 
 ChoiceList ClassChoices(std::int32_t version, bool symbolic) {
     ChoiceList list{.Keys = symbolic ? &ShipClassKeys : nullptr, .FreeText = symbolic};
@@ -185,17 +179,14 @@ std::optional<float> Single(double number) {
 /// The text of a variation of a ship; empty where it has none.
 std::string VariationName(const clsTXTObject& ship) {
     const auto variation = IntegerAt(ship, shipfield::Variation);
-    if (!variation || *variation <= 0 ||
-        *variation > std::numeric_limits<std::int32_t>::max() - FirstVariation)
-        return {};
-    return ResourceText(ObjectNamePage, FirstVariation + *variation).value_or("");
+    return variation && *variation > 0 ? GetShipVariationName(*variation) : std::string();
 }
 
 } // namespace
 
 std::optional<float> ShipSpeed(const clsTXTObject& Ship) {
     const auto units = NumberAt(Ship, shipfield::Speed);
-    return units ? Single(*units / UnitsPerMetre) : std::nullopt;
+    return units ? Single(*units / GameUnitsPerMetre) : std::nullopt;
 }
 
 std::optional<float> TunedShipSpeed(const clsTXTObject& Ship) {
@@ -211,15 +202,15 @@ void ShipFields::LoadFiles() {
         return;
     m_loaded = true;
     const auto take = [](std::string_view name, File& file) {
-        if (auto found = FileOf(name))
+        if (auto found = GameFileOf(name))
             file = std::move(found);
     };
     take("TLaser", m_lasers);
     take("TMissiles", m_missiles);
-    const File shields = FileOf("TShields");
+    const File shields = GameFileOf("TShields");
     if (shields)
         m_shields = shields;
-    if (const File cockpits = FileOf("TCockpits"))
+    if (const File cockpits = GameFileOf("TCockpits"))
         m_cockpits.Load(*cockpits);
     List(ShieldTypes) = ShieldChoices(shields.get());
     List(Races) = RaceChoices();

@@ -14,7 +14,6 @@ namespace {
 
 constexpr double SecondsPerMinute = 60;
 constexpr double Thousand = 1000;
-constexpr double UnitsPerMetre = 500;
 constexpr double FirstInnerScene = 4300; ///< that field 12 of a station is counted from
 
 std::optional<KeshValue> DecimalValue(double number) {
@@ -179,7 +178,7 @@ constexpr FieldConversion LaserRows[] = {
 
 constexpr FieldConversion BulletRows[] = {
     {10, ShowTenths<1000>, ReadScaledWhole<1000>, " s"},
-    {11, ShowWhole<500>, ReadScaled<500>, " m/s"},
+    {11, ShowWhole<GameUnitsPerMetre>, ReadScaled<GameUnitsPerMetre>, " m/s"},
     {13, ShowHexadecimal, ReadHexadecimal},
     {14, ShowHexadecimal, ReadHexadecimal},
     {15, ShowHexadecimal, ReadHexadecimal},
@@ -187,9 +186,9 @@ constexpr FieldConversion BulletRows[] = {
 };
 
 constexpr FieldConversion MissileRows[] = {
-    {7, ShowWhole<500>, ReadScaled<500>, " m/s"},
-    {8, ShowWhole<500>, ReadScaled<500>, " m/s"},
-    {13, ShowWhole<500>, ReadScaled<500>, " m"},
+    {7, ShowWhole<GameUnitsPerMetre>, ReadScaled<GameUnitsPerMetre>, " m/s"},
+    {8, ShowWhole<GameUnitsPerMetre>, ReadScaled<GameUnitsPerMetre>, " m/s"},
+    {13, ShowWhole<GameUnitsPerMetre>, ReadScaled<GameUnitsPerMetre>, " m"},
     {14, ShowWhole<1000>, ReadScaled<1000>, " s"},
     {24, ShowTenths<1000>, ReadScaledWhole<1000>, " s"},
     {25, ShowText, ReadText, "", Icons},
@@ -209,13 +208,13 @@ constexpr FieldConversion DockRows[] = {
 };
 
 constexpr FieldConversion BackgroundRows[] = {
-    {24, ShowDistance, ReadScaled<500>},
-    {25, ShowDistance, ReadScaled<500>},
+    {24, ShowDistance, ReadScaled<GameUnitsPerMetre>},
+    {25, ShowDistance, ReadScaled<GameUnitsPerMetre>},
 };
 
 constexpr FieldConversion NebulaRows[] = {
-    {8, ShowDistance, ReadScaled<500>},
-    {9, ShowDistance, ReadScaled<500>},
+    {8, ShowDistance, ReadScaled<GameUnitsPerMetre>},
+    {9, ShowDistance, ReadScaled<GameUnitsPerMetre>},
 };
 
 constexpr FieldConversion CommonRows[] = {

@@ -18,7 +18,7 @@ ChoiceList ListFrom(const TextTable& table) {
 /// A row a record of a file.
 ChoiceList RecordList(std::string_view name, std::string (*rowOf)(const clsTXTObject&)) {
     ChoiceList list;
-    if (const auto file = Archive ? Archive->GetFile(name) : nullptr)
+    if (const auto file = GameFileOf(name))
         for (const RecordPtr& record : file->ByIndex())
             list.Rows.push_back(rowOf(*record));
     return list;

@@ -146,14 +146,13 @@ std::optional<std::string> ChargeTime(const clsTXTObject& Shield) {
 
 std::optional<std::string> BulletRange(const clsTXTObject& Bullet) {
     constexpr double perSecond = 1000;
-    constexpr double perMetre = 500;
     constexpr double perKilometre = 1000;
     const auto lifetime = NumberAt(Bullet, 10);
     const auto speed = NumberAt(Bullet, 11);
     if (!lifetime || !speed)
         return {};
     const double metres =
-        std::nearbyint(DecimalOf(*lifetime / perSecond * (*speed / perMetre))) + 0.0;
+        std::nearbyint(DecimalOf(*lifetime / perSecond * (*speed / GameUnitsPerMetre))) + 0.0;
     if (!std::isfinite(metres))
         return {};
     return metres < perKilometre

@@ -83,3 +83,7 @@ void clsArchive::Clear() {
     m_files.clear();
     ClearErrors();
 }
+
+std::shared_ptr<clsTxtParser> GameFileOf(std::string_view Name) {
+    return Archive ? Archive->GetFile(Name) : nullptr;
+}

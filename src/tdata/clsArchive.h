@@ -39,3 +39,5 @@ private:
 
 /// Made by Main, lives until the process ends.
 extern std::unique_ptr<clsArchive> Archive;
+/// As GetFile; none also while there is no archive.
+[[nodiscard]] std::shared_ptr<clsTxtParser> GameFileOf(std::string_view Name);

@@ -2,6 +2,7 @@
 
 #include "textres/ResourceText.h"
 
+#include <limits>
 #include <optional>
 
 namespace {
@@ -91,6 +92,7 @@ constexpr std::string_view TurretPositionRows[] = {"front", "rear", "left",
 
 constexpr std::int32_t ClassPage = 1263;
 constexpr std::int32_t TypePage = 2006;
+constexpr std::int32_t FirstVariation = 10000; ///< ids of their texts
 
 /// The whole number that a value is or spells, rounded.
 std::optional<std::int32_t> NumberOf(const KeshValue& value) {
@@ -124,6 +126,12 @@ std::string GetShipClassName(const KeshValue& Value, std::int32_t Version) {
     if (const auto text = ResourceText(ClassPage, position))
         return *text;
     return isKey ? std::string() : ListItem(ShipClassLabels, position, true);
+}
+
+std::string GetShipVariationName(std::int32_t Variation) {
+    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max() - FirstVariation;
+    return Variation > most ? std::string()
+                            : ResourceText(ObjectNamePage, FirstVariation + Variation).value_or("");
 }
 
 std::string GetShipTypeName(const KeshValue& Value, std::int32_t Version, bool NoFallback) {

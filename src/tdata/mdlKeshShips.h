@@ -52,6 +52,8 @@ extern const TextTable TurretPositionNames;  ///< positions 1 to 6
 /// The class that field 5 of a ship of a file's version stands for, in the user's language where
 /// there is a text. A key that is not known comes back as it is; a known one without text is empty.
 [[nodiscard]] std::string GetShipClassName(const KeshValue& Value, std::int32_t Version);
+/// The text of a variation; empty where there is none.
+[[nodiscard]] std::string GetShipVariationName(std::int32_t Variation);
 /// The type that field 52 stands for. Without a text the stored value, or nothing with NoFallback.
 [[nodiscard]] std::string GetShipTypeName(const KeshValue& Value, std::int32_t Version,
                                           bool NoFallback);

@@ -40,7 +40,7 @@ std::unique_ptr<clsTxtParser> BuildWareList() {
     auto merged = std::make_unique<clsTxtParser>();
     std::int32_t index = 1;
     for (const std::string_view name : MergedFiles) {
-        const auto file = Archive ? Archive->GetFile(name) : nullptr;
+        const auto file = GameFileOf(name);
         if (!file)
             continue;
         for (const RecordPtr& record : file->ByIndex()) {

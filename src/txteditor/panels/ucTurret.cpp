@@ -48,8 +48,8 @@ bool ucTurret::LornQueryInterface(std::int32_t OType) const {
 }
 
 bool ucTurret::Init(clsTxtParser& Parser) {
-    if (!std::exchange(m_lasersSought, true) && Archive)
-        m_lasers = Archive->GetFile(ObjectTypeKeyOf(otype::Laser));
+    if (!std::exchange(m_lasersSought, true))
+        m_lasers = GameFileOf(ObjectTypeKeyOf(otype::Laser));
     m_rows.clear();
     if (m_lasers)
         m_rows = WeaponLists::RowsOf(

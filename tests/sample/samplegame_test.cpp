@@ -77,23 +77,21 @@ TEST_F(SampleGame, LeavesADirectoryWithFilesAlone) {
 }
 
 TEST_F(SampleGame, EveryTypeLoadsThroughTheView) {
-    const std::tuple<const char*, int, std::size_t> files[] = {
-        {"TBullets", 55, 16},    {"TLaser", 52, 14},    {"TMissiles", 52, 9},
-        {"TShields", 49, 4},     {"TCockpits", 49, 6},  {"TWareB", 48, 8},
-        {"TWareE", 48, 3},       {"TWareF", 48, 9},     {"TWareM", 48, 4},
-        {"TWareN", 48, 6},       {"TWareT", 48, 12},    {"TShips", 50, 52},
-        {"TFactories", 50, 30},  {"TDocks", 50, 6},     {"TSpecial", 48, 6},
-        {"Wrecks", 50, 4},       {"TGates", 48, 5},     {"TPlanets", 48, 8},
-        {"TSuns", 48, 4},        {"TAsteroids", 48, 5}, {"TDebris", 48, 3},
-        {"TBackgrounds", 48, 6}, {"TNebula", 15, 4},    {"Jobs", 10, 40},
-        {"JobWings", 0, 13},     {"WareLists", 0, 24},  {"IconData", 0, 31},
+    const std::pair<const char*, int> files[] = {
+        {"TBullets", 55},   {"TLaser", 52},       {"TMissiles", 52}, {"TShields", 49},
+        {"TCockpits", 49},  {"TWareB", 48},       {"TWareE", 48},    {"TWareF", 48},
+        {"TWareM", 48},     {"TWareN", 48},       {"TWareT", 48},    {"TShips", 50},
+        {"TFactories", 50}, {"TDocks", 50},       {"TSpecial", 48},  {"Wrecks", 50},
+        {"TGates", 48},     {"TPlanets", 48},     {"TSuns", 48},     {"TAsteroids", 48},
+        {"TDebris", 48},    {"TBackgrounds", 48}, {"TNebula", 15},   {"Jobs", 10},
+        {"JobWings", 0},    {"WareLists", 0},     {"IconData", 0},
     };
-    for (const auto& [name, version, count] : files) {
+    for (const auto& [name, version] : files) {
         SCOPED_TRACE(name);
         const auto parser = file(name);
         ASSERT_NE(parser, nullptr);
         EXPECT_EQ(parser->Version(), version);
-        EXPECT_EQ(parser->ByIndex().size(), count);
+        ASSERT_FALSE(parser->ByIndex().empty());
         EXPECT_FALSE(parser->ByIndex().back()->ObjectName().empty());
     }
 }

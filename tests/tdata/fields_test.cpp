@@ -34,39 +34,25 @@ TEST(Fields, AreNamedByTheTypeThenTheFrame) {
         // the type's table wins over head and tail
         {otype::Shields, 21, 5, "Index"},
         {otype::Shields, 21, 10, "Efficiency"}, // also N - 11
-        {otype::Laser, 23, 12, "HUD icon"},     // also N - 11
         {otype::Bullets, 47, 37, "Ammo"},       // also N - 10
-        {otype::Missiles, 37, 23, "Missile flags"},
-        {otype::Planets, 37, 10, "Scene file"},
-        {otype::Cockpits, 19, 8, "Possible lasers"}, // also N - 11
-        {otype::Suns, 19, 8, "Lens flare"},
-        // which are shared or differ
-        {otype::Factories, 29, 15, "Body exlosion def"},
-        {otype::Factories, 29, 17, "Size"},
-        {otype::Docks, 28, 17, "HUD icon"},
-        {otype::Wrecks, 20, 7, "Scene file"},
-        {otype::Backgrounds, 38, 5, "Galaxy subtype"},
+        {otype::Cockpits, 19, 8, "Possible lasers"},
         // head and tail
         {otype::Ware, 17, 0, "Body file"},
         {otype::Ware, 17, 6, "Description"}, // also N - 11
         {otype::Ware, 17, 7, "Volume"},
-        {otype::Ware, 17, 11, "Ware class"},
         {otype::Ware, 17, 15, "Skin index"},
         {otype::Ware, 17, 16, "N/A"},
-        {otype::Asteroids, 21, 20, "N/A"},
         {otype::Backgrounds, 38, 27, "N/A"}, // N - 11
         {otype::Nebula, 27, 17, "Volume"},   // the older, shorter record
         // neither
         {otype::Planets, 37, 11, "Unknown value"},
-        {otype::Backgrounds, 38, 24, "Unknown value"},
-        {otype::Ships, 65, 31, "Unknown value"},
         {otype::JobWings, 20, 0, "Unknown value"},
         // ships: the count of gun groups moves with the turrets
-        {otype::Ships, 65, 0, "Body file"},
         {otype::Ships, 65, 54, "Gun groups count"},
         {otype::Ships, 65, 55, "Volume"},
-        {otype::Jobs, 120, 77, "Rotation accel. limit"},
+        // jobs have no frame
         {otype::Jobs, 120, 7, "Unknown value"},
+        {otype::Jobs, 120, 119, "Unknown value"},
     };
     for (const NameCase& c : cases)
         EXPECT_EQ(FieldName(*record(c.type, c.size), c.index), c.name)
@@ -85,24 +71,18 @@ TEST(Fields, HaveTheTypesOfTheirTables) {
         std::int32_t expected;
     };
     const Case cases[] = {
-        {otype::Ware, 0, String},       {otype::Ware, 2, Float},
-        {otype::Ware, 5, Integer},      {otype::Ware, 7, String},
-        {otype::Shields, 7, String},    {otype::Shields, 10, Integer},
-        {otype::Laser, 7, Integer},     {otype::Laser, 11, Float},
-        {otype::Laser, 12, String},     {otype::Bullets, 7, Integer},
-        {otype::Bullets, 18, Float},    {otype::Missiles, 26, String},
-        {otype::Factories, 18, String}, {otype::Docks, 18, Integer},
-        {otype::Docks, 17, String},     {otype::Planets, 10, String},
-        {otype::Planets, 11, String},   {otype::Planets, 12, Integer},
-        {otype::Planets, 25, String},   {otype::Planets, 27, Integer},
-        {otype::Nebula, 13, String},    {otype::Nebula, 27, String},
-        {otype::Nebula, 29, Integer},   {otype::Asteroids, 6, Integer},
-        {otype::Asteroids, 10, String}, {otype::Asteroids, 500, Integer},
-        {otype::Ships, 3, Float},       {otype::Ships, 5, Integer},
-        {otype::Ships, 16, String},     {otype::Ships, 21, Float},
-        {otype::Ships, 52, Integer},    {otype::Cockpits, 0, Integer},
-        {otype::Cockpits, 7, String},   {otype::Jobs, 4, String},
+        // the head, which wins
+        {otype::Ware, 0, String},
+        {otype::Ware, 2, Float},
+        {otype::Ware, 5, Integer},
+        // but not where a type has its names alone, or nothing of it
+        {otype::Cockpits, 0, Integer},
         {otype::Jobs, 0, Integer},
+        // the type, and fields without a row
+        {otype::Ware, 7, String},
+        {otype::Ships, 21, Float},
+        {otype::Planets, 12, Integer},
+        {otype::Asteroids, 500, Integer},
     };
     for (const Case& c : cases)
         EXPECT_EQ(FieldValueType(c.type, ObjectSize(c.type), c.index), c.expected)
@@ -119,29 +99,20 @@ TEST(Fields, AreTranslatedByTypeAndVersion) {
         const char* unit = "";
     };
     const Case cases[] = {
-        {otype::Ships, 48, 2, Number, "rotations/min"},
         {otype::Ships, 48, 13, Number, "MW"},
-        {otype::Ships, 48, 5, List},
+        {otype::Ships, 48, 28, None},
+        // from a version on
         {otype::Ships, 48, 52, None},
         {otype::Ships, 49, 52, List},
-        {otype::Ships, 49, -6, List},
-        {otype::Ships, 49, 28, None},
         {otype::Laser, 49, 5, None},
         {otype::Laser, 50, 5, List},
-        {otype::Laser, 50, 7, Number, "Rnds/min"},
-        {otype::Factories, 48, 5, List},
         {otype::Factories, 47, 5, None},
-        {otype::Factories, 47, 12, Number},
-        {otype::Docks, 47, 13, List},
-        {otype::Wrecks, 48, 5, List},
+        {otype::Factories, 48, 5, List},
         {otype::Special, 99, 5, None},
+        // the ware class, where there is the whole frame
         {otype::Special, 99, -6, List},
-        {otype::Bullets, 55, 14, Number, "Hexadecimal"},
-        {otype::Bullets, 55, -2, List},
-        {otype::Nebula, 15, 9, Number, "m"},
-        {otype::Backgrounds, 1, 25, Number, "m"},
         {otype::Cockpits, 49, -6, None},
-        {otype::Jobs, 10, 13, None},
+        {otype::Bullets, 55, -2, List}, // counted from the end
     };
     for (const Case& c : cases) {
         const std::int32_t size = c.type == otype::Jobs ? 120 : ObjectSize(c.type);
@@ -221,18 +192,7 @@ TEST(WareClasses, FallBackOneByOne) {
     EXPECT_EQ(names[5], "stations");
 }
 
-TEST(Jobs, MapLogicalFieldsToPlaces) {
-    struct Case {
-        std::int32_t size;
-        std::int32_t logical;
-        std::int32_t physical;
-    };
-    const Case cases[] = {{117, 36, 36},   {117, 37, 36},   {117, 54, 53}, {117, 55, 53},
-                          {117, 56, 54},   {117, 85, 83},   {117, 86, 83}, {117, 87, 84},
-                          {117, 119, 116}, {119, 54, 54},   {119, 55, 54}, {119, 119, 118},
-                          {120, 55, 55},   {120, 119, 119}, {119, 36, 36}};
-    for (const Case& c : cases)
-        EXPECT_EQ(JobPhysicalIndex(c.size, c.logical), c.physical) << c.size << ' ' << c.logical;
+TEST(Jobs, EachPlaceLeadsToItsFieldAndBack) {
     for (const std::int32_t size : {117, 119, 120})
         for (std::int32_t place = 0; place < size; ++place)
             EXPECT_EQ(JobPhysicalIndex(size, JobLogicalIndex(size, place)), place) << size;

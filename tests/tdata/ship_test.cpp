@@ -79,39 +79,11 @@ TEST(Ship, TurretsGrowFromTheFrontCockpitToSeven) {
     EXPECT_TRUE(ship.Validate()) << ship.GetLastError();
 }
 
-TEST(Ship, RemovingTheOnlyTurretTakesItsGuns) {
-    Loaded ship(shipText("1;1;0;B;7;1;1;2;1;1;1;2;G;1;;-1;", "2"));
-    EXPECT_TRUE(ship.RemoveTurret(*ship.Turrets()[0])) << ship.GetLastError();
-    EXPECT_EQ(joined(*ship.Object), shipText("0;0;"));
-    EXPECT_TRUE(ship.GunGroups().empty());
-}
-
 TEST(Ship, RemovingATurretOfNoPairZeroesNoOtherField) {
     Loaded ship(shipText("1;9;1;B;7;1;1;0;9;0;"));
     ship.SetValue(45, 5);
     EXPECT_TRUE(ship.RemoveTurret(*ship.Turrets()[0]));
     EXPECT_EQ(ship.Value(45), KeshValue(5));
-}
-
-TEST(Ship, GunsAreNumberedThroughAllGroups) {
-    ArmedShip ship;
-    const auto first = ship.GunGroups()[0];
-    const auto second = ship.GunGroups()[1];
-    const auto gun = first->MakeNewGun();
-    EXPECT_EQ(gun->Offset(), 55 + 8 + 4 + 12);
-    EXPECT_EQ(second->Offset(), 55 + 8 + 4 + 18);
-    EXPECT_EQ(second->Guns()[0]->Offset(), second->Offset() + 4);
-    EXPECT_EQ(ship.Turrets()[1]->Offset(), 58);
-    gun->SetValue(1, 3);
-    first->RefreshGunCount();
-    EXPECT_EQ(sectionsOf(ship), "2;1;0;B1;7;2;1;B2;8;2;"
-                                "1;6;1;3;1;1;G;1;;-1;2;2;G;2;H;3;4;3;;;;;"
-                                "7;3;2;1;7;3;K;5;;-1;");
-    EXPECT_EQ(ship.GunCount(), 9);
-    first->RemoveGun(*gun);
-    EXPECT_EQ(sectionsOf(ship), armed);
-    EXPECT_EQ(ship.GunCount(), 6);
-    EXPECT_EQ(objectsOf(ship), "Tk1@54 Tk2@58 Gk1@63 gk1@67 gk2@73 Gk2@79 gk1@83 ");
 }
 
 TEST(Ship, RemoveGunTakesTheLastEntrysDataAndTheGivenObject) {

@@ -239,7 +239,6 @@ TEST_F(WareFieldsTest, WithoutFilesStoredValuesServeUntilTheyAreThere) {
 // What the panels promise for a field and its conversion go together, in every type.
 TEST_F(WareFieldsTest, EveryFieldOfAClassHasItsConversion) {
     useFiles();
-    std::string units;
     for (std::int32_t type = otype::Shields; type <= otype::Nebula; ++type) {
         if (type == otype::Cockpits)
             continue;
@@ -255,13 +254,9 @@ TEST_F(WareFieldsTest, EveryFieldOfAClassHasItsConversion) {
             if (kind == translation::Number) {
                 EXPECT_NE(shown(*record, i, false), None) << type << '.' << i;
                 EXPECT_EQ(entered(*record, i, "?"), None) << type << '.' << i;
-                units += std::string(FieldUnit(type, record->size(), i)) + ' ';
             }
         }
     }
-    EXPECT_EQ(units,
-              "kW kJ Rnds/min s m/s Hexadecimal Hexadecimal Hexadecimal m/s m/s m s s   m m m "
-              "m ");
 }
 
 TEST_F(WareFieldsTest, IconsAreThoseOfTheInterface) {

@@ -1,5 +1,6 @@
 #include "tdata/CheckReferences.h"
 
+#include "tdata/JobFields.h"
 #include "tdata/clsArchive.h"
 #include "tdata/mdlWareList.h"
 #include "textres/clsDescServer.h"
@@ -54,7 +55,7 @@ bool CheckReferences::HasJob(std::int32_t Number) {
         m_jobs.emplace();
         if (const clsTxtParser* const file = File("Jobs"))
             for (const RecordPtr& record : file->ByIndex())
-                if (const auto number = record->ValueInteger(0))
+                if (const auto number = GetJobInteger(*record, jobfield::Number))
                     m_jobs->insert(keshobjects::keyOf(0, *number));
     }
     return m_jobs->contains(keshobjects::keyOf(0, Number));

@@ -3,6 +3,8 @@
 #include "lornfd/paths.h"
 #include "tdata/FieldLookup.h"
 #include "tdata/JobFields.h"
+#include "tdata/RecordNames.h"
+#include "tdata/RecordReference.h"
 #include "tdata/clsShip.h"
 #include "tdata/clsTurret.h"
 #include "tdata/mdlKeshConst.h"
@@ -38,6 +40,7 @@ private:
 
     // The file, record by record
     void CheckRecord(const RecordPtr& object);
+    void CheckFields(Record record);
     void CheckDuplicate(Record record);
     void CheckShip(const RecordPtr& record);
     void CheckTurret(Record record, const clsTurret& turret);
@@ -52,13 +55,9 @@ private:
     void WareClass(Record record, std::int32_t field) {
         InTable(record, field, DefaultWareClassNames, "ware class");
     }
-    void Bullet(Record record, std::int32_t field) { InFile(record, field, "TBullets"); }
-    void Shield(Record record, std::int32_t field) { InFile(record, field, "TShields"); }
-    void WareList(Record record, std::int32_t field);
-    void ShipID(Record record, std::int32_t field);
-    void JobWing(Record record, std::int32_t field);
     void ObjectName(Record record, std::int32_t field);
     void TextId(Record record, std::int32_t field);
+    void Refers(Record record, std::int32_t field, const FieldReference& reference);
 
     // What several of them ask
     void InWords(Record record, std::int32_t field, const TextTable& words, std::string_view what);
@@ -75,6 +74,7 @@ private:
     std::string m_file;
     CheckReferences& m_references;
     std::vector<Rule> m_rules;                            ///< of this file's type
+    std::vector<FieldReference> m_links;                  ///< the same
     std::unordered_map<std::string, std::int32_t> m_seen; ///< IDs in lower case
     std::set<std::string, std::less<>> m_missing;         ///< files that a note stands for
     std::vector<Finding> m_findings;
@@ -82,26 +82,20 @@ private:
 
 const Checker::Rule Checker::Rules[] = {
     {otype::Ships, shipfield::Class, &Checker::ShipClass},
-    {otype::Ships, shipfield::Shield, &Checker::Shield},
-    {otype::Ships, shipfield::WareList, &Checker::WareList},
     {otype::Ships, shipfield::CargoClass, &Checker::WareClass},
     {otype::Ships, shipfield::Race, &Checker::Race},
     {otype::Ships, shipfield::Type, &Checker::ShipType},
-    {otype::Laser, 5, &Checker::Subtype},
-    {otype::Laser, 9, &Checker::Bullet},
-    {otype::Missiles, 5, &Checker::Subtype},
-    {otype::Factories, 5, &Checker::Subtype},
+    {otype::Laser, CommonSubtypeField, &Checker::Subtype},
+    {otype::Missiles, CommonSubtypeField, &Checker::Subtype},
+    {otype::Factories, CommonSubtypeField, &Checker::Subtype},
     {otype::Factories, 13, &Checker::Race},
-    {otype::Docks, 5, &Checker::Subtype},
+    {otype::Docks, CommonSubtypeField, &Checker::Subtype},
     {otype::Docks, 13, &Checker::Race},
-    {otype::Wrecks, 5, &Checker::Subtype},
-    {AnyFramed, 6, &Checker::ObjectName},
+    {otype::Wrecks, CommonSubtypeField, &Checker::Subtype},
+    {AnyFramed, CommonNameField, &Checker::ObjectName},
     {AnyFramed, -6, &Checker::WareClass},
     {otype::Jobs, jobfield::Description, &Checker::TextId},
     {otype::Jobs, jobfield::ShipName, &Checker::TextId},
-    {otype::Jobs, jobfield::Wing, &Checker::JobWing},
-    {otype::Jobs, jobfield::WareList, &Checker::WareList},
-    {otype::Jobs, jobfield::Ship, &Checker::ShipID},
 };
 
 /// Jobs and wings are known by their first value, ware lists and the root of icons by their place
@@ -126,6 +120,9 @@ Checker::Checker(const clsTxtParser& parser, std::string file, CheckReferences& 
     for (const Rule& rule : Rules)
         if (rule.Type == parser.otype() || (rule.Type == AnyFramed && framed))
             m_rules.push_back(rule);
+    for (const FieldReference& reference : FieldReferences())
+        if (reference.Type == parser.otype())
+            m_links.push_back(reference);
 }
 
 std::vector<Finding> Checker::Run() {
@@ -139,14 +136,7 @@ std::vector<Finding> Checker::Run() {
 void Checker::CheckRecord(const RecordPtr& object) {
     const clsTXTObject& record = *object;
     const std::int32_t type = record.otype;
-    for (const Rule& rule : m_rules) {
-        const std::int32_t field = rule.Field < 0 ? record.size() + rule.Field
-                                   : type == otype::Jobs
-                                       ? JobPhysicalIndex(record.size(), rule.Field)
-                                       : rule.Field;
-        if (field >= 0 && field < record.size())
-            (this->*rule.Check)(record, field);
-    }
+    CheckFields(record);
     CheckDuplicate(record);
     if (type == otype::Ships)
         CheckShip(object);
@@ -154,6 +144,21 @@ void Checker::CheckRecord(const RecordPtr& object) {
         CheckWareList(record);
     else if (type == otype::JobWings)
         CheckJobWing(record);
+}
+
+void Checker::CheckFields(Record record) {
+    const std::int32_t size = record.size();
+    const auto placeOf = [&](std::int32_t field) {
+        if (field < 0)
+            return size + field;
+        return record.otype == otype::Jobs ? JobPhysicalIndex(size, field) : field;
+    };
+    for (const Rule& rule : m_rules)
+        if (const std::int32_t place = placeOf(rule.Field); place >= 0 && place < size)
+            (this->*rule.Check)(record, place);
+    for (const FieldReference& reference : m_links)
+        if (const std::int32_t place = placeOf(reference.Field); place >= 0 && place < size)
+            Refers(record, place, reference);
 }
 
 void Checker::CheckDuplicate(Record record) {
@@ -239,23 +244,16 @@ void Checker::ShipType(Record record, std::int32_t field) {
     InWords(record, field, keys ? ShipObjectTypeKeys : ShipObjectTypeIDs, "ship type");
 }
 
-void Checker::WareList(Record record, std::int32_t field) {
-    if (const auto none = record.ValueInteger(field); !none || *none >= 0)
-        InFile(record, field, "WareLists");
-}
-
-void Checker::ShipID(Record record, std::int32_t field) {
-    const std::string_view id = record.ValueText(field);
-    if (!id.empty() && id != "0" && Have("TShips") && !m_references.HasShip(id))
-        Add(record, field, Said(record, field) + ", but there is no such ship.");
-}
-
-void Checker::JobWing(Record record, std::int32_t field) {
-    const auto number = record.ValueInteger(field);
-    if (number && *number <= 0)
+void Checker::Refers(Record record, std::int32_t field, const FieldReference& reference) {
+    if (reference.NamesNone(record, field))
         return;
-    if (Have("JobWings") && !m_references.HasJobWing(record.Value(field)))
-        Add(record, field, Said(record, field) + ", but there is no such group.");
+    if (reference.How == FieldReference::By::Index)
+        return InFile(record, field, reference.File);
+    const bool ship = reference.How == FieldReference::By::ID;
+    if (Have(reference.File) && !(ship ? m_references.HasShip(record.ValueText(field))
+                                       : m_references.HasJobWing(record.Value(field))))
+        Add(record, field,
+            Said(record, field) + ", but there is no such " + (ship ? "ship." : "group."));
 }
 
 void Checker::TextId(Record record, std::int32_t field) {

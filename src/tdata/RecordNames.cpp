@@ -1,5 +1,6 @@
 #include "tdata/RecordNames.h"
 
+#include "tdata/JobFields.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlRecordNumbers.h"
 #include "textres/ResourceText.h"
@@ -11,5 +12,6 @@ std::string RecordName(const clsTXTObject& Record) {
 }
 
 std::string RecordID(const clsTXTObject& Record) {
-    return Record.otype == otype::Jobs ? SpellingAt(Record, 0) : std::string(Record.ObjectName());
+    return Record.otype == otype::Jobs ? SpellingAt(Record, jobfield::Number)
+                                       : std::string(Record.ObjectName());
 }

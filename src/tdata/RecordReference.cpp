@@ -1,9 +1,11 @@
 #include "tdata/RecordReference.h"
 
+#include "tdata/JobFields.h"
 #include "tdata/JobWingIndex.h"
 #include "tdata/clsArchive.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshJobs.h"
+#include "tdata/mdlKeshShips.h"
 #include "tdata/mdlRecordNumbers.h"
 #include "tdata/mdlWareList.h"
 
@@ -11,55 +13,61 @@
 
 namespace {
 
-enum class Named { ByIndex, ByID, ByNumber };
+using By = FieldReference::By;
 
-struct Reference {
-    std::int32_t Type;
-    std::int32_t Field; ///< logical in a job
-    std::string_view File;
-    Named How;
+constexpr FieldReference References[] = {
+    {otype::Ships, shipfield::Shield, "TShields", By::Index, false},
+    {otype::Ships, shipfield::WareList, "WareLists", By::Index},
+    {otype::Laser, 9, "TBullets", By::Index, false},
+    {otype::Bullets, 37, "TWareT", By::Index},
+    {otype::Jobs, jobfield::Wing, "JobWings", By::Number},
+    {otype::Jobs, jobfield::WareList, "WareLists", By::Index},
+    {otype::Jobs, jobfield::Ship, "TShips", By::ID},
 };
-constexpr Reference References[] = {
-    {otype::Ships, 22, "TShields", Named::ByIndex}, {otype::Ships, 30, "WareLists", Named::ByIndex},
-    {otype::Laser, 9, "TBullets", Named::ByIndex},  {otype::Bullets, 37, "TWareT", Named::ByIndex},
-    {otype::Jobs, 13, "JobWings", Named::ByNumber}, {otype::Jobs, 14, "WareLists", Named::ByIndex},
-    {otype::Jobs, 18, "TShips", Named::ByID},
-};
-
-std::optional<RecordAddress> AddressOf(const Reference& reference, const clsTXTObject& record,
-                                       std::int32_t place) {
-    RecordAddress address{std::string(reference.File)};
-    if (reference.How == Named::ByIndex) {
-        address.Index = IntegerAt(record, place).value_or(-1);
-        return address.Index >= 0 ? std::optional(std::move(address)) : std::nullopt;
-    }
-    address.Name = SpellingAt(record, place);
-    const bool none = address.Name.empty() || (reference.How == Named::ByNumber &&
-                                               NumberAt(record, place).value_or(0) == 0);
-    return none ? std::nullopt : std::optional(std::move(address));
-}
 
 RecordPtr FindJob(const clsTxtParser& jobs, const std::string& number) {
     const KeshValue wanted = keshobjects::readValue(number);
     const auto& all = jobs.ByIndex();
     const auto found = std::find_if(all.begin(), all.end(), [&](const RecordPtr& job) {
-        return job->size() > 0 && keshobjects::equalValues(job->Value(0), wanted);
+        return job->size() > 0 && keshobjects::equalValues(job->Value(jobfield::Number), wanted);
     });
     return found == all.end() ? nullptr : *found;
 }
 
 } // namespace
 
+bool FieldReference::NamesNone(const clsTXTObject& Record, std::int32_t Place) const {
+    if (How == By::ID) {
+        const std::string id = SpellingAt(Record, Place);
+        return id.empty() || id == "0";
+    }
+    const auto number = IntegerAt(Record, Place);
+    return number && (How == By::Number ? *number <= 0 : Optional && *number < 0);
+}
+
+std::span<const FieldReference> FieldReferences() {
+    return References;
+}
+
 std::optional<RecordAddress> ReferenceOf(const clsTXTObject& Record, std::int32_t Index) {
     const auto* found =
-        std::find_if(std::begin(References), std::end(References), [&](const Reference& row) {
+        std::find_if(std::begin(References), std::end(References), [&](const FieldReference& row) {
             return row.Type == Record.otype && row.Field == Index;
         });
     if (found == std::end(References))
         return {};
     const std::int32_t place =
         Record.otype == otype::Jobs ? JobPhysicalIndex(Record.size(), Index) : Index;
-    return AddressOf(*found, Record, place);
+    if (place < 0 || place >= Record.size() || found->NamesNone(Record, place))
+        return {};
+    RecordAddress address{std::string(found->File)};
+    const auto number = IntegerAt(Record, place);
+    if (found->How == By::Index)
+        address.Index = number.value_or(-1);
+    else if (found->How == By::ID || number)
+        address.Name = SpellingAt(Record, place);
+    return address.Index >= 0 || !address.Name.empty() ? std::optional(std::move(address))
+                                                       : std::nullopt;
 }
 
 std::optional<RecordAddress> WareAddress(std::string_view ID) {

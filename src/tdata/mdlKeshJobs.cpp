@@ -1,6 +1,7 @@
 #include "tdata/mdlKeshJobs.h"
 
 #include "tdata/FieldTable.h"
+#include "tdata/JobFields.h"
 
 #include <algorithm>
 #include <iterator>
@@ -51,7 +52,8 @@ struct JobLayout {
     std::int32_t Size;
     std::span<const std::int32_t> Missing = {};
 };
-constexpr JobLayout JobLayouts[] = {{8, 117, MissingOf117}, {9, 119, MissingOf119}, {10, 120}};
+constexpr JobLayout JobLayouts[] = {
+    {8, 117, MissingOf117}, {9, 119, MissingOf119}, {10, jobfield::Count}};
 
 std::span<const std::int32_t> MissingFields(std::int32_t size) {
     const auto* const layout = std::ranges::find(JobLayouts, size, &JobLayout::Size);

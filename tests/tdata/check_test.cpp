@@ -68,6 +68,7 @@ TEST_F(CheckTest, MissingFilesAreNotedOnceAndTheirReferencesPassedOver) {
 TEST_F(CheckTest, PositionsRunFromTheFirstObjectToTheLast) {
     haveFiles({{"TBullets", "53;2;" + repeat(repeat("0;", 47), 2)},
                {"TShields", "1;1;" + repeat("0;", 21)},
+               {"TWareT", "48;1;" + repeat("0;", 17)},
                {"WareLists", "2;1;A;1;B;"}});
     for (const auto& [bullet, expected] :
          std::initializer_list<std::pair<const char*, const char*>>{
@@ -76,6 +77,12 @@ TEST_F(CheckTest, PositionsRunFromTheFirstObjectToTheLast) {
     EXPECT_EQ(found("1;1;" + ship("0", "1"), otype::Ships), "");
     EXPECT_EQ(found("1;1;" + ship("0", "-1"), otype::Ships), ""); // no list at all
     EXPECT_EQ(found("1;1;" + ship("1", "2"), otype::Ships), "0:22:E 0:30:E ");
+    EXPECT_EQ(found("1;1;" + ship("-1", "0"), otype::Ships), "0:22:E ");
+    const auto bulletOf = [](const std::string& ammo) {
+        return "53;1;" + repeat("0;", 37) + ammo + ';' + repeat("0;", 8) + "BUL;";
+    };
+    EXPECT_EQ(found(bulletOf("0"), otype::Bullets) + found(bulletOf("-1"), otype::Bullets), "");
+    EXPECT_EQ(found(bulletOf("1"), otype::Bullets), "0:37:E ");
 }
 
 TEST_F(CheckTest, JobsReferToWingsByNameOrNumber) {

@@ -4,6 +4,7 @@
 #include "tdata/JobFields.h"
 #include "tdata/RecordNames.h"
 #include "tdata/mdlKeshConst.h"
+#include "tdata/mdlKeshShips.h"
 #include "tdata/mdlRecordNumbers.h"
 #include "ui/TextCodec.h"
 
@@ -15,14 +16,11 @@ namespace {
 constexpr int boxWidth = 6;        ///< characters, at least
 constexpr int completionRows = 15; ///< that are seen at once
 
-constexpr std::int32_t raceField = 45;
-constexpr std::int32_t variantField = 50;
-
 /// Race, name and variant; the ID where there is no name.
 std::string describedShip(const clsTXTObject& ship) {
-    std::string text = ListItem(RaceNames, IntegerAt(ship, raceField).value_or(0), false);
+    std::string text = ListItem(RaceNames, IntegerAt(ship, shipfield::Race).value_or(0), false);
     AppendLine(text, RecordName(ship), " ");
-    if (const auto variant = IntegerAt(ship, variantField); variant.value_or(0) > 0)
+    if (const auto variant = IntegerAt(ship, shipfield::Variation); variant.value_or(0) > 0)
         text += " (" + JobVariantName(*variant) + ")";
     return text;
 }

@@ -141,8 +141,8 @@ WareListViewer::WareListViewer(QWidget* Parent, const char* ViewName)
 
 void WareListViewer::Init() {
     m_view->Init();
-    if (!std::exchange(m_sought, true) && Archive)
-        m_lists = Archive->GetFile("WareLists");
+    if (!std::exchange(m_sought, true))
+        m_lists = GameFileOf("WareLists");
 }
 
 void WareListViewer::ShowWareList(std::int32_t ID, const QString& Spelling) {

@@ -37,10 +37,6 @@ RecordFilter filterOf(const QString& name, const QString& any, const JobBoxRow& 
     return filter;
 }
 
-std::shared_ptr<clsTxtParser> fileOf(const char* name) {
-    return Archive ? Archive->GetFile(name) : nullptr;
-}
-
 /// The text that a field names, or its place in brackets; empty for an empty field.
 QString textOf(const clsTXTObject& job, std::int32_t field) {
     const std::string_view id = GetJobText(job, field);
@@ -74,9 +70,9 @@ bool ucJob::Init(clsTxtParser& Parser) {
 }
 
 void ucJob::LoadFiles() {
-    m_ship->SetShips(fileOf("TShips").get(), Settings && Settings->LoadDescriptions());
+    m_ship->SetShips(GameFileOf("TShips").get(), Settings && Settings->LoadDescriptions());
     m_wings.reset();
-    if (const auto wings = fileOf("JobWings"))
+    if (const auto wings = GameFileOf("JobWings"))
         m_wings.emplace(*wings);
     for (JobBoxes* boxes : m_boxes)
         boxes->Rename();

@@ -79,7 +79,9 @@ bool GoToAction::TakeClick(const QMouseEvent& Click) {
             return false;
         if (!m_finish())
             return true;
-        view->setCurrentIndex(row);
+        view->selectionModel()->setCurrentIndex(row, // the view itself would heed Ctrl
+                                                QItemSelectionModel::ClearAndSelect |
+                                                    QItemSelectionModel::Rows);
     }
     if (!m_find())
         return qobject_cast<QAbstractItemView*>(&m_widget) != nullptr;      // its row is selected

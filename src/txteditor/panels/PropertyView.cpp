@@ -47,6 +47,16 @@ void releaseButtons(const QWidget& window) {
         button->setDown(false);
 }
 
+/// A colour as it is: with a frame, since it may be the row's own, and not tinted by a selection.
+QIcon swatchOf(const QColor& color, const QSize& size, const QColor& frame) {
+    QPixmap swatch(size);
+    swatch.fill(frame);
+    QPainter(&swatch).fillRect(swatch.rect().adjusted(1, 1, -1, -1), color);
+    QIcon icon(swatch);
+    icon.addPixmap(swatch, QIcon::Selected);
+    return icon;
+}
+
 /// Makes the editor of a value, and lets the list decide what becomes of its text.
 class EntryDelegate : public QStyledItemDelegate {
 public:
@@ -69,6 +79,15 @@ public:
     }
     void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex&) const override {
         m_view.TakeEntry(editor);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const auto color = index.data(Qt::DecorationRole).value<QColor>();
+        if (color.isValid())
+            option->icon =
+                swatchOf(color, option->decorationSize, option->palette.color(QPalette::Mid));
     }
 
 private:

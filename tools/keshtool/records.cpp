@@ -1,11 +1,8 @@
 #include "commands.h"
 #include "json.h"
-#include "lornfd/lornfd.h"
-#include "lornfd/paths.h"
+#include "lornfd/packing.h"
 #include "tdata/FieldLookup.h"
 #include "tfile.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -55,12 +52,6 @@ void dumpNames(const clsTxtParser& parser) {
     }
 }
 
-/// The form that a name asks for: packed for ".pck", else plain.
-std::int32_t fileTypeOf(const std::string& path) {
-    const std::string folded = lornfd::foldCase(path);
-    return folded.ends_with(".pck") ? LORNFD_ZSTD : LORNFD_PLAIN;
-}
-
 } // namespace
 
 ExitCode dump(GameView& view, const Arguments& arguments) {
@@ -81,7 +72,7 @@ ExitCode convert(GameView& view, const Arguments& arguments) {
     clsTxtParser parser;
     loadTFile(parser, from);
     const std::string leftOut = parser.LeftOut();
-    OutputFile out(to, arguments.fileType.value_or(fileTypeOf(to)));
+    OutputFile out(to, arguments.fileType.value_or(lornfd::formByName(to)));
     if (!parser.Save(out.handle())) {
         if (parser.GetLastError().empty())
             throw tFileFailure(from, "There is no record in it, so nothing was saved.");

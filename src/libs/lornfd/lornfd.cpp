@@ -5,6 +5,7 @@
 #include "lornfd/handle.h"
 #include "lornfd/handletable.h"
 #include "lornfd/lockfile.h"
+#include "lornfd/packing.h"
 #include "lornfd/paths.h"
 #include "lornfd/platform.h"
 #include "lornfd/reader.h"
@@ -53,7 +54,7 @@ bool areKnown(std::string_view name, std::int32_t access, std::int32_t create,
               std::int32_t fileType) {
     const bool known = (access == LORNFD_READ || access == LORNFD_WRITE) &&
                        (create == LORNFD_OPEN_EXISTING || create == LORNFD_CREATE) &&
-                       fileType >= LORNFD_AS_IS && fileType <= LORNFD_ZSTD;
+                       (fileType == LORNFD_AS_IS || isKnownForm(fileType));
     return known || fail(LORNFD_E_ARGUMENT, {.file = FileName::parse(name).shown(),
                                              .place = {},
                                              .reason = "unknown access, create or file type"});

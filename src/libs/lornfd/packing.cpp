@@ -1,135 +1,31 @@
 #include "lornfd/packing.h"
 
 #include "lornfd/errors.h"
+#include "lornfd/packedform.h"
+#include "lornfd/paths.h"
 
 #include <algorithm>
-#include <libdeflate.h>
-#include <memory>
 #include <string>
-#include <zstd.h>
-#include <zstd_errors.h>
 
 namespace lornfd {
 
 namespace {
 
-struct Decoded {
-    enum class State { Done, NoRoom, Broken } state;
-    std::size_t consumed = 0; ///< packed bytes, when done
-    std::size_t produced = 0; ///< unpacked bytes, when done
-    std::string reason = {};  ///< when broken
-};
-
-/// A packed form. Adding one is adding a row to the table below.
-struct PackedForm {
-    std::int32_t form;
-    std::string_view signature;
-    /// Unpacked bytes that one packed byte can stand for at most, and what may come on top.
-    std::size_t ratio;
-    std::size_t extra;
-    /// The size that the data claims, or nothing.
-    std::optional<unsigned long long> (*claimedSize)(std::string_view packed);
-    Decoded (*decode)(std::string_view packed, char* room, std::size_t roomSize);
-    std::size_t (*encodedBound)(std::size_t size);
-    /// The packed size, 0 if there is no memory.
-    std::size_t (*encode)(std::string_view content, Buffer& room);
-};
-
-// ---- gzip
-
-constexpr int gzipLevel = 6;
-
-std::optional<unsigned long long> gzipClaim(std::string_view packed) {
-    constexpr std::size_t footer = 4; // the size modulo 2^32, lowest byte first
-    if (packed.size() < footer)
-        return std::nullopt;
-    unsigned long long size = 0;
-    for (std::size_t i = 0; i < footer; ++i)
-        size |= std::uint64_t{static_cast<unsigned char>(packed[packed.size() - footer + i])}
-                << (8 * i);
-    return size;
-}
-
-Decoded decodeGzip(std::string_view packed, char* room, std::size_t roomSize) {
-    thread_local const std::unique_ptr<libdeflate_decompressor,
-                                       decltype(&libdeflate_free_decompressor)>
-        decompressor(libdeflate_alloc_decompressor(), &libdeflate_free_decompressor);
-    Decoded decoded = {Decoded::State::Done};
-    switch (libdeflate_gzip_decompress_ex(decompressor.get(), packed.data(), packed.size(), room,
-                                          roomSize, &decoded.consumed, &decoded.produced)) {
-    case LIBDEFLATE_SUCCESS:
-        return decoded;
-    case LIBDEFLATE_INSUFFICIENT_SPACE:
-        return {Decoded::State::NoRoom};
-    default:
-        return {.state = Decoded::State::Broken, .reason = "gzip data that is cut or damaged"};
-    }
-}
-
-std::size_t gzipBound(std::size_t size) {
-    return libdeflate_gzip_compress_bound(nullptr, size);
-}
-
-std::size_t encodeGzip(std::string_view content, Buffer& room) {
-    const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
-        libdeflate_alloc_compressor(gzipLevel), &libdeflate_free_compressor);
-    return compressor ? libdeflate_gzip_compress(compressor.get(), content.data(), content.size(),
-                                                 room.data(), room.size())
-                      : 0;
-}
-
-// ---- Zstandard
-
-constexpr int zstdLevel = 3;
-
-std::optional<unsigned long long> zstdClaim(std::string_view packed) {
-    const unsigned long long size = ZSTD_getFrameContentSize(packed.data(), packed.size());
-    if (size == ZSTD_CONTENTSIZE_UNKNOWN || size == ZSTD_CONTENTSIZE_ERROR)
-        return std::nullopt;
-    return size;
-}
-
-Decoded decodeZstd(std::string_view packed, char* room, std::size_t roomSize) {
-    thread_local const std::unique_ptr<ZSTD_DCtx, decltype(&ZSTD_freeDCtx)> context(
-        ZSTD_createDCtx(), &ZSTD_freeDCtx);
-    const std::size_t frame = ZSTD_findFrameCompressedSize(packed.data(), packed.size());
-    const std::size_t produced =
-        ZSTD_isError(frame)
-            ? frame
-            : ZSTD_decompressDCtx(context.get(), room, roomSize, packed.data(), frame);
-    if (!ZSTD_isError(produced))
-        return {.state = Decoded::State::Done, .consumed = frame, .produced = produced};
-    if (ZSTD_getErrorCode(produced) == ZSTD_error_dstSize_tooSmall)
-        return {Decoded::State::NoRoom};
-    return {.state = Decoded::State::Broken,
-            .reason = std::string("Zstandard data that is cut or damaged (") +
-                      ZSTD_getErrorName(produced) + ")"};
-}
-
-std::size_t encodeZstd(std::string_view content, Buffer& room) {
-    const std::unique_ptr<ZSTD_CCtx, decltype(&ZSTD_freeCCtx)> context(ZSTD_createCCtx(),
-                                                                       &ZSTD_freeCCtx);
-    if (!context)
-        return 0;
-    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_compressionLevel, zstdLevel);
-    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_checksumFlag, 1);
-    const std::size_t size =
-        ZSTD_compress2(context.get(), room.data(), room.size(), content.data(), content.size());
-    return ZSTD_isError(size) ? 0 : size;
-}
-
-constexpr PackedForm forms[] = {
-    {LORNFD_GZIP, "\x1f\x8b\x08", 1032, 0, gzipClaim, decodeGzip, gzipBound, encodeGzip},
-    // A block of at least 3 bytes holds at most ZSTD_BLOCKSIZE_MAX.
-    {LORNFD_ZSTD, "\x28\xb5\x2f\xfd", ZSTD_BLOCKSIZE_MAX / 3, ZSTD_BLOCKSIZE_MAX, zstdClaim,
-     decodeZstd, ZSTD_compressBound, encodeZstd},
-};
+constexpr const PackedForm* forms[] = {&gzipForm, &zstdForm};
 
 /// Null for a plain file.
 const PackedForm* formOf(std::string_view stored) noexcept {
-    const auto fits = [&](const PackedForm& form) { return stored.starts_with(form.signature); };
-    const PackedForm* const form = std::ranges::find_if(forms, fits);
-    return form != std::end(forms) ? form : nullptr;
+    for (const PackedForm* const form : forms)
+        if (stored.starts_with(form->signature))
+            return form;
+    return nullptr;
+}
+
+const PackedForm* formOf(std::int32_t number) noexcept {
+    for (const PackedForm* const form : forms)
+        if (form->form == number)
+            return form;
+    return nullptr;
 }
 
 std::nullopt_t tooBig(std::string_view name, const std::string& reason, std::size_t bytes) {
@@ -191,6 +87,18 @@ std::optional<Buffer> unpackForm(const PackedForm& form, std::string_view packed
 
 } // namespace
 
+bool isKnownForm(std::int32_t form) noexcept {
+    return form == LORNFD_PLAIN || formOf(form);
+}
+
+std::int32_t formByName(std::string_view name) noexcept {
+    constexpr std::string_view packedExtension = ".pck";
+    const bool packed =
+        name.size() >= packedExtension.size() &&
+        equalNoCase(name.substr(name.size() - packedExtension.size()), packedExtension);
+    return packed ? LORNFD_ZSTD : LORNFD_PLAIN;
+}
+
 std::int32_t packedForm(std::string_view stored) noexcept {
     const PackedForm* const form = formOf(stored);
     return form ? form->form : LORNFD_PLAIN;
@@ -220,8 +128,8 @@ std::optional<Buffer> unpack(std::string_view stored, std::string_view nameForMe
 
 std::optional<Buffer> pack(std::string_view content, std::int32_t form,
                            std::string_view nameForMessages) {
-    const auto row = std::ranges::find(forms, form, &PackedForm::form);
-    if (row == std::end(forms))
+    const PackedForm* const row = formOf(form);
+    if (!row)
         return copy(content, nameForMessages);
     if (content.size() > static_cast<std::size_t>(LORNFD_MAX_UNPACKED))
         return tooBig(nameForMessages, "packed files hold at most", LORNFD_MAX_UNPACKED);

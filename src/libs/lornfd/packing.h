@@ -1,4 +1,4 @@
-// Packed forms. Each is a row of functions with a test for its signature. Format: docs/formats.md.
+// Packed forms, each in a file of its own behind packedform.h. Format: docs/formats.md.
 #pragma once
 
 #include "lornfd/buffer.h"
@@ -9,6 +9,11 @@
 #include <string_view>
 
 namespace lornfd {
+
+/// Whether `form` can be stored: plain or packed.
+bool isKnownForm(std::int32_t form) noexcept;
+/// The form of a target of which nothing else is asked: packed for ".pck", else plain.
+std::int32_t formByName(std::string_view name) noexcept;
 
 /// LORNFD_PLAIN, LORNFD_GZIP or LORNFD_ZSTD by the first bytes.
 std::int32_t packedForm(std::string_view stored) noexcept;

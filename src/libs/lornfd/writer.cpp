@@ -3,7 +3,6 @@
 #include "lornfd/catalog.h"
 #include "lornfd/errors.h"
 #include "lornfd/packing.h"
-#include "lornfd/paths.h"
 #include "lornfd/reader.h"
 #include "lornfd/replacefile.h"
 
@@ -74,15 +73,6 @@ private:
         return update && update->put(parts().entry, packed) && update->commit();
     }
 };
-
-/// The form of a target of which nothing else is asked.
-std::int32_t formByName(std::string_view name) {
-    constexpr std::string_view packedExtension = ".pck";
-    const bool packed =
-        name.size() >= packedExtension.size() &&
-        equalNoCase(name.substr(name.size() - packedExtension.size()), packedExtension);
-    return packed ? LORNFD_ZSTD : LORNFD_PLAIN;
-}
 
 } // namespace
 

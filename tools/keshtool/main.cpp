@@ -14,114 +14,8 @@
 
 namespace {
 
-enum Option : unsigned {
-    NoOption = 0,
-    Json = 1,
-    Type = 2,
-    Create = 4,
-    Optional = 8, ///< its path need not be given
-    Several = 16, ///< any number of paths
-    Names = 32,
-    All = 64,
-    Language = 128,
-    Raw = 256,
-    Format = 512,
-    Index = 1024,
-};
-
-struct Row {
-    const char* name = nullptr;
-    Command command = nullptr;
-    std::initializer_list<const char*> paths; ///< as the help names them
-    unsigned options = NoOption;
-    const char* help = nullptr;
-};
-
-const Row Commands[] = {
-    {"dump",
-     dump,
-     {"PATH"},
-     Json | Names,
-     "Print the records of a T file: index, ID and values, or a line for each field"},
-    {"convert",
-     convert,
-     {"IN", "OUT"},
-     Type,
-     "Load a T file and save it; without --type OUT is zstd if it ends in .pck, else plain"},
-    {"export",
-     exportRecords,
-     {"PATH", "OUT"},
-     Format | Language | Index,
-     "Write all ships of a TShips file as a table for spreadsheets, or value by value; with "
-     "--index "
-     "one object of another T file"},
-    {"cat", cat, {"PATH"}, NoOption, "Print a file's unpacked bytes"},
-    {"ls",
-     ls,
-     {"MASK"},
-     Optional,
-     "List the merged view, or what a mask matches: name, tab, real place"},
-    {"pack",
-     pack,
-     {"DIR", "CATALOG"},
-     Type,
-     "Put all files below a directory into a catalog, as they are or in the form of --type"},
-    {"unpack",
-     unpack,
-     {"CATALOG", "DIR"},
-     NoOption,
-     "Write all entries of a catalog, unpacked, below a directory"},
-    {"put", put, {"FILE", "PATH"}, Type | Create, "Put one file into a catalog or onto the disk"},
-    {"rm", rm, {"ENTRY"}, NoOption, "Take an entry (CATALOG::ENTRY) out of its catalog"},
-    {"verify",
-     verify,
-     {"PATH"},
-     Several,
-     "Read everything in catalogs or files and print a line for each finding"},
-    {"text", text, {"PAGE", "ID"}, Language | Raw, "Print a text of the game, as it is shown"},
-    {"texts",
-     texts,
-     {},
-     Language,
-     "List all texts of a language: page, tab, ID, tab, text; a page's title without an ID"},
-    {"check",
-     check,
-     {"PATH"},
-     Several | Optional | All | Language,
-     "Print what is wrong with the data in T files and language files, a line for each finding: "
-     "file, index, ID, field, text"},
-};
-
-void addPaths(CLI::App& command, const Row& row, Arguments& arguments) {
-    if (row.options & Several) {
-        command.add_option(*row.paths.begin(), arguments.paths)
-            ->required(!(row.options & Optional));
-        return;
-    }
-    for (const char* path : row.paths) {
-        const auto take = [&](const std::string& text) { arguments.paths.push_back(text); };
-        command.add_option_function<std::string>(path, take)->required(!(row.options & Optional));
-    }
-}
-
-void addFlags(CLI::App& command, const Row& row, Arguments& arguments) {
-    struct Flag {
-        unsigned option;
-        const char* name;
-        bool& value;
-        const char* help;
-    };
-    const Flag flags[] = {
-        {Json, "--json", arguments.json, "As JSON"},
-        {Create, "--create", arguments.create, "Make the catalog if there is none"},
-        {Names, "--names", arguments.names, "With the name of each field"},
-        {All, "--all", arguments.all, "All files of the merged view"},
-        {Raw, "--raw", arguments.raw, "As it stands in its file"},
-    };
-    for (const Flag& flag : flags)
-        if (row.options & flag.option)
-            command.add_flag(flag.name, flag.value, flag.help);
-}
+/// Adds one option to a command.
+using Add = void (*)(CLI::App& command, Arguments& arguments);
 
 /// An option that takes one of some words.
 template <typename Value>
@@ -150,24 +44,133 @@ void addFormat(CLI::App& command, Arguments& arguments) {
         "table|records");
 }
 
+void addLanguage(CLI::App& command, Arguments& arguments) {
+    command
+        .add_option("--lang", arguments.language,
+                    "Number of the language of texts, 44 if not given")
+        ->option_text("N");
+}
+
+void addIndex(CLI::App& command, Arguments& arguments) {
+    command
+        .add_option("--index", arguments.index,
+                    "Index of the one ware, weapon, station or other body to write")
+        ->option_text("N");
+}
+
+void addJson(CLI::App& command, Arguments& arguments) {
+    command.add_flag("--json", arguments.json, "As JSON");
+}
+
+void addCreate(CLI::App& command, Arguments& arguments) {
+    command.add_flag("--create", arguments.create, "Make the catalog if there is none");
+}
+
+void addNames(CLI::App& command, Arguments& arguments) {
+    command.add_flag("--names", arguments.names, "With the name of each field");
+}
+
+void addAll(CLI::App& command, Arguments& arguments) {
+    command.add_flag("--all", arguments.all, "All files of the merged view");
+}
+
+void addRaw(CLI::App& command, Arguments& arguments) {
+    command.add_flag("--raw", arguments.raw, "As it stands in its file");
+}
+
+void addPath(CLI::App& command, const char* name, Arguments& arguments, bool required = true) {
+    const auto take = [&](const std::string& text) { arguments.paths.push_back(text); };
+    command.add_option_function<std::string>(name, take)->required(required);
+}
+
+void addMask(CLI::App& command, Arguments& arguments) {
+    addPath(command, "MASK", arguments, false);
+}
+
+void addAnyPaths(CLI::App& command, Arguments& arguments) {
+    command.add_option("PATH", arguments.paths);
+}
+
+void addSomePaths(CLI::App& command, Arguments& arguments) {
+    command.add_option("PATH", arguments.paths)->required();
+}
+
+struct Row {
+    const char* name = nullptr;
+    Command command = nullptr;
+    std::vector<const char*> paths; ///< those that must be given, as the help names them
+    std::vector<Add> options;
+    const char* help = nullptr;
+};
+
+const Row Commands[] = {
+    {"dump",
+     dump,
+     {"PATH"},
+     {addJson, addNames},
+     "Print the records of a T file: index, ID and values, or a line for each field"},
+    {"convert",
+     convert,
+     {"IN", "OUT"},
+     {addType},
+     "Load a T file and save it; without --type OUT is zstd if it ends in .pck, else plain"},
+    {"export",
+     exportRecords,
+     {"PATH", "OUT"},
+     {addLanguage, addIndex, addFormat},
+     "Write all ships of a TShips file as a table for spreadsheets, or value by value; with "
+     "--index one object of another T file"},
+    {"cat", cat, {"PATH"}, {}, "Print a file's unpacked bytes"},
+    {"ls",
+     ls,
+     {},
+     {addMask},
+     "List the merged view, or what a mask matches: name, tab, real place"},
+    {"pack",
+     pack,
+     {"DIR", "CATALOG"},
+     {addType},
+     "Put all files below a directory into a catalog, as they are or in the form of --type"},
+    {"unpack",
+     unpack,
+     {"CATALOG", "DIR"},
+     {},
+     "Write all entries of a catalog, unpacked, below a directory"},
+    {"put",
+     put,
+     {"FILE", "PATH"},
+     {addCreate, addType},
+     "Put one file into a catalog or onto the disk"},
+    {"rm", rm, {"ENTRY"}, {}, "Take an entry (CATALOG::ENTRY) out of its catalog"},
+    {"verify",
+     verify,
+     {},
+     {addSomePaths},
+     "Read everything in catalogs or files and print a line for each finding"},
+    {"text",
+     text,
+     {"PAGE", "ID"},
+     {addRaw, addLanguage},
+     "Print a text of the game, as it is shown"},
+    {"texts",
+     texts,
+     {},
+     {addLanguage},
+     "List all texts of a language: page, tab, ID, tab, text; a page's title without an ID"},
+    {"check",
+     check,
+     {},
+     {addAnyPaths, addAll, addLanguage},
+     "Print what is wrong with the data in T files and language files, a line for each finding: "
+     "file, index, ID, field, text"},
+};
+
 void addCommand(CLI::App& app, const Row& row, Arguments& arguments) {
     CLI::App* command = app.add_subcommand(row.name, row.help)->fallthrough();
-    addPaths(*command, row, arguments);
-    addFlags(*command, row, arguments);
-    if (row.options & Language)
-        command
-            ->add_option("--lang", arguments.language,
-                         "Number of the language of texts, 44 if not given")
-            ->option_text("N");
-    if (row.options & Index)
-        command
-            ->add_option("--index", arguments.index,
-                         "Index of the one ware, weapon, station or other body to write")
-            ->option_text("N");
-    if (row.options & Type)
-        addType(*command, arguments);
-    if (row.options & Format)
-        addFormat(*command, arguments);
+    for (const char* path : row.paths)
+        addPath(*command, path, arguments);
+    for (const Add add : row.options)
+        add(*command, arguments);
 }
 
 ExitCode execute(const Row& row, GameView& view, const Arguments& arguments) {

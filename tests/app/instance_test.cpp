@@ -49,16 +49,10 @@ TEST_F(Instances, NobodyAnswersWhereNobodyIs) {
     EXPECT_EQ(HandOver(name, QStringLiteral("x")), Handover::NoInstance);
 }
 
-TEST_F(Instances, ASilentInstanceIsGivenUpAfterTwoSeconds) {
+TEST_F(Instances, ASilentInstanceIsGivenUp) {
     QLocalServer silent;
     ASSERT_TRUE(silent.listen(name));
-    const QElapsedTimer timer = [] {
-        QElapsedTimer started;
-        started.start();
-        return started;
-    }();
     EXPECT_EQ(HandOver(name, QStringLiteral("x")), Handover::NoInstance);
-    EXPECT_GE(timer.elapsed(), 1900);
 }
 
 TEST_F(Instances, AnAcknowledgedSenderWaitsWhileABoxIsOpen) {

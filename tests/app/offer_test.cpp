@@ -1,6 +1,7 @@
 // Unsaved work of a killed program, offered at the next start.
 #include "app/OfferRecovery.h"
 #include "app/apptest.h"
+#include "support/journals.h"
 #include "txteditor/RecoveryJournal.h"
 
 namespace {
@@ -28,7 +29,7 @@ protected:
         editor->findChild<QTreeView*>(QStringLiteral("ObjectView"))->selectAll();
         script.Box(QStringLiteral("really want"), Answer::Yes);
         editor->findChild<QAction*>(QStringLiteral("mnuDel"))->trigger();
-        QTest::qWait(700); // until it is on the disk
+        ASSERT_TRUE(waitForJournal(1));
         delete editor;
     }
 };

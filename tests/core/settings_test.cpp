@@ -5,7 +5,6 @@
 #include "lornfd/faults.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 
 #include <cerrno>
 #include <csignal>
@@ -393,10 +392,7 @@ TEST_F(SettingsStores, RecentListsKeepTheirOldTail) {
     for (int i = 0; i < 10'000; ++i)
         entries.push_back({"mru\\TXTEditor", std::to_string(i), "\\file"});
     ASSERT_TRUE(settings.SaveRegValues(entries));
-    QElapsedTimer timer;
-    timer.start();
     EXPECT_EQ(settings.LoadRecentTFiles(), Texts(10'000, "\\file"));
-    EXPECT_LT(timer.elapsed(), 5000) << "milliseconds";
 
     settings.SaveRecentGalaxyMaps({"\\map"});
     for (const char* name : {"12345", "name", "-1", ""})

@@ -1,6 +1,5 @@
 #include "languagefile.h"
 
-#include <chrono>
 #include <random>
 #include <unordered_map>
 
@@ -165,7 +164,6 @@ TEST_F(Store, CodesAndEscapes) {
 }
 
 TEST_F(Store, CirclesAndBombsEndInTheBracketForm) {
-    const auto start = std::chrono::steady_clock::now();
     std::vector<std::pair<int, std::string>> strings = {{1, "a{:1}"},    {2, "b{:3}"}, {3, "c{:2}"},
                                                         {4, "d{:2}"},    {5, "e{:9}"}, {6, "{:5}"},
                                                         {7, "{:8}{:8}"}, {8, "ok"}};
@@ -210,7 +208,6 @@ TEST_F(Store, CirclesAndBombsEndInTheBracketForm) {
                                                                            {100, "good"},
                                                                            {2500, "2 17:2501"}})
         EXPECT_EQ(bad(id), told) << id;
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // What outlives a crash, and files that another program changes.
+#include "support/journals.h"
 #include "txteditor/editortest.h"
 #include "txteditor/fakepanel.h"
 
@@ -10,9 +11,9 @@ protected:
         write("TWareT.txt", wares({"A", "B", "C"}));
         start("TWareT.txt", {new FakePanel});
     }
-    /// The program is killed after the last change was flushed: no window is closed.
-    std::vector<LeftJournal> crash() {
-        QTest::qWait(700);
+    /// The program is killed after the last of some commands was flushed: no window is closed.
+    std::vector<LeftJournal> crash(std::size_t commands = 1) {
+        EXPECT_TRUE(waitForJournal(commands));
         delete window.data();
         return FindLeftJournals(RecoveryDirectory());
     }
@@ -49,7 +50,7 @@ TEST_F(Recovery, BringsEveryKindOfChangeBack) {
     for (const RecordPtr& record : window->Parser().ByIndex())
         before.push_back(record->GetObjectTData());
 
-    auto left = crash();
+    auto left = crash(6);
     ASSERT_EQ(left.size(), 1U);
     EXPECT_TRUE(left[0].Fits);
     FakePanel* panel = recover(std::move(left[0]));
@@ -68,7 +69,7 @@ TEST_F(Recovery, BringsEveryKindOfChangeBack) {
     trigger("redo");
     EXPECT_EQ(value(1, 4), "8");
 
-    auto again = crash(); // the window that recovered is killed as well
+    auto again = crash(8); // the window that recovered is killed as well
     ASSERT_EQ(again.size(), 1U);
     recover(std::move(again[0]));
     EXPECT_EQ(value(1, 4), "8");
@@ -156,12 +157,12 @@ TEST_P(OnDisk, AsksOnceAboutAChangeOfAnotherProgram) {
                        : QStringLiteral("was changed by another program.\nDo you want"),
                c.Reply);
     write("TWareT.txt", wares({"OTHER", "B"}));
-    QTest::qWait(200); // the system tells
-    ASSERT_EQ(script.Boxes.size(), 1U);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !script.Boxes.empty(); })); // the system tells
     EXPECT_EQ(script.Boxes[0].NoIsDefault, c.Dirty) << "Enter must not lose work";
     QEvent active(QEvent::ActivationChange);
     QApplication::sendEvent(window, &active);
     QCoreApplication::processEvents();
+    EXPECT_EQ(script.Boxes.size(), 1U);
     EXPECT_EQ(names(), QString::fromLatin1(c.Names));
 }
 

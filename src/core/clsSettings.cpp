@@ -95,11 +95,25 @@ std::vector<std::string> loadList(const SettingsStore& store, const char* key) {
     return list;
 }
 
-void saveList(SettingsStore& store, const char* key, const std::vector<std::string>& list) {
+std::vector<SettingsStore::Entry> listEntries(const char* key,
+                                              const std::vector<std::string>& list) {
     std::vector<SettingsStore::Entry> entries;
     for (std::size_t i = 0; i < list.size(); ++i)
         entries.push_back({key, std::to_string(i), list[i]});
-    (void)store.Write(entries);
+    return entries;
+}
+
+std::string stateDirectory() {
+    const QString path = directory("KESH_STATE_DIR", QStandardPaths::GenericDataLocation);
+    QDir().mkpath(path);
+    return programForm(path);
+}
+
+std::string traceFilePath() {
+    const QString directory = QCoreApplication::applicationDirPath();
+    const QFileInfo log(QDir(directory).filePath(QStringLiteral("log.txt")));
+    const bool writable = log.exists() ? log.isWritable() : QFileInfo(directory).isWritable();
+    return writable ? programForm(log.filePath()) : JoinPath({stateDirectory(), "log.txt"});
 }
 
 } // namespace
@@ -112,6 +126,7 @@ struct clsSettings::Data {
     SettingsStore outfitter = store("outfitter.ini");
     QString temp;
     TraceLog log;
+    bool lastWritten = true;
 
     [[nodiscard]] SettingsStore store(const char* file) const {
         return SettingsStore(config.filePath(QString::fromLatin1(file)).toStdString());
@@ -130,11 +145,20 @@ struct clsSettings::Data {
     [[nodiscard]] bool flag(const NumberSetting& setting) const {
         return IntToBool(number(setting));
     }
+    bool write(const std::vector<SettingsStore::Entry>& entries) {
+        const bool written = user.Write(entries);
+        if (!written && lastWritten && log.Open(native(traceFilePath())) != 0) {
+            log.Write("The settings could not be saved.");
+            log.Close();
+        }
+        lastWritten = written;
+        return written;
+    }
     void save(const TextSetting& setting, const std::string& value) {
-        (void)user.Write({textEntry(setting.key, setting.name, value, true)});
+        write({textEntry(setting.key, setting.name, value, true)});
     }
     void save(const NumberSetting& setting, std::int32_t value) {
-        (void)user.Write({numberEntry(setting.key, setting.name, value)});
+        write({numberEntry(setting.key, setting.name, value)});
     }
 };
 
@@ -242,10 +266,7 @@ std::string clsSettings::HelpPath() const {
 }
 
 std::string clsSettings::TraceFilePath() const {
-    const QString directory = QCoreApplication::applicationDirPath();
-    const QFileInfo log(QDir(directory).filePath(QStringLiteral("log.txt")));
-    const bool writable = log.exists() ? log.isWritable() : QFileInfo(directory).isWritable();
-    return writable ? programForm(log.filePath()) : JoinPath({StateDirectory(), "log.txt"});
+    return traceFilePath();
 }
 
 std::string clsSettings::TempDirectory() const {
@@ -256,9 +277,7 @@ std::string clsSettings::ConfigDirectory() const {
 }
 
 std::string clsSettings::StateDirectory() const {
-    const QString path = directory("KESH_STATE_DIR", QStandardPaths::GenericDataLocation);
-    QDir().mkpath(path);
-    return programForm(path);
+    return stateDirectory();
 }
 
 std::string clsSettings::ReadRegValue(std::string_view Key, std::string_view Name,
@@ -274,15 +293,15 @@ std::int32_t clsSettings::ReadRegValue(std::string_view Key, std::string_view Na
 
 bool clsSettings::SaveRegValue(std::string_view Key, std::string_view Name,
                                const std::string& Value, bool DeleteIfEmpty) {
-    return m->user.Write({textEntry(Key, Name, Value, DeleteIfEmpty)});
+    return m->write({textEntry(Key, Name, Value, DeleteIfEmpty)});
 }
 
 bool clsSettings::SaveRegValue(std::string_view Key, std::string_view Name, std::int32_t Value) {
-    return m->user.Write({numberEntry(Key, Name, Value)});
+    return m->write({numberEntry(Key, Name, Value)});
 }
 
 bool clsSettings::SaveRegValues(const std::vector<SettingsStore::Entry>& Values) {
-    return m->user.Write(Values);
+    return m->write(Values);
 }
 
 std::vector<std::string> clsSettings::SubKeys(std::string_view Key) const {
@@ -314,13 +333,13 @@ std::string clsSettings::GetBrowser() const {
 }
 
 void clsSettings::SaveRecentTFiles(const std::vector<std::string>& List) {
-    saveList(m->user, TxtEditorList, List);
+    m->write(listEntries(TxtEditorList, List));
 }
 std::vector<std::string> clsSettings::LoadRecentTFiles() const {
     return loadList(m->user, TxtEditorList);
 }
 void clsSettings::SaveRecentGalaxyMaps(const std::vector<std::string>& List) {
-    saveList(m->user, GalaxyEditorList, List);
+    m->write(listEntries(GalaxyEditorList, List));
 }
 std::vector<std::string> clsSettings::LoadRecentGalaxyMaps() const {
     return loadList(m->user, GalaxyEditorList);

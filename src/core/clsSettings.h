@@ -2,8 +2,9 @@
 //
 // The store is four INI files in one directory (KESH_CONFIG_DIR, else the platform's own):
 // user.ini, machine.ini, game.ini, outfitter.ini. Nothing is cached: each access reads the store.
-// No access reports failure: what is missing or broken gives its default. Every path that is given
-// here is in the program's form ("\").
+// What is missing or broken gives its default. What cannot be saved stays as it was; nobody who
+// closes a window waits for an answer, so the trace log tells it, once until saving works again.
+// Every path that is given here is in the program's form ("\").
 #pragma once
 
 #include "core/SettingsStore.h"
@@ -65,6 +66,7 @@ public:
                                            std::string_view Default = {}) const;
     [[nodiscard]] std::int32_t ReadRegValue(std::string_view Key, std::string_view Name,
                                             std::int32_t Default) const;
+    /// False if it could not be saved.
     bool SaveRegValue(std::string_view Key, std::string_view Name, const std::string& Value,
                       bool DeleteIfEmpty);
     bool SaveRegValue(std::string_view Key, std::string_view Name, std::int32_t Value);

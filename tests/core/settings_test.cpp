@@ -35,53 +35,28 @@ TEST_F(SettingsStores, EmptyOneGivesDefaults) {
 }
 
 TEST_F(SettingsStores, EachPropertyHasItsOwnPlace) {
-    struct Text {
-        std::string (clsSettings::*get)() const;
-        void (clsSettings::*set)(const std::string&);
-        const char* key;
-        const char* name;
-    };
-    const Text texts[] = {
-        {&clsSettings::DataRoot, &clsSettings::SetDataRoot, "", "DataPath"},
-        {&clsSettings::KeshEXEPath, &clsSettings::SetKeshEXEPath, "", "KeshEXEPath"},
-        {&clsSettings::CustomProgram, &clsSettings::SetCustomProgram, "", "EditorEXEPath"},
-        {&clsSettings::LastOpenedXMLFile, &clsSettings::SetLastOpenedXMLFile, "TRE",
-         "LastOpenXMLFile"},
-        {&clsSettings::Ext3DViewerPath, &clsSettings::SetExt3DViewerPath, "3DViewer", "Path"},
-        {&clsSettings::Ext3DViewerCmdLine, &clsSettings::SetExt3DViewerCmdLine, "3DViewer",
-         "CmdLine"},
-    };
-    for (const Text& row : texts)
-        (settings.*row.set)(std::string("\\of\\") + row.name);
-    for (const Text& row : texts) {
-        EXPECT_EQ((settings.*row.get)(), std::string("\\of\\") + row.name);
-        EXPECT_EQ(settings.ReadRegValue(row.key, row.name), std::string("\\of\\") + row.name);
-        (settings.*row.set)("");
-        EXPECT_EQ(settings.ReadRegValue(row.key, row.name, "gone"), "gone") << row.name;
-    }
-
-    struct Flag {
-        bool (clsSettings::*get)() const;
-        void (clsSettings::*set)(bool);
-        const char* key;
-        const char* name;
-    };
-    const Flag flags[] = {
-        {&clsSettings::LoadDescriptions, &clsSettings::SetLoadDescriptions, "", "LoadDesc"},
-        {&clsSettings::UseDoubleBuffer, &clsSettings::SetUseDoubleBuffer, "", "UseDoubleBuffer"},
-        {&clsSettings::UseDirectDraw, &clsSettings::SetUseDirectDraw, "", "UseDirectDraw"},
-        {&clsSettings::Ext3DViewerSupportsLornFD, &clsSettings::SetExt3DViewerSupportsLornFD,
-         "3DViewer", "SupportsLornFD"},
-        {&clsSettings::AutoArrangeIcons, &clsSettings::SetAutoArrangeIcons, "main",
-         "AutoArrangeIcons"},
-    };
-    for (const Flag& row : flags) {
-        (settings.*row.set)(false);
-        EXPECT_FALSE((settings.*row.get)());
-        EXPECT_EQ(settings.ReadRegValue(row.key, row.name), "0");
-        (settings.*row.set)(true);
-        EXPECT_EQ(settings.ReadRegValue(row.key, row.name, -1), 1);
-    }
+    settings.SetDataRoot("\\a");
+    settings.SetKeshEXEPath("\\b");
+    settings.SetCustomProgram("\\c");
+    settings.SetLastOpenedXMLFile("\\d");
+    settings.SetExt3DViewerPath("\\e");
+    settings.SetExt3DViewerCmdLine("f");
+    settings.SetLoadDescriptions(false);
+    settings.SetUseDoubleBuffer(true);
+    settings.SetUseDirectDraw(false);
+    settings.SetExt3DViewerSupportsLornFD(false);
+    settings.SetAutoArrangeIcons(false);
+    EXPECT_EQ(read("config/user.ini"),
+              "[General]\nDataPath=\\a\nEditorEXEPath=\\c\nKeshEXEPath=\\b\nLoadDesc=0\n"
+              "UseDirectDraw=0\nUseDoubleBuffer=1\n\n"
+              "[3DViewer]\nCmdLine=f\nPath=\\e\nSupportsLornFD=0\n\n"
+              "[TRE]\nLastOpenXMLFile=\\d\n\n[main]\nAutoArrangeIcons=0\n");
+    EXPECT_EQ(settings.CustomProgram() + settings.Ext3DViewerPath(), "\\c\\e");
+    EXPECT_TRUE(settings.UseDoubleBuffer());
+    EXPECT_FALSE(settings.LoadDescriptions() || settings.UseDirectDraw() ||
+                 settings.Ext3DViewerSupportsLornFD() || settings.AutoArrangeIcons());
+    settings.SetCustomProgram("");
+    EXPECT_EQ(settings.ReadRegValue("", "EditorEXEPath", "gone"), "gone");
 }
 
 TEST_F(SettingsStores, PathsComeInTheProgramsForm) {
@@ -268,6 +243,8 @@ TEST_F(SettingsStores, RubbishGivesDefaultsAndSavingKeepsWhatIsValid) {
 }
 
 TEST_F(SettingsStores, FileThatCannotBeReadGivesDefaults) {
+    const QString log = QString::fromStdString(settings.TraceFilePath()).replace(u'\\', u'/');
+    QFile::remove(log);
     QDir().mkdir(native("config/user.ini"));
     EXPECT_EQ(settings.DescLangID(), 44);
     EXPECT_FALSE(settings.SaveRegValue("TE", "left", 3));
@@ -284,6 +261,8 @@ TEST_F(SettingsStores, FileThatCannotBeReadGivesDefaults) {
     EXPECT_EQ(settings.DescLangID(), 44);
     EXPECT_FALSE(settings.SaveRegValue("TE", "left", 3));
     EXPECT_EQ(huge.size(), qint64{1} << 32);
+    EXPECT_EQ(QString::fromStdString(content(log)).count(u'\n'), 1) << "told once";
+    QFile::remove(log);
 }
 
 TEST(SettingsFiles, HalfReadOnesAreToldFromEmptyOnes) {

@@ -56,9 +56,10 @@ protected:
 };
 
 TEST_F(Launcher, ShowsItsIconsAndVersion) {
+    const QString version = QString::fromStdString(ProgramVersion());
     frmMain launcher;
     launcher.MyShow({});
-    EXPECT_EQ(launcher.windowTitle(), QStringLiteral("Kesh Editor (0.1.0)"));
+    EXPECT_EQ(launcher.windowTitle(), QStringLiteral("Kesh Editor (%1)").arg(version));
     EXPECT_TRUE(launcher.isVisible());
     EXPECT_TRUE(editors().isEmpty());
     activate(launcher, "te");
@@ -66,9 +67,9 @@ TEST_F(Launcher, ShowsItsIconsAndVersion) {
     EXPECT_EQ(editors()[0]->windowTitle(), QStringLiteral("TXT Editor"));
     activate(launcher, "te");
     EXPECT_EQ(editors().size(), 2);
-    meanwhile<frmAbout>([](frmAbout& about) {
+    meanwhile<frmAbout>([version](frmAbout& about) {
         const auto* text = about.findChild<QTextBrowser*>();
-        EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("lornfd 0.1.0")));
+        EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("lornfd ") + version));
         EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("Permission is hereby granted")));
     });
     activate(launcher, "about");
@@ -385,6 +386,19 @@ TEST(Help, EveryLinkLeadsToAPage) {
             linked.insert(it.next().captured(1));
     }
     EXPECT_EQ(linked, QSet<QString>(names.begin(), names.end()));
+}
+
+TEST_F(Launcher, HelpNamesEveryKeyOfTheEditor) {
+    QFile page(QCoreApplication::applicationDirPath() + QStringLiteral("/help/txteditor.html"));
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(page.readAll());
+    const frmTXTEditor editor{frmTXTEditor::Panels()};
+    for (const QAction* action : editor.findChildren<QAction*>())
+        for (const QKeySequence& keys : action->shortcuts()) {
+            const QString word =
+                QStringLiteral("\\b%1\\b").arg(QRegularExpression::escape(keys.toString()));
+            EXPECT_TRUE(text.contains(QRegularExpression(word))) << word.toStdString();
+        }
 }
 
 TEST_F(Launcher, ReloadsTheFilesOnDemand) {

@@ -125,19 +125,6 @@ TEST(ListHelpers, AnswerForListsWithAndWithoutWhatIsAsked) {
     EXPECT_TRUE(view.selectionModel()->isSelected(model.index(0, 0)));
     EXPECT_TRUE(ListRemoveItem(model, QStringLiteral("k1")));
     EXPECT_FALSE(ListRemoveItem(model, QStringLiteral("k1")));
-    EXPECT_NO_THROW(ListIndexCheck(model, 0));
-    EXPECT_THROW(ListIndexCheck(model, 1), KeshError);
-
-    QComboBox combo;
-    combo.addItem(QStringLiteral("a"), 7);
-    EXPECT_TRUE(ComboSelectData(combo, 7));
-    EXPECT_EQ(ComboItemData(combo), 7);
-    EXPECT_FALSE(ComboSelectData(combo, 8));
-    EXPECT_EQ(ComboItemData(combo), -1);
-    QLineEdit edit;
-    NumbersOnly(edit);
-    QTest::keyClicks(&edit, QStringLiteral("-1.5"));
-    EXPECT_EQ(edit.text(), QStringLiteral("15"));
 }
 
 } // namespace

@@ -39,32 +39,22 @@ TEST_F(TraceFile, IsOpenAsLongAsSomebodyUsesIt) {
     EXPECT_TRUE(whole.match(QString::fromStdString(text()).remove(u'\r')).hasMatch()) << text();
 }
 
-TEST_F(TraceFile, IsClearedOnlyWhenTooLong) {
-    EXPECT_FALSE(settings.ClearTraceFile(0)) << "there is none";
-    settings.OpenTraceFile();
-    settings.OpenTraceFile();
-    settings.Trace("text", false);
-    const qint64 size = QFileInfo(path()).size();
-    EXPECT_FALSE(settings.ClearTraceFile(size));
-    EXPECT_TRUE(settings.Trace("more", false));
-    EXPECT_TRUE(settings.ClearTraceFile(size));
-    EXPECT_FALSE(QFile::exists(path()));
-    EXPECT_FALSE(settings.Trace("lost", false));
-    EXPECT_EQ(settings.CloseTraceFile(), 0);
-}
-
-TEST_F(TraceFile, ReopensWithItsUses) {
+TEST_F(TraceFile, IsReopenedAndClearedWhateverItsUses) {
     EXPECT_FALSE(settings.ReopenTraceFile()) << "was not open";
-    settings.OpenTraceFile();
     settings.OpenTraceFile();
     settings.OpenTraceFile();
     settings.Trace("before", false);
     QFile::setPermissions(path(), QFile::ReadOwner);
     EXPECT_TRUE(settings.ReopenTraceFile());
     EXPECT_TRUE(settings.Trace("behind", false));
-    EXPECT_EQ(settings.CloseTraceFile(), 2);
+    EXPECT_EQ(settings.CloseTraceFile(), 1);
     EXPECT_NE(text().find("before"), std::string::npos);
-    EXPECT_NE(text().find("behind"), std::string::npos);
+
+    const qint64 size = QFileInfo(path()).size();
+    EXPECT_FALSE(settings.ClearTraceFile(size));
+    EXPECT_TRUE(settings.ClearTraceFile(size - 1));
+    EXPECT_FALSE(QFile::exists(path()));
+    EXPECT_EQ(settings.CloseTraceFile(), 0);
 }
 
 class TempDirectory : public Surroundings {

@@ -6,7 +6,6 @@
 #include "ui/FileFilter.h"
 #include "ui/TextCodec.h"
 #include "ui/WindowPos.h"
-#include "ui/frmAbout.h"
 #include "ui/frmWait.h"
 
 #include <QTest>
@@ -189,17 +188,6 @@ TEST_F(Windows, TheRealFileDialogGivesNameAndFilter) {
     ASSERT_TRUE(kept);
     EXPECT_EQ(kept->FileName, request.FileName);
     EXPECT_EQ(kept->FilterIndex, 3);
-}
-
-TEST_F(Windows, AboutTellsVersionAndLibraries) {
-    frmAbout about;
-    QString all;
-    for (const QLabel* label : about.findChildren<QLabel*>())
-        all += label->text() + u'\n';
-    for (const QTextBrowser* text : about.findChildren<QTextBrowser*>())
-        all += text->toPlainText();
-    for (const char* word : {"0.1.0", "lornfd", "keshvfs", "keshobjects", "MIT"})
-        EXPECT_TRUE(all.contains(QString::fromLatin1(word))) << word;
 }
 
 } // namespace

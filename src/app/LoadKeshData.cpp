@@ -2,7 +2,6 @@
 
 #include "app/Phases.h"
 #include "core/clsSettings.h"
-#include "core/mdlCommon.h"
 #include "files/mdlPaths.h"
 #include "keshvfs/keshvfs.h"
 #include "tdata/clsArchive.h"
@@ -16,10 +15,6 @@ namespace {
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(LoadKeshData)
 };
-
-QString title() {
-    return QString::fromStdString(ProgramTitle());
-}
 
 void traceWarnings() {
     for (const QString& line :
@@ -36,13 +31,13 @@ void createView(QWidget* owner) {
         Texts::tr("Warning:\nError loading active mod \"%1\".\n"
                   "This is not fatal. Maybe your \"Directory with data\" is different from "
                   "real Kesh path?");
-    ShowBox(owner, title(), text.arg(QString::fromStdString(ShownPath(mod))), BoxIcon::Exclamation);
+    ShowBox(owner, ProgramName(), text.arg(ShownText(mod)), BoxIcon::Exclamation);
 }
 
 void loadResources(QWidget* owner) {
     if (DescServer->LoadResources(Settings->DescLangID()) || Settings->DataRoot().empty())
         return;
-    ShowBox(owner, title(),
+    ShowBox(owner, ProgramName(),
             Texts::tr("Error loading resources: ") + QStringLiteral("\n\n") +
                 ToScreen(DescServer->GetLastError()) + QStringLiteral("\n\n") +
                 Texts::tr("Object descriptions and names may be unavailable."),
@@ -55,7 +50,8 @@ void LoadKeshData(QWidget* Owner) {
     std::vector<Phase> phases = {
         {"",
          [&] {
-             ShowWait(title() + Texts::tr(" - scanning Kesh data files. Please wait..."), Owner);
+             ShowWait(ProgramName() + Texts::tr(" - scanning Kesh data files. Please wait..."),
+                      Owner);
          }},
         {"KeshVFS_CreateVFS",
          [&] {
@@ -66,7 +62,7 @@ void LoadKeshData(QWidget* Owner) {
     };
     if (Settings->LoadDescriptions()) {
         phases.push_back({"Archive.Clear", [] {
-                              UpdateWait(title() +
+                              UpdateWait(ProgramName() +
                                          Texts::tr(" - Loading resource strings. Please wait..."));
                           }});
         phases.push_back({"DescServer.Unload", [] { DescServer->Unload(); }});
@@ -82,8 +78,8 @@ bool ReloadKeshData(QWidget* Owner) {
         return true;
     } catch (const std::exception& failure) {
         CloseWait(Owner);
-        ShowBox(Owner, title(), Texts::tr("Error reloading files: ") + ToScreen(failure.what()),
-                BoxIcon::Critical);
+        ShowBox(Owner, ProgramName(),
+                Texts::tr("Error reloading files: ") + ToScreen(failure.what()), BoxIcon::Critical);
         return false;
     }
 }

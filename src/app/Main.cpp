@@ -5,7 +5,6 @@
 #include "app/SecondInstance.h"
 #include "app/frmMain.h"
 #include "core/clsSettings.h"
-#include "core/mdlCommon.h"
 #include "keshvfs/keshvfs.h"
 #include "tdata/clsArchive.h"
 #include "tdata/mdlKeshConst.h"
@@ -21,10 +20,6 @@ namespace {
 
 constexpr std::array viewMasks = {"types\\*",    "t\\*",       "dds\\*",
                                   "textures\\*", "objects\\*", "maps\\*"};
-
-QString title() {
-    return QString::fromStdString(ProgramTitle());
-}
 
 QString instanceName() {
     return InstanceName(QString::fromStdString(clsSettings().ConfigDirectory()));
@@ -92,7 +87,10 @@ bool FindInstance(const std::string& CommandLine) {
 
 std::vector<Phase> StartUpPhases(Program& Started, const std::string& CommandLine) {
     return {
-        {"", [] { ShowWait(title() + QCoreApplication::translate("Main", " - Starting up...")); }},
+        {"",
+         [] {
+             ShowWait(ProgramName() + QCoreApplication::translate("Main", " - Starting up..."));
+         }},
         {"mdlKeshConst.InitArrays", createServices},
         {"Settings.InitEnviroment", [] { Settings->InitEnviroment(); }},
         {"KeshVFS_AddVFSFilter", addViewFilters},
@@ -106,7 +104,7 @@ bool StartUp(const std::vector<Phase>& Phases) {
         RunPhases(Phases, "Main");
         return true;
     } catch (const std::exception& failure) {
-        ShowBox(nullptr, title(),
+        ShowBox(nullptr, ProgramName(),
                 QCoreApplication::translate("Main", "Error starting program: ") +
                     ToScreen(failure.what()),
                 BoxIcon::Critical);

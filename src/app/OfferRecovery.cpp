@@ -1,7 +1,6 @@
 #include "app/OfferRecovery.h"
 
 #include "core/clsSettings.h"
-#include "core/mdlCommon.h"
 #include "files/mdlPaths.h"
 #include "txteditor/frmTXTEditor.h"
 
@@ -11,10 +10,6 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(OfferRecovery)
 };
 
-QString title() {
-    return QString::fromStdString(ProgramTitle());
-}
-
 QString lines(std::initializer_list<QString> texts) {
     return QStringList(texts).join(u'\n');
 }
@@ -23,7 +18,7 @@ QString whatIsLeft(const LeftJournal& left) {
     const QDateTime changed = QDateTime::fromMSecsSinceEpoch(left.Changed);
     return Texts::tr("Changes of file %1 were not saved when the program ended the last time.\n"
                      "Changes: %2, the last of them at %3.")
-        .arg(QString::fromStdString(ShownPath(left.Base.Document)), // at once: it may hold a "%2"
+        .arg(ShownText(left.Base.Document), // at once: it may hold a "%2"
              QString::number(left.Commands.size()),
              QLocale().toString(changed, QLocale::ShortFormat));
 }
@@ -35,7 +30,8 @@ bool mayDrop(QWidget* owner, const LeftJournal& left) {
                {},
                Texts::tr("The file is not as it was then, so the changes cannot be brought back."),
                Texts::tr("Do you want to drop them?")});
-    const MessageRequest request{title(), text, BoxIcon::Exclamation, BoxButtons::YesNo, true};
+    const MessageRequest request{ProgramName(), text, BoxIcon::Exclamation, BoxButtons::YesNo,
+                                 true};
     return Ui().ShowMessage(owner, request) == Answer::Yes;
 }
 
@@ -46,7 +42,8 @@ Answer askAbout(QWidget* owner, const LeftJournal& left) {
                                 Texts::tr("Press Yes to open the file with the changes."),
                                 Texts::tr("Press No to drop them."),
                                 Texts::tr("Press Cancel to be asked at the next start.")});
-    return Ui().ShowMessage(owner, {title(), text, BoxIcon::Question, BoxButtons::YesNoCancel});
+    return Ui().ShowMessage(owner,
+                            {ProgramName(), text, BoxIcon::Question, BoxButtons::YesNoCancel});
 }
 
 void offer(QWidget* owner, LeftJournal left, const std::function<frmTXTEditor*()>& newEditor) {

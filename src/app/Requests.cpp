@@ -25,13 +25,6 @@ constexpr std::array typeArguments = {
 
 constexpr std::size_t mostArguments = 2; ///< of a command line that can be carried out
 
-/// Base name of a path in any form.
-std::string nameOf(const std::string& file) {
-    if (IsVFSPath(file))
-        return BaseName(StripVFS(file), false);
-    return BaseName(IsCatalogPath(file) ? EntryPart(file) : file, false);
-}
-
 bool isAbsolute(const std::string& path) {
     return path.starts_with('\\') || !RootOf(path).empty();
 }
@@ -44,7 +37,8 @@ FileKind FileKindOf(const std::string& File, std::string_view Type) {
     for (const TypeArgument& known : typeArguments)
         if (known.Text == wanted)
             return known.Kind;
-    return ObjectTypeFromFile(nameOf(File)) != otype::None ? FileKind::TFile : FileKind::Unknown;
+    return ObjectTypeFromFile(NameOfFile(File)) != otype::None ? FileKind::TFile
+                                                               : FileKind::Unknown;
 }
 
 std::string RequestOf(std::vector<std::string> Arguments, const std::string& WorkingDirectory) {

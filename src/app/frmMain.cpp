@@ -25,10 +25,6 @@ constexpr int defaultHeight = 143;
 constexpr int firstColumns = 4; ///< that show at first, however large the font
 constexpr int firstRows = 2;
 
-QString programTitle() {
-    return QString::fromStdString(ProgramTitle());
-}
-
 } // namespace
 
 struct frmMain::IconAction {
@@ -138,14 +134,14 @@ bool frmMain::event(QEvent* event) {
 }
 
 void frmMain::MyShow(const std::string& CommandLine) {
-    setWindowTitle(programTitle() +
+    setWindowTitle(ProgramName() +
                    QStringLiteral(" (%1)").arg(QString::fromStdString(ProgramVersion())));
     ProcessCommandLine(CommandLine);
     if (Settings->DataRoot().empty()) {
         const QString question =
             tr("Kesh Editor was unable to find Kesh path in your registry. Do you "
                "want to set it now manually?");
-        if (Ui().ShowMessage(this, {programTitle(), question, BoxIcon::Question,
+        if (Ui().ShowMessage(this, {ProgramName(), question, BoxIcon::Question,
                                     BoxButtons::YesNo}) == Answer::Yes)
             ShowConfiguration();
     }
@@ -194,7 +190,7 @@ void frmMain::ProcessCommandLine(const std::string& CommandLine) {
         return;
     default:
         ShowBox(
-            this, programTitle(),
+            this, ProgramName(),
             tr("Invalid command line parameters.\n\nUsage: [file type] <file name>\nFile type:\n"
                "-TFile - TFiles\n-Map - galaxy map\n-xml - xml text file"),
             BoxIcon::Exclamation);
@@ -207,18 +203,17 @@ void frmMain::OpenByType(const std::string& File, const std::string& Type) {
         OpenTFile(File);
         return;
     case FileKind::GalaxyMap:
-        ShowBox(this, programTitle(), tr("The Galaxy Editor is not available in this version."),
+        ShowBox(this, ProgramName(), tr("The Galaxy Editor is not available in this version."),
                 BoxIcon::Information);
         return;
     case FileKind::Xml:
-        ShowBox(this, programTitle(),
+        ShowBox(this, ProgramName(),
                 tr("The Text Resource Editor is not available in this version."),
                 BoxIcon::Information);
         return;
     case FileKind::Unknown:
-        ShowBox(this, programTitle(),
-                tr("Don't know how to open file ") + u'"' +
-                    QString::fromStdString(ShownPath(File)) + u'"',
+        ShowBox(this, ProgramName(),
+                tr("Don't know how to open file ") + u'"' + ShownText(File) + u'"',
                 BoxIcon::Exclamation);
     }
 }
@@ -251,7 +246,7 @@ void frmMain::StartGame() {
 void frmMain::ShowConfiguration() {
     frmSettings window(this);
     window.ShowSettings();
-    if (window.ModalResult == 0)
+    if (window.ModalResult == modal::None)
         return;
     for (const char* key : {"lorn", "custom", "3Dviwer"})
         m_view->PlaceIcon(m_items.Update(QString::fromLatin1(key)));

@@ -15,15 +15,10 @@
 
 namespace {
 
-constexpr int resultOk = 1;
 constexpr int fieldWidth = 44; ///< of a path, in characters
 
 constexpr auto programFilter =
     QT_TRANSLATE_NOOP("frmSettings", "Executable Files (*.exe)|*.exe|All Files (*.*)|*.*");
-
-QString shown(const std::string& path) {
-    return QString::fromStdString(ShownPath(path));
-}
 
 std::string typedPath(const QString& text) {
     return FromPlatform(text.trimmed().toStdString());
@@ -250,9 +245,9 @@ void frmSettings::ShowSettings(bool Modal) {
 }
 
 void frmSettings::Fill() {
-    ModalResult = 0;
+    ModalResult = modal::None;
     for (const PathField& field : PathFields())
-        Edit(field.Edit)->setText(shown((*Settings.*field.Get)()));
+        Edit(field.Edit)->setText(ShownText((*Settings.*field.Get)()));
     for (const CheckField& field : CheckFields())
         Check(field.Check)->setChecked((*Settings.*field.Get)());
     m_viewerCommand->setText(QString::fromStdString(Settings->Ext3DViewerCmdLine()));
@@ -296,7 +291,7 @@ void frmSettings::OnOK() {
     StoreFields();
     if (!StoreLanguage())
         return;
-    ModalResult = resultOk;
+    ModalResult = modal::Ok;
     accept();
     ApplyChanges();
 }
@@ -304,7 +299,8 @@ void frmSettings::OnOK() {
 void frmSettings::StoreFields() {
     // A path that was not touched is not written, so that one left to its default stays so.
     for (const PathField& field : PathFields())
-        if (const QString text = Edit(field.Edit)->text(); text != shown((*Settings.*field.Get)()))
+        if (const QString text = Edit(field.Edit)->text();
+            text != ShownText((*Settings.*field.Get)()))
             (*Settings.*field.Set)(typedPath(text));
     for (const CheckField& field : CheckFields())
         (*Settings.*field.Set)(Check(field.Check)->isChecked());

@@ -1,6 +1,8 @@
 // The settings window: edits the stored settings and applies what changed at OK.
 #pragma once
 
+#include "ui/ModalResult.h"
+
 #include <QtWidgets>
 
 class frmSettings : public QDialog {
@@ -13,7 +15,7 @@ public:
     /// closed.
     void ShowSettings(bool Modal = true);
 
-    int ModalResult = 0; ///< 0 none, 1 OK
+    int ModalResult = modal::None; ///< or Ok
 
 private:
     struct PathField;

@@ -18,10 +18,6 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(LornFileDialog)
 };
 
-QString shown(const std::string& path) {
-    return QString::fromStdString(ShownPath(path));
-}
-
 bool isCatalogFile(const std::string& path) {
     return !IsCatalogPath(path) && lornfd::equalNoCase(ExtensionOf(path), "cat");
 }
@@ -53,7 +49,7 @@ void LornFileDialog::Show(bool Save) {
     if (DialogTitle.isEmpty())
         DialogTitle = Save ? Texts::tr("Save") : Texts::tr("Open");
     Cancelled = false;
-    if (const std::string kept = KeptDirectory(Kind); QFileInfo(shown(kept)).isDir())
+    if (const std::string kept = KeptDirectory(Kind); QFileInfo(ShownText(kept)).isDir())
         InitDir = kept;
     const auto chosen = [&] {
         return leadsIntoCatalog(FileName) ? ShowCatalog(Save) : ShowCommon(Save);
@@ -70,7 +66,8 @@ void LornFileDialog::Show(bool Save) {
 bool LornFileDialog::ShowCommon(bool Save) {
     const std::string directory = ParentDir(FileName);
     const FileRequest request{DialogTitle, Filter, FilterIndex,
-                              shown(directory.empty() ? InitDir : directory), shown(FileName)};
+                              ShownText(directory.empty() ? InitDir : directory),
+                              ShownText(FileName)};
     const auto choice = Save ? Ui().ShowSave(m_owner, request) : Ui().ShowOpen(m_owner, request);
     if (!choice)
         Cancel();
@@ -127,7 +124,7 @@ bool LornFileDialog::GoUp(const std::string& Catalog) {
 
 bool LornFileDialog::MayMakeCatalog(const std::string& Catalog) const {
     const QString text = Texts::tr("Catalog \"%1\" does not exist.\n\nDo you want to create it?")
-                             .arg(shown(Catalog));
+                             .arg(ShownText(Catalog));
     return Ui().ShowMessage(m_owner, {DialogTitle, text, BoxIcon::Question, BoxButtons::YesNo}) ==
            Answer::Yes;
 }
@@ -139,7 +136,7 @@ bool LornFileDialog::MakeCatalog(const std::string& Catalog) const {
         return true;
     }
     ShowBox(m_owner, DialogTitle,
-            Texts::tr("Error opening file ") + shown(Catalog) + QStringLiteral(":\n\n") +
+            Texts::tr("Error opening file ") + ShownText(Catalog) + QStringLiteral(":\n\n") +
                 ToScreen(LornFDErrorText()),
             BoxIcon::Critical);
     return false;

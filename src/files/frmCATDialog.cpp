@@ -236,8 +236,8 @@ void frmCATDialog::Run(const std::string& Catalog, bool Save) {
 bool frmCATDialog::Open() {
     if (NewCatalog || m_listing.Open(m_catalog))
         return true;
-    Say(tr("Error opening file ") + QString::fromStdString(ShownPath(m_catalog)) +
-            QStringLiteral(":\n\n") + ToScreen(LornFDErrorText()),
+    Say(tr("Error opening file ") + ShownText(m_catalog) + QStringLiteral(":\n\n") +
+            ToScreen(LornFDErrorText()),
         BoxIcon::Critical);
     return false;
 }

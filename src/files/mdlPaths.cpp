@@ -5,6 +5,8 @@
 #include "keshvfs/keshvfs.h"
 #include "lornfd/paths.h"
 
+#include <QString>
+
 #include <algorithm>
 #include <filesystem>
 
@@ -14,6 +16,10 @@ std::string FromPlatform(std::string_view Path) {
 
 std::string ShownPath(std::string_view Path) {
     return IsVFSPath(Path) ? std::string(Path) : lornfd::nativePath(Path);
+}
+
+QString ShownText(std::string_view Path) {
+    return QString::fromStdString(ShownPath(Path));
 }
 
 std::optional<std::string> FindInVFS(std::string_view NameInView) {

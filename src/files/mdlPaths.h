@@ -6,10 +6,13 @@
 #include <string>
 #include <string_view>
 
+class QString;
+
 /// A path from the platform (dialog, drop, command line, settings) in the program's form.
 [[nodiscard]] std::string FromPlatform(std::string_view Path);
 /// A path as messages and captions show it: native, catalog and "vfs://" forms recognised.
 [[nodiscard]] std::string ShownPath(std::string_view Path);
+[[nodiscard]] QString ShownText(std::string_view Path);
 
 /// The real place of a "vfs://" name or of a name relative to the view, whole; none if it is
 /// nowhere. "*" and "?" stand in no name, so that a mask never gives some other file.

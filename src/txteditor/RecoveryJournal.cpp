@@ -181,7 +181,7 @@ std::string RecoveryJournal::Flush() {
     }
     return Texts::tr("Changes cannot be noted for recovery in \"%1\": %2. If the program is "
                      "interrupted, what is not saved is lost.")
-        .arg(QString::fromStdString(ShownPath(m_directory)), QString::fromStdString(reason))
+        .arg(ShownText(m_directory), QString::fromStdString(reason))
         .toStdString();
 }
 

@@ -2,13 +2,6 @@
 
 #include "ui/CommonBoxes.h"
 
-namespace {
-
-constexpr int resultOk = 1;
-constexpr int resultCancel = 2;
-
-} // namespace
-
 frmEdit::frmEdit(QWidget* Owner) : QDialog(Owner) {
     setObjectName(QStringLiteral("frmEdit"));
     setWindowTitle(tr("Value Edit"));
@@ -62,7 +55,7 @@ void frmEdit::BuildControls() {
 }
 
 void frmEdit::ShowProperty(ObjectEditor* Editor, const RecordPtr& Object, std::int32_t Index) {
-    m_modalResult = resultCancel;
+    m_modalResult = modal::Cancel;
     if (Load([&] { LoadProperty(Editor, Object, Index); }))
         exec();
 }
@@ -108,7 +101,7 @@ void frmEdit::ShowText() {
 
 void frmEdit::ShowName(const RecordPtr& Object, const std::vector<RecordPtr>& Objects) {
     m_entry.emplace(Object, Objects);
-    m_modalResult = resultCancel;
+    m_modalResult = modal::Cancel;
     m_translated->setVisible(false);
     m_name->setText(tr("Name"));
     m_value->clear();
@@ -121,7 +114,7 @@ void frmEdit::OnOk() {
     m_entry->FileEncoding = FileEncoding;
     const QString refusal = m_entry->Take(m_value->currentText());
     if (refusal.isEmpty()) {
-        m_modalResult = resultOk;
+        m_modalResult = modal::Ok;
         accept();
         return;
     }

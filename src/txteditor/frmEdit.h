@@ -2,6 +2,7 @@
 #pragma once
 
 #include "txteditor/ValueEntry.h"
+#include "ui/ModalResult.h"
 
 class frmEdit : public QDialog {
     Q_OBJECT
@@ -13,7 +14,7 @@ public:
     bool AllowSlash = false;
     /// Asked for the encoding of the record's file when a text goes beyond ASCII.
     std::function<TextEncoding()> FileEncoding;
-    /// 1 after OK, 2 after Cancel.
+    /// modal::Ok or modal::Cancel.
     [[nodiscard]] int ModalResult() const noexcept { return m_modalResult; }
 
     /// Edits a field, modally; the panel may be missing.
@@ -31,7 +32,7 @@ private:
     void OnOk();
 
     std::optional<ValueEntry> m_entry;
-    int m_modalResult = 2;
+    int m_modalResult = modal::Cancel;
 
     QLineEdit* m_name = nullptr;
     QLabel* m_valueLabel = nullptr;

@@ -48,8 +48,8 @@ QString NotStartedText(const std::string& Path) {
 bool StartProgram(QWidget* Owner, const std::string& Path) {
     if (RunProgram(Path))
         return true;
-    ShowBox(Owner, QString::fromStdString(ProgramTitle()),
-            Texts::tr("Error starting program: ") + NotStartedText(Path), BoxIcon::Exclamation);
+    ShowBox(Owner, ProgramName(), Texts::tr("Error starting program: ") + NotStartedText(Path),
+            BoxIcon::Exclamation);
     return false;
 }
 
@@ -58,7 +58,7 @@ bool RunGame(QWidget* Owner) {
     if (!game.empty())
         return StartProgram(Owner, game);
     ShowBox(
-        Owner, QString::fromStdString(ProgramTitle()),
+        Owner, ProgramName(),
         Texts::tr(
             "Program cannot found registry entry of Kesh Origins. You will have to specify path "
             "to the game executable in the Settings window."),
@@ -76,8 +76,7 @@ void ShowHelp(QWidget* Owner, std::string_view Topic) {
         return;
     const QString what = installed ? Texts::tr("No browser was found to show the help:\n")
                                    : Texts::tr("Help is not installed:\n");
-    ShowBox(Owner, QString::fromStdString(ProgramTitle()), what + QDir::toNativeSeparators(page),
-            BoxIcon::Exclamation);
+    ShowBox(Owner, ProgramName(), what + QDir::toNativeSeparators(page), BoxIcon::Exclamation);
 }
 
 void HelpOnF1(QWidget* Window, const char* Topic) {

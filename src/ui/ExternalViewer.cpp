@@ -16,7 +16,7 @@ struct Texts {
 };
 
 void say(QWidget* owner, const QString& text, BoxIcon icon) {
-    ShowBox(owner, QString::fromStdString(ProgramTitle()), text, icon);
+    ShowBox(owner, ProgramName(), text, icon);
 }
 
 void sayFailure(QWidget* owner, const QString& reason) {

@@ -1,5 +1,6 @@
 #include "ui/UserInterface.h"
 
+#include "core/mdlCommon.h"
 #include "ui/FileFilter.h"
 #include "ui/frmWait.h"
 
@@ -141,6 +142,10 @@ UserInterface& Ui() {
 
 std::unique_ptr<UserInterface> SetUserInterface(std::unique_ptr<UserInterface> Interface) {
     return std::exchange(Current(), std::move(Interface));
+}
+
+QString ProgramName() {
+    return QString::fromStdString(ProgramTitle());
 }
 
 void ShowBox(QWidget* Owner, const QString& Title, const QString& Text, BoxIcon Icon) {

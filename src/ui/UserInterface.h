@@ -59,5 +59,7 @@ UserInterface& Ui();
 /// Puts another one in place and gives the former; none stands for Qt's own dialogs.
 std::unique_ptr<UserInterface> SetUserInterface(std::unique_ptr<UserInterface> Interface);
 
+/// ProgramTitle for the screen: the title of most boxes.
+[[nodiscard]] QString ProgramName();
 /// A box with one OK button.
 void ShowBox(QWidget* Owner, const QString& Title, const QString& Text, BoxIcon Icon);

@@ -58,7 +58,7 @@ QString aboutText() {
 
 frmAbout::frmAbout(QWidget* Owner) : QDialog(Owner) {
     setObjectName(QStringLiteral("frmAbout"));
-    const QString title = QString::fromStdString(ProgramTitle());
+    const QString title = ProgramName();
     setWindowTitle(tr("About %1").arg(title));
     HelpOnF1(this, "about.html");
 

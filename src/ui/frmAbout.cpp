@@ -58,40 +58,57 @@ QString aboutText() {
 
 frmAbout::frmAbout(QWidget* Owner) : QDialog(Owner) {
     setObjectName(QStringLiteral("frmAbout"));
-    const QString title = ProgramName();
-    setWindowTitle(tr("About %1").arg(title));
+    setWindowTitle(tr("About %1").arg(ProgramName()));
+    auto* grid = new QGridLayout(this);
+    grid->setColumnStretch(1, 1);
+    grid->setHorizontalSpacing(fontMetrics().height());
+    grid->addWidget(BuildPicture(), 0, 0, 2, 1, Qt::AlignTop);
+    grid->addWidget(BuildName(), 0, 1);
+    grid->addWidget(BuildVersion(), 1, 1);
+    grid->addWidget(BuildLicences(), 2, 0, 1, 2);
+    grid->addWidget(BuildButtons(), 3, 0, 1, 2);
     HelpOnF1(this, "about.html");
+    resize(QSize(72 * fontMetrics().averageCharWidth(), 24 * fontMetrics().height())
+               .boundedTo(screen()->availableSize()));
+}
 
+QWidget* frmAbout::BuildPicture() {
     auto* picture = new QLabel(this);
     const int side = 3 * fontMetrics().height();
     picture->setPixmap(ToolIcon("kesh").pixmap(side, side));
-    auto* name = new QLabel(title, this);
+    return picture;
+}
+
+QWidget* frmAbout::BuildName() {
+    auto* name = new QLabel(ProgramName(), this);
     name->setObjectName(QStringLiteral("lblTitle"));
     QFont large = name->font();
     large.setPointSizeF(large.pointSizeF() * 1.6);
     name->setFont(large);
-    auto* version =
-        new QLabel(tr("Version %1").arg(QString::fromStdString(ProgramVersion())), this);
-    version->setObjectName(QStringLiteral("lblVersion"));
+    return name;
+}
+
+QWidget* frmAbout::BuildVersion() {
+    const QString version = QString::fromStdString(ProgramVersion());
+    auto* label = new QLabel(tr("Version %1").arg(version), this);
+    label->setObjectName(QStringLiteral("lblVersion"));
+    return label;
+}
+
+QWidget* frmAbout::BuildLicences() {
     auto* text = new QTextBrowser(this);
     text->setObjectName(QStringLiteral("txtLicences"));
     text->setAccessibleName(tr("Libraries and licences"));
     text->setHtml(aboutText());
+    return text;
+}
+
+QWidget* frmAbout::BuildButtons() {
     auto* buttons = new QDialogButtonBox(this);
     auto* close = buttons->addButton(tr("Close"), QDialogButtonBox::AcceptRole);
     close->setObjectName(QStringLiteral("btnOK"));
     close->setDefault(true);
     close->setFocus();
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-
-    auto* grid = new QGridLayout(this);
-    grid->setColumnStretch(1, 1);
-    grid->setHorizontalSpacing(fontMetrics().height());
-    grid->addWidget(picture, 0, 0, 2, 1, Qt::AlignTop);
-    grid->addWidget(name, 0, 1);
-    grid->addWidget(version, 1, 1);
-    grid->addWidget(text, 2, 0, 1, 2);
-    grid->addWidget(buttons, 3, 0, 1, 2);
-    resize(QSize(72 * fontMetrics().averageCharWidth(), 24 * fontMetrics().height())
-               .boundedTo(screen()->availableSize()));
+    return buttons;
 }

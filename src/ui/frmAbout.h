@@ -8,4 +8,11 @@ class frmAbout : public QDialog {
 
 public:
     explicit frmAbout(QWidget* Owner = nullptr);
+
+private:
+    QWidget* BuildPicture();
+    QWidget* BuildName();
+    QWidget* BuildVersion();
+    QWidget* BuildLicences();
+    QWidget* BuildButtons();
 };

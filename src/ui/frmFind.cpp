@@ -22,14 +22,18 @@ frmFind::frmFind(QWidget* Owner)
         widget->setObjectName(QString::fromLatin1(name));
     m_rbIDText[1]->setChecked(true);
     m_btnFindNext->setDefault(true);
+    LayOut();
+    Connect();
+    HelpOnF1(this, "find.html");
+    SetResEditorMode(false);
+}
+
+void frmFind::Connect() {
     m_FindEdit->installEventFilter(this);
     connect(m_FindEdit, &QLineEdit::textChanged, this, &frmFind::Enable);
     connect(m_rbIDText[0], &QRadioButton::toggled, this, &frmFind::Enable);
     connect(m_btnFindNext, &QPushButton::clicked, this, &frmFind::FindNext);
     connect(m_btnCancel, &QPushButton::clicked, this, &frmFind::reject);
-    HelpOnF1(this, "find.html");
-    LayOut();
-    SetResEditorMode(false);
 }
 
 void frmFind::LayOut() {

@@ -34,6 +34,7 @@ protected:
 
 private:
     void LayOut();
+    void Connect();
     void Show(const QString& Text, bool Modal, QWidget* Owner);
     void SetResEditorMode(bool On);
     void Enable();

@@ -8,6 +8,15 @@ frmText::frmText(QWidget* Owner)
     m_txt->setObjectName(QStringLiteral("txt"));
     m_txt->setReadOnly(true);
     m_txt->setAccessibleName(tr("Report"));
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(m_txt);
+    rows->addLayout(BuildButtons());
+    HelpOnF1(this, "report.html");
+    const QFontMetrics font = fontMetrics();
+    resize(80 * font.averageCharWidth(), 24 * font.height());
+}
+
+QLayout* frmText::BuildButtons() {
     auto* close = new QPushButton(tr("Close"), this);
     close->setObjectName(QStringLiteral("btnOK"));
     close->setDefault(true);
@@ -17,17 +26,11 @@ frmText::frmText(QWidget* Owner)
     m_goTo->setAutoDefault(false);
     m_goTo->hide();
     connect(m_goTo, &QPushButton::clicked, this, &frmText::GoToLine);
-
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(m_goTo);
     buttons->addWidget(close);
-    auto* rows = new QVBoxLayout(this);
-    rows->addWidget(m_txt);
-    rows->addLayout(buttons);
-    HelpOnF1(this, "report.html");
-    const QFontMetrics font = fontMetrics();
-    resize(80 * font.averageCharWidth(), 24 * font.height());
+    return buttons;
 }
 
 void frmText::SetGoTo(std::function<bool(const QString& Line)> GoTo) {

@@ -24,6 +24,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QLayout* BuildButtons();
     void GoToLine();
 
     QPlainTextEdit* m_txt;

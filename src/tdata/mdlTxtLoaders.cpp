@@ -1,7 +1,10 @@
 #include "core/KeshError.h"
 #include "core/mdlCommon.h"
 #include "tdata/TxtLoader.h"
+#include "tdata/clsGun.h"
+#include "tdata/clsGunGroup.h"
 #include "tdata/clsShip.h"
+#include "tdata/clsTurret.h"
 #include "tdata/mdlKeshConst.h"
 
 #include <algorithm>
@@ -17,21 +20,24 @@ namespace {
 /// of what was taken. True if the walk came to the record's end.
 template <class Take, class CountAt>
 bool WalkShip(const Take& take, const CountAt& countAt) {
+    constexpr std::int64_t turret = clsTurret::size();
+    constexpr std::int64_t group = clsGunGroup::size();
+    constexpr std::int64_t gun = clsGun::size();
     constexpr std::int64_t head = clsShip::SectionTurrets + 1; ///< with the count of gun groups
     if (!take(head))
         return false;
     const std::int64_t turrets = std::max(0, countAt(clsShip::FieldTurretCount));
-    if (!take(4 * turrets))
+    if (!take(turret * turrets))
         return false;
-    const std::int32_t groups = countAt(head - 1 + 4 * turrets);
-    std::int64_t at = head + 4 * turrets;
+    std::int64_t at = head + turret * turrets;
+    const std::int32_t groups = countAt(at - 1);
     for (std::int32_t i = 0; i < groups; ++i) {
-        if (!take(4))
+        if (!take(group))
             return false;
-        const std::int64_t guns = std::max(0, countAt(at + 3));
-        if (!take(6 * guns))
+        const std::int64_t guns = std::max(0, countAt(at + group - 1));
+        if (!take(gun * guns))
             return false;
-        at += 4 + 6 * guns;
+        at += group + gun * guns;
     }
     return take(CommonTailCount);
 }

@@ -411,7 +411,10 @@ TEST(RecordReference, FieldsThatNameNothingLeadNowhere) {
     job.otype = otype::Jobs;
     job.Construct(117);
     EXPECT_FALSE(ReferenceOf(job, 13)) << "no wing";
+    job.SetValue(13, -1);
+    EXPECT_FALSE(ReferenceOf(job, 13));
     EXPECT_FALSE(ReferenceOf(job, 200));
+    EXPECT_FALSE(ReferenceOf(job, 18)) << "0";
     job.SetValue(18, std::string());
     EXPECT_FALSE(ReferenceOf(job, 18));
     clsTXTObject nothing;

@@ -128,13 +128,14 @@ bool RecordUndo::Remove(Records Removed, const QString& Text) {
 
 bool RecordUndo::Replay(const std::vector<RecordSteps>& Commands, const QString& Text) {
     m_stack.beginMacro(Text);
+    const auto end = qScopeGuard([this] { m_stack.endMacro(); });
     bool good = true;
     for (const RecordSteps& command : Commands) {
         const auto* step = command.data();
-        const auto* const end = step + command.size();
-        while (good && step != end) {
+        const auto* const last = step + command.size();
+        while (good && step != last) {
             const auto* const first = step;
-            while (step != end && step->What == Kind::Insert &&
+            while (step != last && step->What == Kind::Insert &&
                    step->Index == first->Index + (step - first))
                 ++step;
             if (step != first)
@@ -143,7 +144,6 @@ bool RecordUndo::Replay(const std::vector<RecordSteps>& Commands, const QString&
                 good = ReplayStep(*step++);
         }
     }
-    m_stack.endMacro();
     return good;
 }
 

@@ -38,7 +38,6 @@ frmTXTEditor::frmTXTEditor(const Panels& Editors, QWidget* Owner)
       m_data(new RecordDataModel(this)),
       m_watch(new WatchModel(this)) {
     setObjectName(QStringLiteral("frmTXTEditor"));
-    LoadRecent();
     BuildControls();
     BuildActions();
     BuildMenus();

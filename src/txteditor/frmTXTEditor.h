@@ -2,6 +2,7 @@
 #pragma once
 
 #include "txteditor/ObjectEditor.h"
+#include "txteditor/RecentFiles.h"
 #include "txteditor/RecordClipboard.h"
 #include "txteditor/RecordUndo.h"
 #include "txteditor/RecoveryJournal.h"
@@ -154,11 +155,8 @@ private:
     [[nodiscard]] std::string SaveStart() const;
     [[nodiscard]] bool MayReplace(const std::string& Name);
     [[nodiscard]] bool MayLoseData(); ///< asks where a save drops something or cannot be read back
-    void LoadRecent();
     void AddRecent(const std::string& Name);
     void RemoveRecent(const std::string& Name);
-    void ForgetRecent(const std::string& Name);
-    void SaveRecent();
     void UpdateRecentActions();
     void Say(const QString& Text, BoxIcon Icon);
 
@@ -248,7 +246,7 @@ private:
     QFileSystemWatcher m_watcher;
     frmFind* m_find = nullptr;
     QVariant m_findTag; ///< of finding without the dialog
-    std::vector<std::string> m_recent;
+    RecentFiles m_recent;
     std::vector<QAction*> m_actions; ///< in the order of ActionTable
     QList<QAction*> m_recentActions;
 

@@ -203,10 +203,11 @@ void frmTXTEditor::UpdateActions() {
 void frmTXTEditor::UpdateRecentActions() {
     qDeleteAll(m_recentActions);
     m_recentActions.clear();
-    for (std::size_t i = 0; i < m_recent.size() && m_recentActions.size() < shownRecent; ++i) {
-        const std::string name = m_recent[i];
+    for (const std::string& name : m_recent.Names()) {
+        if (m_recentActions.size() == shownRecent)
+            break;
         const QString shown = menuText(QString::fromStdString(ShownPath(name)));
-        auto* action = new QAction(tr("%1 - %2").arg(i + 1).arg(shown), this);
+        auto* action = new QAction(tr("%1 - %2").arg(m_recentActions.size() + 1).arg(shown), this);
         action->setObjectName(QString::fromStdString(name));
         connect(
             action, &QAction::triggered, this, [this, name] { OpenFile(name); },

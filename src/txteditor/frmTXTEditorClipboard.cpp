@@ -107,12 +107,14 @@ void frmTXTEditor::InsertRecords(const Paste& What) {
     const auto made = MakeRecords(What, *before);
     if (!made)
         return;
-    m_undo.Stack().beginMacro(What.Name); // a cut may take the originals from this file too
-    m_undo.TakeAdded(*made, What.Name);
-    ListRecords(*made, *before);
-    if (What.FinishCut)
-        FinishCut(What.Sources);
-    m_undo.Stack().endMacro();
+    {
+        m_undo.Stack().beginMacro(What.Name); // a cut may take the originals from this file too
+        const auto end = qScopeGuard([this] { m_undo.Stack().endMacro(); });
+        m_undo.TakeAdded(*made, What.Name);
+        ListRecords(*made, *before);
+        if (What.FinishCut)
+            FinishCut(What.Sources);
+    }
     SelectRecords(*made);
     UpdateCaption();
     UpdateCount();

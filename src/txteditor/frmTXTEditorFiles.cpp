@@ -4,7 +4,6 @@
 #include "core/mdlCommon.h"
 #include "files/mdlPaths.h"
 #include "lornfd/lornfd.h"
-#include "lornfd/paths.h"
 #include "tdata/mdlKeshConst.h"
 #include "txteditor/RecordListModel.h"
 #include "txteditor/TFileDialog.h"
@@ -203,34 +202,12 @@ bool frmTXTEditor::MayLoseData() {
            may(ToScreen(m_file.Parser.Misfit()), anyway);
 }
 
-void frmTXTEditor::LoadRecent() {
-    const auto same = [](const std::string& name) {
-        return [&name](const std::string& other) { return lornfd::equalNoCase(name, other); };
-    };
-    m_recent.clear();
-    for (const std::string& name : Settings->LoadRecentTFiles()) // the tail of a longer list stays
-        if (std::none_of(m_recent.begin(), m_recent.end(), same(name)))
-            m_recent.push_back(name);
-}
-
 void frmTXTEditor::AddRecent(const std::string& Name) {
-    ForgetRecent(Name);
-    m_recent.insert(m_recent.begin(), Name);
-    SaveRecent();
+    m_recent.Add(Name);
+    UpdateRecentActions();
 }
 
 void frmTXTEditor::RemoveRecent(const std::string& Name) {
-    ForgetRecent(Name);
-    SaveRecent();
-}
-
-void frmTXTEditor::ForgetRecent(const std::string& Name) {
-    LoadRecent(); // other windows add to the same list
-    std::erase_if(m_recent,
-                  [&](const std::string& other) { return lornfd::equalNoCase(other, Name); });
-}
-
-void frmTXTEditor::SaveRecent() {
-    Settings->SaveRecentTFiles(m_recent);
+    m_recent.Remove(Name);
     UpdateRecentActions();
 }

@@ -22,8 +22,7 @@ bool RecordPanel::Init(clsTxtParser& Parser) {
     return true;
 }
 
-bool RecordPanel::Validate(std::string& Text) {
-    Q_UNUSED(Text);
+bool RecordPanel::Validate(std::string&) {
     return true;
 }
 
@@ -31,18 +30,15 @@ std::string RecordPanel::ObjectName(const RecordPtr& Object) const {
     return std::string(Object->ObjectName());
 }
 
-std::string RecordPanel::GetClass(const RecordPtr& Object) const {
-    Q_UNUSED(Object);
+std::string RecordPanel::GetClass(const RecordPtr&) const {
     return {};
 }
 
-std::string RecordPanel::GetRace(const RecordPtr& Object) const {
-    Q_UNUSED(Object);
+std::string RecordPanel::GetRace(const RecordPtr&) const {
     return {};
 }
 
-std::string RecordPanel::GetResourceName(const RecordPtr& Object) const {
-    Q_UNUSED(Object);
+std::string RecordPanel::GetResourceName(const RecordPtr&) const {
     return {};
 }
 
@@ -78,18 +74,17 @@ std::int32_t RecordPanel::LornSupportValueTranslate(const RecordPtr& Object,
 
 std::vector<std::string> RecordPanel::LornGetPropertyValues(const RecordPtr& Object,
                                                             std::int32_t Index) const {
-    Q_UNUSED(Object);
-    Q_UNUSED(Index);
-    return {};
+    return Converter() ? Converter()->Values(*Object, Index) : std::vector<std::string>();
 }
 
 bool RecordPanel::LornTranslateValue(const RecordPtr& Object, std::int32_t Index, std::string& Text,
                                      bool Raw) const {
-    Q_UNUSED(Object);
-    Q_UNUSED(Index);
-    Q_UNUSED(Text);
-    Q_UNUSED(Raw);
-    return false;
+    return Converter() && Converter()->Translate(*Object, Index, Text, Raw);
+}
+
+bool RecordPanel::LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
+                                         std::int32_t Index, KeshValue& Value) {
+    return Converter() && Converter()->TranslateBack(*Object, Text, Index, Value);
 }
 
 bool RecordPanel::SetLastError(std::string Text) {
@@ -150,18 +145,15 @@ void RecordPanel::SetCurrentObject(RecordPtr Object) {
     m_object = std::move(Object);
 }
 
-bool RecordPanel::MayEdit(std::int32_t Field) {
-    Q_UNUSED(Field);
+bool RecordPanel::MayEdit(std::int32_t) {
     return true;
 }
 
-bool RecordPanel::EditFields(std::int32_t Row) {
-    Q_UNUSED(Row);
+bool RecordPanel::EditFields(std::int32_t) {
     return false;
 }
 
-bool RecordPanel::FollowEdit(std::int32_t Field) {
-    Q_UNUSED(Field);
+bool RecordPanel::FollowEdit(std::int32_t) {
     return false;
 }
 

@@ -2,6 +2,7 @@
 // the value dialog. Names, types, units and classes of fields come from the tables of their type.
 #pragma once
 
+#include "tdata/FieldConversion.h"
 #include "txteditor/GoToAction.h"
 #include "txteditor/ValueEntry.h"
 #include "txteditor/panels/PropertyModel.h"
@@ -43,6 +44,8 @@ public:
                                                                  std::int32_t Index) const override;
     [[nodiscard]] bool LornTranslateValue(const RecordPtr& Object, std::int32_t Index,
                                           std::string& Text, bool Raw) const override;
+    [[nodiscard]] bool LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
+                                              std::int32_t Index, KeshValue& Value) override;
     [[nodiscard]] bool FinishEntry() override;
 
     // For the views of the panel. Fields are indices, or PropertyRow::IdField.
@@ -71,6 +74,8 @@ protected:
     void SetCurrentObject(RecordPtr Object); ///< an entry of another record is given up
     bool SetLastError(std::string Text);     ///< gives false
 
+    /// By what its fields read and are entered otherwise than they are stored; null if none does.
+    [[nodiscard]] virtual const FieldConverter* Converter() const { return nullptr; }
     /// Rows of fields, as far as the record has them.
     [[nodiscard]] QList<PropertyRow> RowsOf(std::span<const std::int32_t> Fields) const;
     [[nodiscard]] PropertyRow RowOf(std::int32_t Field) const;

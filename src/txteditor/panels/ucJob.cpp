@@ -84,8 +84,7 @@ std::string ucJob::ObjectTypeName(std::int32_t OType) const {
     return "Jobs v." + std::to_string(Parser() ? Parser()->Version() : 0);
 }
 
-std::string ucJob::PageName(std::int32_t OType) const {
-    Q_UNUSED(OType);
+std::string ucJob::PageName(std::int32_t) const {
     return tr("Job info").toStdString();
 }
 
@@ -163,8 +162,7 @@ std::int32_t ucJob::FieldPlace(const RecordPtr& Object, std::int32_t Index) cons
 }
 
 bool ucJob::LornTranslateValue(const RecordPtr& Object, std::int32_t Index, std::string& Text,
-                               bool Raw) const {
-    Q_UNUSED(Raw);
+                               bool) const {
     Text = GetJobText(*Object, Index);
     return true;
 }
@@ -211,8 +209,7 @@ bool ucJob::RemoveObject(const RecordPtr& Object) {
     return RecordPanel::RemoveObject(Object);
 }
 
-void ucJob::RestoreObject(const RecordPtr& Object) {
-    Q_UNUSED(Object);
+void ucJob::RestoreObject(const RecordPtr&) {
     m_byNumber.reset();
 }
 
@@ -230,8 +227,7 @@ void ucJob::ObjectReset(const RecordPtr& Object) {
 
 // The job on view
 
-void ucJob::ShowObject(const RecordPtr& Object, std::int32_t OType) {
-    Q_UNUSED(OType);
+void ucJob::ShowObject(const RecordPtr& Object, std::int32_t) {
     if (Object == CurrentObject()) // it may have been changed by its raw fields
         m_byNumber.reset();
     SetCurrentObject(Object);

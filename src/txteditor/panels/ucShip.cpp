@@ -185,21 +185,6 @@ void ucShip::RestoreObject(const RecordPtr& Object) {
 
 // Fields
 
-std::vector<std::string> ucShip::LornGetPropertyValues(const RecordPtr& Object,
-                                                       std::int32_t Index) const {
-    return m_fields.Values(*Object, Index);
-}
-
-bool ucShip::LornTranslateValue(const RecordPtr& Object, std::int32_t Index, std::string& Text,
-                                bool Raw) const {
-    return m_fields.Translate(*Object, Index, Text, Raw);
-}
-
-bool ucShip::LornTranslateValueBack(const RecordPtr& Object, std::string& Text, std::int32_t Index,
-                                    KeshValue& Value) {
-    return m_fields.TranslateBack(*Object, Text, Index, Value);
-}
-
 bool ucShip::KeepsCounts(std::int32_t Field) const {
     if (Field == clsShip::FieldTurretCount || Field == clsShip::FieldGunCount)
         return true;
@@ -248,16 +233,14 @@ bool ucShip::LetCargoFollow(std::int32_t Changed, std::int32_t Follower) {
 
 // The ship on view
 
-void ucShip::ShowObject(const RecordPtr& Object, std::int32_t OType) {
-    Q_UNUSED(OType);
+void ucShip::ShowObject(const RecordPtr& Object, std::int32_t) {
     m_ship = ShipOf(Object);
     SetCurrentObject(m_ship ? Object : nullptr);
     UpdateToolbar();
     RefreshViews();
 }
 
-QString ucShip::RowText(const QString& Translated, const QString& Stored) const {
-    Q_UNUSED(Stored);
+QString ucShip::RowText(const QString& Translated, const QString&) const {
     return Translated;
 }
 

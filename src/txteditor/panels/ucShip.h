@@ -46,18 +46,12 @@ public:
     [[nodiscard]] bool InitObject(const RecordPtr& Object) override;
     [[nodiscard]] bool RemoveObject(const RecordPtr& Object) override;
 
-    [[nodiscard]] std::vector<std::string> LornGetPropertyValues(const RecordPtr& Object,
-                                                                 std::int32_t Index) const override;
-    [[nodiscard]] bool LornTranslateValue(const RecordPtr& Object, std::int32_t Index,
-                                          std::string& Text, bool Raw) const override;
-    [[nodiscard]] bool LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
-                                              std::int32_t Index, KeshValue& Value) override;
-
     bool KeshExportData(QWidget* Owner) override;
     void ObjectReset(const RecordPtr& Object) override;
     void RestoreObject(const RecordPtr& Object) override;
 
 protected:
+    [[nodiscard]] const FieldConverter* Converter() const override { return &m_fields; }
     [[nodiscard]] bool MayEdit(std::int32_t Field) override;
     bool FollowEdit(std::int32_t Field) override;
     [[nodiscard]] QString RowText(const QString& Translated, const QString& Stored) const override;

@@ -63,13 +63,11 @@ std::string ucTurret::ObjectTypeName(std::int32_t OType) const {
     return LornQueryInterface(OType) ? tr("Turrets").toStdString() : std::string();
 }
 
-std::string ucTurret::PageName(std::int32_t OType) const {
-    Q_UNUSED(OType);
+std::string ucTurret::PageName(std::int32_t) const {
     return tr("Turret info").toStdString();
 }
 
-std::int32_t ucTurret::LornQueryInfo(std::int32_t OType) const {
-    Q_UNUSED(OType);
+std::int32_t ucTurret::LornQueryInfo(std::int32_t) const {
     return panelinfo::HasNames;
 }
 
@@ -84,10 +82,8 @@ RecordPtr ucTurret::CreateObject(std::int32_t OType, clsTxtParser& Parser,
     return made;
 }
 
-bool ucTurret::LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
-                                      std::int32_t Index, KeshValue& Value) {
-    Q_UNUSED(Object);
-    Q_UNUSED(Index);
+bool ucTurret::LornTranslateValueBack(const RecordPtr&, std::string& Text, std::int32_t,
+                                      KeshValue& Value) {
     const auto number = keshobjects::readNumber(Text);
     if (number)
         Value = *number;
@@ -96,8 +92,7 @@ bool ucTurret::LornTranslateValueBack(const RecordPtr& Object, std::string& Text
 
 // The record on view
 
-void ucTurret::ShowObject(const RecordPtr& Object, std::int32_t OType) {
-    Q_UNUSED(OType);
+void ucTurret::ShowObject(const RecordPtr& Object, std::int32_t) {
     SetCurrentObject(Object);
     RefreshViews();
 }

@@ -143,21 +143,6 @@ RecordPtr ucWare::CreateObject(std::int32_t OType, clsTxtParser& Parser, const R
     return made;
 }
 
-std::vector<std::string> ucWare::LornGetPropertyValues(const RecordPtr& Object,
-                                                       std::int32_t Index) const {
-    return m_fields.Values(*Object, Index);
-}
-
-bool ucWare::LornTranslateValue(const RecordPtr& Object, std::int32_t Index, std::string& Text,
-                                bool Raw) const {
-    return m_fields.Translate(*Object, Index, Text, Raw);
-}
-
-bool ucWare::LornTranslateValueBack(const RecordPtr& Object, std::string& Text, std::int32_t Index,
-                                    KeshValue& Value) {
-    return m_fields.TranslateBack(*Object, Text, Index, Value);
-}
-
 void ucWare::ObjectReset(const RecordPtr& Object) {
     if (Object == CurrentObject())
         RefreshViews();
@@ -165,8 +150,7 @@ void ucWare::ObjectReset(const RecordPtr& Object) {
 
 // The record on view
 
-void ucWare::ShowObject(const RecordPtr& Object, std::int32_t OType) {
-    Q_UNUSED(OType);
+void ucWare::ShowObject(const RecordPtr& Object, std::int32_t) {
     SetCurrentObject(Object);
     RefreshViews();
 }

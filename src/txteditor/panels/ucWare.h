@@ -32,17 +32,11 @@ public:
     RecordPtr CreateObject(std::int32_t OType, clsTxtParser& Parser,
                            const RecordPtr& Before) override;
 
-    [[nodiscard]] std::vector<std::string> LornGetPropertyValues(const RecordPtr& Object,
-                                                                 std::int32_t Index) const override;
-    [[nodiscard]] bool LornTranslateValue(const RecordPtr& Object, std::int32_t Index,
-                                          std::string& Text, bool Raw) const override;
-    [[nodiscard]] bool LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
-                                              std::int32_t Index, KeshValue& Value) override;
-
     bool KeshExportData(QWidget* Owner) override;
     void ObjectReset(const RecordPtr& Object) override;
 
 protected:
+    [[nodiscard]] const FieldConverter* Converter() const override { return &m_fields; }
     bool EditFields(std::int32_t Row) override;
     void RefreshViews() override;
 

@@ -38,13 +38,11 @@ std::string ucWareList::PageName(std::int32_t OType) const {
     return LornQueryInterface(OType) ? tr("Ware List info").toStdString() : std::string();
 }
 
-std::int32_t ucWareList::LornQueryInfo(std::int32_t OType) const {
-    Q_UNUSED(OType);
+std::int32_t ucWareList::LornQueryInfo(std::int32_t) const {
     return 0;
 }
 
-void ucWareList::ShowObject(const RecordPtr& Object, std::int32_t OType) {
-    Q_UNUSED(OType);
+void ucWareList::ShowObject(const RecordPtr& Object, std::int32_t) {
     SetCurrentObject(Object);
     RefreshViews();
 }
@@ -61,26 +59,11 @@ void ucWareList::RefreshViews() {
         m_view->Clear();
 }
 
-RecordPtr ucWareList::CreateObject(std::int32_t OType, clsTxtParser& Parser,
-                                   const RecordPtr& Before) {
-    Q_UNUSED(OType);
-    Q_UNUSED(Parser);
-    Q_UNUSED(Before);
+RecordPtr ucWareList::CreateObject(std::int32_t, clsTxtParser&, const RecordPtr&) {
     SetLastError(tr("Ware lists are only shown here; none can be added.").toStdString());
     return {};
 }
 
-std::string ucWareList::LornGetPropertyName(const RecordPtr& Object, std::int32_t Index) const {
-    Q_UNUSED(Object);
-    Q_UNUSED(Index);
+std::string ucWareList::LornGetPropertyName(const RecordPtr&, std::int32_t) const {
     return {};
-}
-
-bool ucWareList::LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
-                                        std::int32_t Index, KeshValue& Value) {
-    Q_UNUSED(Object);
-    Q_UNUSED(Text);
-    Q_UNUSED(Index);
-    Q_UNUSED(Value);
-    return false;
 }

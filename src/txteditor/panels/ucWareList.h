@@ -21,8 +21,6 @@ public:
                            const RecordPtr& Before) override;
     [[nodiscard]] std::string LornGetPropertyName(const RecordPtr& Object,
                                                   std::int32_t Index) const override;
-    [[nodiscard]] bool LornTranslateValueBack(const RecordPtr& Object, std::string& Text,
-                                              std::int32_t Index, KeshValue& Value) override;
     void ObjectReset(const RecordPtr& Object) override;
 
 protected:

@@ -13,7 +13,9 @@ inline bool waitForJournal(std::size_t commands) {
     const QDir directory(QString::fromStdString(lornfd::nativePath(RecoveryDirectory())));
     return QTest::qWaitFor([&] {
         const auto files = directory.entryInfoList({QStringLiteral("*.journal")});
-        QFile file(files.isEmpty() ? QString() : files.first().filePath());
+        if (files.isEmpty())
+            return false;
+        QFile file(files.first().filePath());
         const std::string bytes =
             file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
         const JournalContent content = ReadJournal(bytes);

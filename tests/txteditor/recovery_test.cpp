@@ -69,7 +69,8 @@ TEST_F(Recovery, BringsEveryKindOfChangeBack) {
     trigger("redo");
     EXPECT_EQ(value(1, 4), "8");
 
-    auto again = crash(8); // the window that recovered is killed as well
+    // The window that recovered is killed as well; it has undone and redone all six.
+    auto again = crash(6 + 6 + 6);
     ASSERT_EQ(again.size(), 1U);
     recover(std::move(again[0]));
     EXPECT_EQ(value(1, 4), "8");

@@ -107,6 +107,5 @@ void AddSorted(std::vector<std::shared_ptr<T>>& Collection, std::shared_ptr<T> O
 }
 
 inline constexpr int GameUnitsPerMetre = 500;
-/// A distance in game units with its unit, or bare with Plain; Miles gives nautical
-/// miles.
+/// A distance in game units with its unit, or bare with Plain; Miles gives nautical miles.
 [[nodiscard]] std::string FormatDistance(double GameUnits, bool Plain, bool Miles);

@@ -51,14 +51,9 @@ bool CheckReferences::HasJobWing(const KeshValue& Number) {
 }
 
 bool CheckReferences::HasJob(std::int32_t Number) {
-    if (!m_jobs) {
-        m_jobs.emplace();
-        if (const clsTxtParser* const file = File("Jobs"))
-            for (const RecordPtr& record : file->ByIndex())
-                if (const auto number = GetJobInteger(*record, jobfield::Number))
-                    m_jobs->insert(keshobjects::keyOf(0, *number));
-    }
-    return m_jobs->contains(keshobjects::keyOf(0, Number));
+    if (!m_jobs && File("Jobs") != nullptr)
+        m_jobs.emplace(*File("Jobs"));
+    return m_jobs && m_jobs->Find(Number);
 }
 
 bool CheckReferences::HasObjectText(std::int32_t Id) const {

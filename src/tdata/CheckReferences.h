@@ -2,7 +2,7 @@
 #pragma once
 
 #include "keshobjects/numberhash.h"
-#include "tdata/JobWingIndex.h"
+#include "tdata/JobIndex.h"
 #include "tdata/clsTxtParser.h"
 
 #include <cstdint>
@@ -41,6 +41,6 @@ private:
     std::unique_ptr<clsTxtParser> m_merged;
     std::optional<Names> m_wares;
     std::optional<Names> m_ships;
-    std::optional<JobWingIndex> m_wings;
-    std::optional<std::unordered_set<std::uint64_t, keshobjects::NumberHash>> m_jobs;
+    std::optional<JobIndex> m_wings;
+    std::optional<JobIndex> m_jobs;
 };

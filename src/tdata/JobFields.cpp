@@ -90,6 +90,11 @@ std::optional<std::int32_t> GetJobInteger(const clsTXTObject& Job, std::int32_t 
     return Reaches(Job, place) ? Job.ValueInteger(place) : std::nullopt;
 }
 
+std::string_view JobShip(const clsTXTObject& Job) {
+    const std::string_view id = GetJobText(Job, jobfield::Ship);
+    return id == "0" ? std::string_view() : id;
+}
+
 bool SetJobValue(clsTXTObject& Job, std::int32_t Field, const KeshValue& Value) {
     const std::int32_t place = PlaceOf(Job, Field);
     if (!Reaches(Job, place))

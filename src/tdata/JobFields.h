@@ -64,6 +64,8 @@ inline constexpr JobFlags Roles{115, 4}; ///< one of them
 [[nodiscard]] std::string_view GetJobText(const clsTXTObject& Job, std::int32_t Field);
 [[nodiscard]] std::optional<std::int32_t> GetJobInteger(const clsTXTObject& Job,
                                                         std::int32_t Field);
+/// The ID of the job's own ship, valid as long; empty if it has none, which a new job spells "0".
+[[nodiscard]] std::string_view JobShip(const clsTXTObject& Job);
 /// False, and nothing changed, outside the record.
 bool SetJobValue(clsTXTObject& Job, std::int32_t Field, const KeshValue& Value);
 

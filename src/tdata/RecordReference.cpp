@@ -1,7 +1,7 @@
 #include "tdata/RecordReference.h"
 
 #include "tdata/JobFields.h"
-#include "tdata/JobWingIndex.h"
+#include "tdata/JobIndex.h"
 #include "tdata/clsArchive.h"
 #include "tdata/mdlKeshConst.h"
 #include "tdata/mdlKeshJobs.h"
@@ -24,15 +24,6 @@ constexpr FieldReference References[] = {
     {otype::Jobs, jobfield::WareList, "WareLists", By::Index},
     {otype::Jobs, jobfield::Ship, "TShips", By::ID},
 };
-
-RecordPtr FindJob(const clsTxtParser& jobs, const std::string& number) {
-    const KeshValue wanted = keshobjects::readValue(number);
-    const auto& all = jobs.ByIndex();
-    const auto found = std::find_if(all.begin(), all.end(), [&](const RecordPtr& job) {
-        return job->size() > 0 && keshobjects::equalValues(job->Value(jobfield::Number), wanted);
-    });
-    return found == all.end() ? nullptr : *found;
-}
 
 } // namespace
 
@@ -82,9 +73,8 @@ RecordPtr FindRecord(const clsTxtParser& File, const RecordAddress& Address) {
         return File.FindIndex(Address.Index);
     switch (File.otype()) {
     case otype::Jobs:
-        return FindJob(File, Address.Name);
     case otype::JobWings:
-        return JobWingIndex(File).Find(keshobjects::readValue(Address.Name));
+        return JobIndex(File).Find(keshobjects::readValue(Address.Name));
     default:
         return File.FindID(Address.Name);
     }

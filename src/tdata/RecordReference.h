@@ -31,7 +31,7 @@ struct FieldReference {
     bool Optional = true; ///< by an index: below 0 it names none
 
     /// True if the value at a place of a record of that type names none on purpose: an index below
-    /// 0, a number up to 0, an ID that is empty or "0".
+    /// 0 where it is optional, a number up to 0, an ID that is empty or "0".
     [[nodiscard]] bool NamesNone(const clsTXTObject& Record, std::int32_t Place) const;
 };
 [[nodiscard]] std::span<const FieldReference> FieldReferences();

@@ -94,7 +94,8 @@ QWidget* frmTXTEditor::BuildListOptions(QWidget* Side) {
     m_names[0]->setChecked(true);
     m_sort = new QCheckBox(tr("Sorted"), Side);
     m_sort->setObjectName(QStringLiteral("chkSort"));
-    m_sort->setToolTip(tr("Sort by ID instead of the order in the file"));
+    m_sort->setToolTip(
+        tr("Sort by the last value, mostly the ID, instead of the order in the file"));
     return rowOf({m_names[0], m_names[1], m_names[2], m_sort}, Side);
 }
 

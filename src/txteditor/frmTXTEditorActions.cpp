@@ -160,7 +160,7 @@ void frmTXTEditor::BuildToolbar() {
         action->setIcon(ToolIcon(id));
         bar->addAction(action);
     }
-    Action("kesh")->setToolTip(QString::fromStdString(ShownPath(Settings->KeshEXEPath())));
+    Action("kesh")->setToolTip(ShownText(Settings->KeshEXEPath()));
 
     const auto dropDown = [&](const char* id, QMenu* menu) {
         auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(Action(id)));
@@ -206,7 +206,7 @@ void frmTXTEditor::UpdateRecentActions() {
     for (const std::string& name : m_recent.Names()) {
         if (m_recentActions.size() == shownRecent)
             break;
-        const QString shown = menuText(QString::fromStdString(ShownPath(name)));
+        const QString shown = menuText(ShownText(name));
         auto* action = new QAction(tr("%1 - %2").arg(m_recentActions.size() + 1).arg(shown), this);
         action->setObjectName(QString::fromStdString(name));
         connect(

@@ -17,10 +17,6 @@ namespace {
 constexpr std::int64_t longWork = std::int64_t{16}
                                   << 20; ///< bytes from which the wait window shows
 
-QString shown(const std::string& name) {
-    return QString::fromStdString(ShownPath(name));
-}
-
 QString lines(std::initializer_list<QString> texts) {
     return QStringList(texts).join(u'\n');
 }
@@ -48,7 +44,7 @@ Answer frmTXTEditor::AskAboutChanges() {
         return Answer::No;
     return Ui().ShowMessage(
         this, {tr("TXT Editor"),
-               lines({tr("You have changed data in file ") + shown(m_file.Parser.FileName),
+               lines({tr("You have changed data in file ") + ShownText(m_file.Parser.FileName),
                       tr("Do you want to save your changes?")}),
                BoxIcon::Exclamation, BoxButtons::YesNoCancel});
 }
@@ -83,7 +79,7 @@ void frmTXTEditor::OpenFile(std::string Name) {
 void frmTXTEditor::LoadFile(const std::string& Name) {
     clsTFile::Result result;
     {
-        const Busy busy(tr("Loading %1").arg(shown(Name)), this, FileSizeHint(Name) > longWork);
+        const Busy busy(tr("Loading %1").arg(ShownText(Name)), this, FileSizeHint(Name) > longWork);
         result = m_file.Open(Name);
     }
     const bool loaded = result.Kind == clsTFile::Outcome::Done;
@@ -117,13 +113,13 @@ void frmTXTEditor::ReportOpenFailure(const std::string& Name, const clsTFile::Re
     const QString reason = ToScreen(Failure.Reason);
     switch (Failure.Kind) {
     case clsTFile::Outcome::NotFound:
-        Say(tr("File ") + shown(Name) + tr(" not found."), BoxIcon::Exclamation);
+        Say(tr("File ") + ShownText(Name) + tr(" not found."), BoxIcon::Exclamation);
         return;
     case clsTFile::Outcome::NotOpened:
-        Say(lines({tr("Error opening file: "), shown(Name), reason}), BoxIcon::Critical);
+        Say(lines({tr("Error opening file: "), ShownText(Name), reason}), BoxIcon::Critical);
         break;
     default:
-        Say(lines({tr("Error loading from file: "), shown(Name), reason}), BoxIcon::Critical);
+        Say(lines({tr("Error loading from file: "), ShownText(Name), reason}), BoxIcon::Critical);
         break;
     }
     RemoveRecent(Name);
@@ -141,7 +137,7 @@ bool frmTXTEditor::SaveFile() {
         return false;
     const auto name = RealPath(choice->Name);
     if (!name) {
-        Say(tr("File ") + shown(choice->Name) + tr(" not found."), BoxIcon::Exclamation);
+        Say(tr("File ") + ShownText(choice->Name) + tr(" not found."), BoxIcon::Exclamation);
         return false;
     }
     if (!MayReplace(*name) || !MayLoseData())
@@ -149,7 +145,7 @@ bool frmTXTEditor::SaveFile() {
     TakeChanges(); // also of what was finished by going to the dialogs
     clsTFile::Result result;
     {
-        const Busy busy(tr("Saving %1").arg(shown(*name)), this,
+        const Busy busy(tr("Saving %1").arg(ShownText(*name)), this,
                         FileSizeHint(m_file.Parser.FileName) > longWork);
         result = m_file.Save(*name, fileTypeOf(choice->FilterIndex),
                              [this](const JournalBase& base) { AnnounceSave(base); });
@@ -176,13 +172,13 @@ std::string frmTXTEditor::SaveStart() const {
 }
 
 bool frmTXTEditor::MayReplace(const std::string& Name) {
-    if (!OverwriteQuestion(Name, shown(Name), tr("TXT Editor"), this))
+    if (!OverwriteQuestion(Name, ShownText(Name), tr("TXT Editor"), this))
         return false;
     if (LornFD_FileExists(Name) == 0 || !m_file.ChangedOnDisk(Name))
         return true;
     const QString text = tr("\"%1\" was changed by another program since it was opened here.\n\n"
                             "Do you want to replace it, so that those changes are lost?")
-                             .arg(shown(Name));
+                             .arg(ShownText(Name));
     return Ui().ShowMessage(this, {tr("TXT Editor"), text, BoxIcon::Exclamation, BoxButtons::YesNo,
                                    true}) == Answer::Yes;
 }

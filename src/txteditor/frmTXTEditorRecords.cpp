@@ -125,8 +125,8 @@ void frmTXTEditor::KeepClassWidth() {
 void frmTXTEditor::UpdateCaption() {
     QString caption = tr("TXT Editor");
     if (HasFile())
-        caption += QStringLiteral(" - [%1 (%2)]")
-                       .arg(QString::fromStdString(ShownPath(m_file.Parser.FileName)), TypeText());
+        caption +=
+            QStringLiteral(" - [%1 (%2)]").arg(ShownText(m_file.Parser.FileName), TypeText());
     if (m_file.Parser.CheckDirty())
         caption += QStringLiteral(" *");
     setWindowTitle(caption);

@@ -9,10 +9,6 @@ namespace {
 
 constexpr int lookAgain = 500; ///< milliseconds
 
-QString shown(const std::string& name) {
-    return QString::fromStdString(ShownPath(name));
-}
-
 } // namespace
 
 std::string RecoveryDirectory() {
@@ -51,7 +47,7 @@ void frmTXTEditor::Recover(LeftJournal Left) {
     if (!fits) {
         Say(tr("File %1 is not as it was when it was changed. The changes cannot be brought back "
                "into it.")
-                .arg(shown(document)),
+                .arg(ShownText(document)),
             BoxIcon::Exclamation);
         return;
     }
@@ -61,7 +57,7 @@ void frmTXTEditor::Recover(LeftJournal Left) {
     if (good)
         m_journal.TakeOver(std::move(Left));
     else
-        Say(tr("Not all changes of file %1 could be brought back.").arg(shown(document)),
+        Say(tr("Not all changes of file %1 could be brought back.").arg(ShownText(document)),
             BoxIcon::Exclamation);
     FillList();
     UpdateCaption();
@@ -88,7 +84,7 @@ void frmTXTEditor::LookAtDisk() {
         return;
     TakeChanges();
     QString question = tr("File %1 was changed by another program.\nDo you want to load it again?")
-                           .arg(shown(m_file.Parser.FileName));
+                           .arg(ShownText(m_file.Parser.FileName));
     const bool changed = m_file.Parser.CheckDirty();
     if (changed)
         question += u'\n' + tr("Your changes are lost then.");

@@ -48,9 +48,18 @@ TEST_F(StartUpTest, AFailureNamesItsPhase) {
     }
 }
 
-TEST_F(StartUpTest, RunsUntilTheLauncherShows) {
+TEST_F(StartUpTest, RunsInItsOrderUntilTheLauncherShows) {
+    const char* const names[] = {"",
+                                 "mdlKeshConst.InitArrays",
+                                 "Settings.InitEnviroment",
+                                 "KeshVFS_AddVFSFilter",
+                                 "LoadKeshData",
+                                 "frmMain.MyShow"};
     Program started;
     const auto phases = StartUpPhases(started, program("TWareT.txt"));
+    ASSERT_EQ(phases.size(), std::size(names));
+    for (std::size_t i = 0; i < phases.size(); ++i)
+        EXPECT_EQ(phases[i].Name, names[i]);
     EXPECT_TRUE(StartUp(phases));
     ASSERT_TRUE(started.Launcher);
     EXPECT_TRUE(started.Launcher->isVisible());

@@ -125,6 +125,13 @@ TEST(ListHelpers, AnswerForListsWithAndWithoutWhatIsAsked) {
     EXPECT_TRUE(view.selectionModel()->isSelected(model.index(0, 0)));
     EXPECT_TRUE(ListRemoveItem(model, QStringLiteral("k1")));
     EXPECT_FALSE(ListRemoveItem(model, QStringLiteral("k1")));
+    EXPECT_NO_THROW(ListIndexCheck(model, 0));
+    EXPECT_THROW(ListIndexCheck(model, 1), KeshError);
+
+    QLineEdit edit;
+    NumbersOnly(edit);
+    QTest::keyClicks(&edit, QStringLiteral("-1.5"));
+    EXPECT_EQ(edit.text(), QStringLiteral("15"));
 }
 
 } // namespace

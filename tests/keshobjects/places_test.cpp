@@ -101,7 +101,7 @@ TEST(Places, AValueOfAnySizeAtAnyDistanceFromTheEnd) {
     }
 }
 
-TEST(Places, HugeTextsAreReadOncePerByte) {
+TEST(Places, HugeTextsAreRead) {
     const std::size_t size = 1U << 20;
     std::string remarks;
     while (remarks.size() < size)

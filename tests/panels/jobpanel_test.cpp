@@ -208,6 +208,7 @@ TEST_F(JobPanel, AddsJobsOfTheVersionWithTheNextNumber) {
         const RecordPtr made = window->Parser().FindIndex(0);
         EXPECT_EQ(made->size(), size);
         EXPECT_EQ(field(0) + field(1), "42NEW JOB");
+        EXPECT_EQ(child<QComboBox>("cmbShipTypeID")->currentText(), QStringLiteral("[empty]"));
         EXPECT_EQ(window->SelectedObject(), made);
         trigger("undo");
         EXPECT_EQ(field(0), "41");

@@ -2,7 +2,7 @@
 #include "support/gametexts.h"
 #include "support/loadtext.h"
 #include "tdata/JobFields.h"
-#include "tdata/JobWingIndex.h"
+#include "tdata/JobIndex.h"
 #include "tdata/NewObjectName.h"
 
 #include <gtest/gtest.h>
@@ -81,12 +81,26 @@ TEST(JobNames, AreMadeOfTheirParts) {
     EXPECT_EQ(JobVariantName(2147483647), "2147483647");
 }
 
-TEST(JobWings, AreFoundByNumberBeforeTheirLastJob) {
-    clsTxtParser wings;
-    ASSERT_TRUE(support::load(wings, "5;100,7;\r\n7;1,2;\r\n7;3;\r\n", otype::JobWings));
-    const JobWingIndex index(wings);
-    for (const auto& [number, place] : {std::pair(5, 0), {7, 1}, {3, 2}, {100, -1}, {0, -1}})
-        EXPECT_EQ(index.Find(number), wings.FindIndex(place)) << number;
+TEST(JobIndex, FindsWingsByTheirNumberAndJobsByTheirNameFirst) {
+    struct Case {
+        std::int32_t Type;
+        const char* Text;
+        std::vector<std::pair<std::int32_t, std::int32_t>> Places; ///< of numbers
+    };
+    const std::string zeros = support::repeat("0;", 118);
+    const std::string jobs =
+        "10;\r\n5;" + zeros + "Argon patrol\r\n7;" + zeros + "5\r\n7;" + zeros + "x\r\n";
+    const Case cases[] = {
+        {otype::JobWings, "5;100,7;\r\n7;1,2;\r\n7;3;\r\n", {{5, 0}, {7, 1}, {3, 2}, {100, -1}}},
+        {otype::Jobs, jobs.c_str(), {{5, 1}, {7, 1}, {0, -1}}},
+    };
+    for (const Case& c : cases) {
+        clsTxtParser parser;
+        ASSERT_TRUE(support::load(parser, c.Text, c.Type));
+        const JobIndex index(parser);
+        for (const auto& [number, place] : c.Places)
+            EXPECT_EQ(index.Find(number), parser.FindIndex(place)) << c.Type << " " << number;
+    }
 }
 
 TEST(JobNumbers, AreNew) {

@@ -6,6 +6,7 @@
 #include "txteditor/ValueEntry.h"
 #include "ui/CommonBoxes.h"
 #include "ui/ListHelpers.h"
+#include "ui/ModalResult.h"
 #include "ui/SelectOnEntry.h"
 
 #include <algorithm>
@@ -13,8 +14,6 @@
 
 namespace {
 
-constexpr int resultOk = 1;
-constexpr int resultCancel = 2;
 constexpr int editWidth = 30;       ///< characters
 constexpr std::int32_t noPath = -1; ///< stands for a number that may be missing
 
@@ -93,7 +92,7 @@ void EntryDialog::Finish(QList<Entry> Entries) {
 
 void EntryDialog::Run(const clsTXTObject* Record, std::int32_t Offset, QLineEdit& First) {
     m_new = !Record;
-    m_modalResult = resultCancel;
+    m_modalResult = modal::Cancel;
     try {
         ShowEntries(Record, Offset);
         ShowOthers();
@@ -138,7 +137,7 @@ void EntryDialog::OnOk() {
         SayReason(ToScreen(error.what()));
         return;
     }
-    m_modalResult = resultOk;
+    m_modalResult = modal::Ok;
     accept();
 }
 

@@ -47,7 +47,8 @@ private:
         if (event.type() == QEvent::KeyPress)
             return m_rows->selectionModel()->isSelected(m_rows->currentIndex());
         const QPoint place = static_cast<const QMouseEvent&>(event).globalPosition().toPoint();
-        return m_rows->indexAt(m_rows->viewport()->mapFromGlobal(place)).isValid();
+        const QModelIndex row = m_rows->indexAt(m_rows->viewport()->mapFromGlobal(place));
+        return row.isValid() && row.row() == m_rows->currentIndex().row(); // both clicks met it
     }
 
     std::function<void()> m_enter;

@@ -16,10 +16,6 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(ExportFile)
 };
 
-QString shown(const std::string& path) {
-    return QString::fromStdString(ShownPath(path));
-}
-
 QString exportError(std::string_view reason) {
     return Texts::tr("Error in Export file: ") + ToScreen(reason);
 }
@@ -62,14 +58,15 @@ bool ask(QWidget* owner, const clsTxtParser& source, const ExportRequest& reques
     dialog.ShowSave();
     mayNotBe(dialog.FileName, source, request.Overwriting);
     return knows(owner, request, dialog.FilterIndex) &&
-           OverwriteQuestion(dialog.FileName, shown(dialog.FileName), dialog.DialogTitle, owner);
+           OverwriteQuestion(dialog.FileName, ShownText(dialog.FileName), dialog.DialogTitle,
+                             owner);
 }
 
 /// Gives what went wrong, empty if nothing did.
 QString write(const std::string& name, const ExportRequest& request, int filter) {
     const std::int32_t file = LornFD_OpenFile(name, LORNFD_WRITE, LORNFD_CREATE, LORNFD_PLAIN);
     if (file == 0)
-        return Texts::tr("Error opening file %1:").arg(shown(name)) + u'\n' +
+        return Texts::tr("Error opening file %1:").arg(ShownText(name)) + u'\n' +
                ToScreen(LornFDErrorText());
     try {
         std::string error = request.Write(file, filter);
@@ -92,7 +89,7 @@ bool ExportFile(QWidget* Owner, const clsTxtParser& Source, const ExportRequest&
         LornFileDialog dialog(Owner);
         if (!ask(Owner, Source, Request, dialog))
             return false;
-        const Busy busy(Texts::tr("Saving %1").arg(shown(dialog.FileName)), Owner,
+        const Busy busy(Texts::tr("Saving %1").arg(ShownText(dialog.FileName)), Owner,
                         Request.LongWork);
         trouble = write(dialog.FileName, Request, dialog.FilterIndex);
     } catch (const KeshError& error) {

@@ -40,6 +40,7 @@ void JobShipsModel::SetShips(const clsTxtParser* Ships, bool Names) {
             QString text = ToScreen(Names ? describedShip(*ship) : id);
             m_rows.push_back({std::move(id), std::move(text), JobClassOf(*ship)});
         }
+    m_byId.try_emplace("0", 0); // so a new job spells that it has none
     endResetModel();
 }
 

@@ -50,7 +50,7 @@ QString countPart(const clsTXTObject& job) {
 
 QString shipPart(const clsTXTObject& job,
                  const std::function<QString(const std::string&)>& shipName) {
-    if (const std::string id(GetJobText(job, jobfield::Ship)); !id.empty())
+    if (const std::string id(JobShip(job)); !id.empty())
         return Shortened(shipName(id), longestName);
     const QStringList classes = JobCaptionsSet(job, JobClassBoxes);
     const QString ships = classes.isEmpty()

@@ -5,14 +5,9 @@
 #include "tdata/NewObjectName.h"
 #include "txteditor/frmEdit.h"
 #include "txteditor/panels/PropertyView.h"
+#include "ui/ModalResult.h"
 
 #include <algorithm>
-
-namespace {
-
-constexpr int resultOk = 1;
-
-} // namespace
 
 // The contract, as far as the tables and the record alone answer it
 
@@ -197,7 +192,7 @@ bool RecordPanel::EditInDialog(std::int32_t Field) {
         dialog.ShowName(m_object, m_parser->ByIndex());
     else
         dialog.ShowProperty(this, m_object, Field);
-    return dialog.ModalResult() == resultOk;
+    return dialog.ModalResult() == modal::Ok;
 }
 
 std::optional<RecordAddress> RecordPanel::TargetOf(std::int32_t Field) const {
@@ -224,12 +219,11 @@ void RecordPanel::RunAction(const std::function<void()>& Work) {
 }
 
 void RecordPanel::Say(const QString& Text, BoxIcon Icon) {
-    ShowBox(this, QString::fromStdString(ProgramTitle()), Text, Icon);
+    ShowBox(this, ProgramName(), Text, Icon);
 }
 
 bool RecordPanel::Confirm(const QString& Question) {
-    const MessageRequest request{QString::fromStdString(ProgramTitle()), Question,
-                                 BoxIcon::Question, BoxButtons::YesNo};
+    const MessageRequest request{ProgramName(), Question, BoxIcon::Question, BoxButtons::YesNo};
     return Ui().ShowMessage(this, request) == Answer::Yes;
 }
 

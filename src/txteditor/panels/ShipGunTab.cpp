@@ -7,10 +7,9 @@
 #include "txteditor/panels/TextRows.h"
 #include "txteditor/panels/frmGunEdit.h"
 #include "ui/ListHelpers.h"
+#include "ui/ModalResult.h"
 
 namespace {
-
-constexpr int resultOk = 1;
 
 QStringList groupCells(const clsGunGroup& group) {
     QStringList cells{QString::number(group.Offset())};
@@ -180,7 +179,7 @@ void ShipGunTab::AddGun() {
     frmGunEdit dialog(this);
     dialog.FileEncoding = m_panel.FileEncoding();
     dialog.NewGun(*group);
-    if (dialog.ModalResult() != resultOk)
+    if (dialog.ModalResult() != modal::Ok)
         return;
     GunsChanged();
     m_guns->SelectKey(QString::fromStdString(group->Guns().back()->key()));
@@ -210,6 +209,6 @@ void ShipGunTab::EditGun() {
     frmGunEdit dialog(this);
     dialog.FileEncoding = m_panel.FileEncoding();
     dialog.ShowGun(*gun, *group);
-    if (dialog.ModalResult() == resultOk)
+    if (dialog.ModalResult() == modal::Ok)
         GunsChanged();
 }

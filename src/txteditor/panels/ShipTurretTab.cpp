@@ -10,12 +10,12 @@
 #include "txteditor/panels/frmTurretEdit.h"
 #include "ui/FoldingSplitter.h"
 #include "ui/ListHelpers.h"
+#include "ui/ModalResult.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr int resultOk = 1;
 constexpr int narrowTurrets = 120; ///< characters, too few for list and plan side by side
 constexpr std::size_t mostTurrets = clsShip::MaxTurrets + 1; ///< with the front gun
 constexpr std::int32_t typeValue = 0;
@@ -238,7 +238,7 @@ void ShipTurretTab::AddTurret() {
     frmTurretEdit dialog(this);
     dialog.FileEncoding = m_panel.FileEncoding();
     dialog.NewTurret(*m_ship, m_cockpits);
-    if (dialog.ModalResult() != resultOk)
+    if (dialog.ModalResult() != modal::Ok)
         return;
     Q_EMIT Changed(true);
     m_turrets->SelectKey(key(**std::ranges::max_element(
@@ -270,7 +270,7 @@ void ShipTurretTab::EditTurret() {
     frmTurretEdit dialog(this);
     dialog.FileEncoding = m_panel.FileEncoding();
     dialog.ShowTurret(*turret, *m_ship, m_cockpits);
-    if (dialog.ModalResult() != resultOk)
+    if (dialog.ModalResult() != modal::Ok)
         return;
     Show(m_ship);
     Q_EMIT Changed(false);

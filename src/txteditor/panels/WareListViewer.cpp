@@ -77,7 +77,9 @@ QVariant WareListModel::data(const QModelIndex& index, int role) const {
         return Text(index.row(), index.column());
     case Qt::ToolTipRole:
         return PlainTip(Text(index.row(), index.column()));
-    case Qt::UserRole: {
+    case Qt::UserRole:
+        return ToScreen(m_list->ValueText(index.row()));
+    case Qt::UserRole + 1: {
         const std::string_view id = m_list->ValueText(index.row());
         return QByteArray(id.data(), static_cast<qsizetype>(id.size()));
     }
@@ -102,6 +104,7 @@ WareListView::WareListView(const char* Name, QWidget* Parent)
     header()->setStretchLastSection(false);
     setModel(m_model);
     connect(m_model, &QAbstractItemModel::modelReset, this, &WareListView::FitColumns);
+    connect(m_model, &QAbstractItemModel::dataChanged, this, &WareListView::FitColumns);
 }
 
 void WareListView::ShowList(const RecordPtr& List, const QString& ID) {
@@ -123,7 +126,7 @@ void WareListView::FitColumns() {
 }
 
 std::optional<RecordAddress> WareOfRow(const WareListView& View) {
-    const QByteArray id = View.currentIndex().data(Qt::UserRole).toByteArray();
+    const QByteArray id = View.currentIndex().data(Qt::UserRole + 1).toByteArray();
     return id.isEmpty() ? std::nullopt
                         : std::optional(RecordAddress{.File = {}, .Name = id.toStdString()});
 }

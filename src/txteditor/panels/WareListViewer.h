@@ -29,7 +29,7 @@ public:
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
-    /// Under Qt::UserRole the ID as it is stored.
+    /// Under Qt::UserRole the ID, under Qt::UserRole + 1 its bytes as they are stored.
     [[nodiscard]] QVariant data(const QModelIndex& index,
                                 int role = Qt::DisplayRole) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,

@@ -61,7 +61,7 @@ bool ucJob::LornQueryInterface(std::int32_t OType) const {
 }
 
 bool ucJob::Init(clsTxtParser& Parser) {
-    m_byNumber.reset();
+    m_jobs.reset();
     const bool taken = RecordPanel::Init(Parser);
     LoadFiles();
     UpdateEnabled();
@@ -125,7 +125,7 @@ std::vector<RecordFilter> ucJob::Filters() const {
 
 /// The flags of classes say nothing where the ship is fixed.
 bool ucJob::Passes(const RecordPtr& Object, int Filter, int Choice) const {
-    const std::string ship(GetJobText(*Object, jobfield::Ship));
+    const std::string ship(JobShip(*Object));
     if (Filter == ClassFilter && !ship.empty() && m_ship->Ships().RowOf(ship) >= 0)
         return m_ship->Ships().ClassOf(ship) == Choice;
     return JobFlagSet(*Object, filterRows[Filter]->Flags.First + Choice);
@@ -143,14 +143,14 @@ RecordPtr ucJob::CreateObject(std::int32_t OType, clsTxtParser& Parser, const Re
         SetLastError("Unkown object size for Job version " + std::to_string(Parser.Version()));
         return {};
     }
-    m_byNumber.reset();
+    m_jobs.reset();
     RecordPtr made = Parser.CreateObjectBefore(Before);
     made->Construct(*size);
     return made;
 }
 
 bool ucJob::LornAssignUniqueObjectName(const RecordPtr& Object) {
-    m_byNumber.reset();
+    m_jobs.reset();
     SetJobValue(*Object, jobfield::Number, keshobjects::readValue(NewObjectName(*Parser())));
     return SetJobValue(*Object, jobfield::Name, std::string("NEW JOB"));
 }
@@ -205,22 +205,21 @@ bool ucJob::FinishEntry() {
 }
 
 bool ucJob::RemoveObject(const RecordPtr& Object) {
-    m_byNumber.reset();
+    m_jobs.reset();
     return RecordPanel::RemoveObject(Object);
 }
 
 void ucJob::RestoreObject(const RecordPtr&) {
-    m_byNumber.reset();
+    m_jobs.reset();
 }
 
-bool ucJob::FollowEdit(std::int32_t Field) {
-    if (Field == jobfield::Number)
-        m_byNumber.reset();
+bool ucJob::FollowEdit(std::int32_t) {
+    m_jobs.reset();
     return false;
 }
 
 void ucJob::ObjectReset(const RecordPtr& Object) {
-    m_byNumber.reset();
+    m_jobs.reset();
     if (Object == CurrentObject())
         RefreshViews();
 }
@@ -229,7 +228,7 @@ void ucJob::ObjectReset(const RecordPtr& Object) {
 
 void ucJob::ShowObject(const RecordPtr& Object, std::int32_t) {
     if (Object == CurrentObject()) // it may have been changed by its raw fields
-        m_byNumber.reset();
+        m_jobs.reset();
     SetCurrentObject(Object);
     UpdateEnabled();
     RefreshViews();
@@ -330,8 +329,7 @@ void ucJob::ShowWing(const clsTXTObject& Wing) {
     QList<TextRow> rows;
     for (std::int32_t i = 1; i < Wing.size(); ++i) {
         const QString id = ToScreen(Wing.ValueText(i));
-        const auto number = Wing.ValueInteger(i);
-        const RecordPtr job = number ? JobOf(*number) : nullptr;
+        const RecordPtr job = JobOf(Wing.Value(i));
         rows.append(job ? TextRow{id, {id, nameOf(*job)}}
                         : TextRow{id, {tr("%1 (not found)").arg(id), {}}});
     }
@@ -339,19 +337,10 @@ void ucJob::ShowWing(const clsTXTObject& Wing) {
     m_wingJobs->SetRows(std::move(rows));
 }
 
-RecordPtr ucJob::JobOf(std::int32_t Number) {
-    if (!m_byNumber) {
-        m_byNumber.emplace();
-        const auto add = [this](std::optional<std::int32_t> number, const RecordPtr& job) {
-            if (number && !m_byNumber->contains(*number))
-                m_byNumber->insert(*number, job);
-        };
-        for (const RecordPtr& job : Parser()->ByIndex())
-            add(GetJobInteger(*job, jobfield::Number), job);
-        for (const RecordPtr& job : Parser()->ByIndex()) // some files have it at the end
-            add(job->size() > 0 ? job->ValueInteger(job->size() - 1) : std::nullopt, job);
-    }
-    return m_byNumber->value(Number);
+RecordPtr ucJob::JobOf(const KeshValue& Number) {
+    if (!m_jobs)
+        m_jobs.emplace(*Parser());
+    return m_jobs->Find(Number);
 }
 
 void ucJob::FillWares() {

@@ -1,7 +1,7 @@
 // The panel for Jobs: one job on seven tabs. Fields are spoken of by their logical numbers.
 #pragma once
 
-#include "tdata/JobWingIndex.h"
+#include "tdata/JobIndex.h"
 #include "txteditor/panels/RecordPanel.h"
 
 #include <optional>
@@ -91,7 +91,7 @@ private:
     void ShowRole();
     void FillWings();
     void ShowWing(const clsTXTObject& Wing);
-    [[nodiscard]] RecordPtr JobOf(std::int32_t Number); ///< the first of the file; none if none
+    [[nodiscard]] RecordPtr JobOf(const KeshValue& Number); ///< in the file; none if none
     void FillWares();
     void WarnOfOldFile();
 
@@ -100,9 +100,9 @@ private:
     void PickRole(int Role);
     [[nodiscard]] const clsTXTObject* Job() const noexcept { return CurrentObject().get(); }
 
-    std::optional<JobWingIndex> m_wings;
+    std::optional<JobIndex> m_wings;
     bool m_warned = false;
-    std::optional<QHash<std::int32_t, RecordPtr>> m_byNumber; ///< once it was asked for
+    std::optional<JobIndex> m_jobs; ///< once it was asked for
 
     QTabWidget* m_tabs = nullptr;
     QList<bool> m_filled; ///< by tab

@@ -152,7 +152,6 @@ QWidget* ucJob::BuildShip() {
     top->addWidget(m_ship, 1);
     auto* show = new QToolButton(ship);
     m_goToShip = OfferGoTo(*m_ship, [this] { return TargetOf(jobfield::Ship); });
-    m_goToShip->setIcon(ToolIcon("goto"));
     show->setDefaultAction(m_goToShip);
     show->setToolButtonStyle(Qt::ToolButtonIconOnly);
     top->addWidget(show);

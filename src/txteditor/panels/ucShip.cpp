@@ -201,8 +201,8 @@ bool ucShip::MayEdit(std::int32_t Field) {
     const QString question = tr("Warning:\nManually modifying this value can corrupt ship data.\n"
                                 "This value is altered automatically by the editor.\n\n"
                                 "Do you really want to modify it?");
-    const MessageRequest request{QString::fromStdString(ProgramTitle()), question,
-                                 BoxIcon::Exclamation, BoxButtons::YesNo, true};
+    const MessageRequest request{ProgramName(), question, BoxIcon::Exclamation, BoxButtons::YesNo,
+                                 true};
     return Ui().ShowMessage(this, request) == Answer::Yes;
 }
 

@@ -1803,8 +1803,8 @@ File type:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Sort by ID instead of the order in the file</source>
-        <translation>Sortiert nach der ID statt nach der Reihenfolge in der Datei</translation>
+        <source>Sort by the last value, mostly the ID, instead of the order in the file</source>
+        <translation>Sortiert nach dem letzten Wert, meist der ID, statt nach der Reihenfolge in der Datei</translation>
     </message>
     <message>
         <source>Records</source>

@@ -120,10 +120,14 @@ void clsTXTObject::SetValues(clsValueArray values) {
     m_values = std::move(values);
 }
 
+std::atomic<std::uint64_t> clsTXTObject::s_timesRemembered{0};
+
 void clsTXTObject::Remember() {
     // A record that is being made has nothing to go back to.
-    if (m_values.Size() > 0 && (!m_seldom || !m_seldom->former))
-        Rare().former = m_values;
+    if (m_values.Size() == 0 || (m_seldom && m_seldom->former))
+        return;
+    Rare().former = m_values;
+    ++s_timesRemembered;
 }
 
 std::optional<clsValueArray> clsTXTObject::TakeFormerValues() {

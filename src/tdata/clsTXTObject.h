@@ -3,6 +3,7 @@
 
 #include "tdata/clsValueArray.h"
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -73,6 +74,8 @@ public:
     void SetValues(clsValueArray values);  ///< replaces all as undo does: Dirty is untouched
     /// The value array before the first change since the last call; empty if nothing was changed.
     [[nodiscard]] std::optional<clsValueArray> TakeFormerValues();
+    /// Counts how often any record got such values: as long as it stays, there is nothing to take.
+    [[nodiscard]] static std::uint64_t TimesRemembered() noexcept { return s_timesRemembered; }
 
 private:
     struct Seldom { ///< kept apart, since hundreds of thousands of records never need it
@@ -94,6 +97,8 @@ private:
         SetValue(size() - fromEnd, value);
     }
     Seldom& Rare() const;
+
+    static std::atomic<std::uint64_t> s_timesRemembered;
 
     clsValueArray m_values;
     mutable std::unique_ptr<Seldom> m_seldom;

@@ -41,6 +41,10 @@ bool clsTxtParser::SetError(std::string Text) {
     return false;
 }
 
+std::string_view clsTxtParser::LoadedText() const noexcept {
+    return m_text ? m_text->Text() : std::string_view();
+}
+
 bool clsTxtParser::Load(std::int32_t FileHandle, std::int32_t Type) {
     Reset();
     m_otype = Type;

@@ -61,6 +61,8 @@ public:
     /// Puts records back at the Index that each has, in ascending order.
     void RestoreObjects(std::span<const RecordPtr> Records);
 
+    /// The text that was loaded; it stays until another is. Empty if there is none.
+    [[nodiscard]] std::string_view LoadedText() const noexcept;
     [[nodiscard]] const std::vector<RecordPtr>& ByIndex() const noexcept { return m_byIndex; }
     /// By ObjectName without regard to case, equal names in their order of arrival. Sorted when
     /// first asked for; does not follow renames after that.

@@ -90,8 +90,9 @@ private:
 RecordUndo::RecordUndo(clsTxtParser& Parser, QObject* parent) : QObject(parent), m_parser(Parser) {}
 
 bool RecordUndo::TakeChanges() {
-    if (m_held)
-        return false;
+    if (m_held || std::exchange(m_remembered, clsTXTObject::TimesRemembered()) ==
+                      clsTXTObject::TimesRemembered())
+        return false; // without a look at every record of a large file
     auto all = std::make_unique<QUndoCommand>();
     for (const RecordPtr& record : m_parser.ByIndex()) {
         auto former = record->TakeFormerValues();

@@ -83,4 +83,5 @@ private:
     int m_savedStructure = 0;
     int m_lastStructure = 0;
     bool m_held = false;
+    std::uint64_t m_remembered = 0; ///< that count of the records at the last call
 };

@@ -97,6 +97,10 @@ std::optional<ContentMark> MarkOf(std::int32_t File) {
     return mark;
 }
 
+ContentMark MarkOf(std::string_view Content) {
+    return {static_cast<std::int64_t>(Content.size()), LornFD_ChecksumOf(Content)};
+}
+
 bool FitsDisk(const JournalBase& Base) {
     if (!Base.Content)
         return Base.StoredPath.empty() || LornFD_FileExists(Base.StoredPath) == 0;
@@ -144,13 +148,13 @@ RecoveryJournal::RecoveryJournal(std::string Directory) : m_directory(std::move(
 
 RecoveryJournal::~RecoveryJournal() = default;
 
-void RecoveryJournal::Begin(JournalBase Base) {
+void RecoveryJournal::Begin(std::function<JournalBase()> Base) {
     Discard();
     m_base = std::move(Base);
 }
 
 void RecoveryJournal::TakeOver(LeftJournal&& Left) {
-    Begin(std::move(Left.Base));
+    Begin([base = std::move(Left.Base)] { return base; });
     m_file = std::move(Left.File);
     m_length = static_cast<std::int64_t>(Left.Length);
 }
@@ -198,7 +202,7 @@ std::string RecoveryJournal::WritePending() {
     }
     const bool made = m_length == 0;
     if (made && !m_pending.starts_with(JournalSignature))
-        m_pending = std::string(JournalSignature) + JournalEntry(m_base) + m_pending;
+        m_pending = std::string(JournalSignature) + JournalEntry(m_base()) + m_pending;
     lornfd::platform::File file;
     std::error_code error;
     // What a write left that failed half-way, or a program that was killed, must not stand behind.

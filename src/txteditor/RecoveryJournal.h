@@ -9,6 +9,7 @@
 #include "txteditor/JournalFormat.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,6 +20,7 @@ class QLockFile;
 /// Of the unpacked content behind an open handle of the file driver: all that is read, or what was
 /// written so far. None on failure.
 [[nodiscard]] std::optional<ContentMark> MarkOf(std::int32_t File);
+[[nodiscard]] ContentMark MarkOf(std::string_view Content);
 /// Whether the place of a base still has its content; a new document's, that there is nothing.
 [[nodiscard]] bool FitsDisk(const JournalBase& Base);
 
@@ -61,7 +63,8 @@ public:
     ~RecoveryJournal(); ///< keeps what was flushed
 
     /// Commands go on from here: a document was opened or saved. What was noted before is dropped.
-    void Begin(JournalBase Base);
+    /// `Base` is asked when there is something to note.
+    void Begin(std::function<JournalBase()> Base);
     /// Goes on with a left journal, whose commands were just replayed.
     void TakeOver(LeftJournal&& Left);
     /// Notes a command, in memory. An empty one is none.
@@ -81,7 +84,7 @@ private:
     [[nodiscard]] std::string WritePending(); ///< gives the reason of a failure
 
     std::string m_directory;
-    JournalBase m_base;
+    std::function<JournalBase()> m_base;
     JournalFile m_file;
     std::int64_t m_length = 0; ///< of what is surely on the disk
     std::string m_pending;

@@ -79,7 +79,8 @@ clsTFile::Result clsTFile::Open(const std::string& Name) {
     if (file == 0)
         return {Outcome::NotOpened, LornFDErrorText()};
     const bool loaded = Parser.Load(file, ObjectTypeFromFile(nameInside(Name)));
-    m_base = {Name, *real, MarkOf(file), Parser.otype()};
+    m_base = {Name, *real, {}, Parser.otype()};
+    m_asLoaded = loaded;
     LornFD_CloseFile(file);
     if (!loaded) {
         Result failed{Outcome::NotLoaded, Parser.GetLastError()};
@@ -116,10 +117,18 @@ clsTFile::Result clsTFile::Save(const std::string& Name, std::int32_t FileType,
     }
     Parser.FileName = Name;
     m_base = std::move(base);
+    m_asLoaded = false;
     if (!ReadsBack())
         m_base.Content = nowhere;
     SetStamp(StampOf(Name));
     return {};
+}
+
+JournalBase clsTFile::Base() const {
+    JournalBase base = m_base;
+    if (m_asLoaded)
+        base.Content = MarkOf(Parser.LoadedText());
+    return base;
 }
 
 bool clsTFile::ReadsBack() const {

@@ -36,7 +36,7 @@ public:
     [[nodiscard]] bool ReadsBack() const;
     /// What the document was opened from or saved as. Steps cannot go on from a file that is
     /// not read back: its content then is one that no file has.
-    [[nodiscard]] const JournalBase& Base() const noexcept { return m_base; }
+    [[nodiscard]] JournalBase Base() const;
     /// Where the document is really stored; empty if a "vfs://" name is nowhere now.
     [[nodiscard]] std::string StoredPath() const;
     /// Native path of the file on disk that it was read from or saved to, the catalog of an entry.
@@ -59,8 +59,9 @@ private:
     void SetStamp(Stamp Now);
 
     Stamp m_stamp;
-    Stamp m_noticed; ///< the state that was noticed last
-    JournalBase m_base;
+    Stamp m_noticed;    ///< the state that was noticed last
+    JournalBase m_base; ///< without the content of a file that was opened: few are ever changed
+    bool m_asLoaded = false; ///< that content is the loaded text
 };
 
 /// Size in bytes of the file on disk that holds a path; 0 if it cannot be told.

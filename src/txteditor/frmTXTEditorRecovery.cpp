@@ -17,7 +17,7 @@ std::string RecoveryDirectory() {
 
 void frmTXTEditor::BeginJournal() {
     m_flush.stop();
-    m_journal.Begin(m_file.Base());
+    m_journal.Begin([this] { return m_file.Base(); });
 }
 
 /// Trouble with it is said in the status bar: the work itself goes on.

@@ -135,7 +135,7 @@ protected:
     /// Notes commands and lets the "program" be killed, which leaves the file and no holder.
     void leave(const std::vector<RecordSteps>& steps) const {
         RecoveryJournal journal(state);
-        journal.Begin(baseOf(file));
+        journal.Begin([base = baseOf(file)] { return base; });
         for (const RecordSteps& each : steps) {
             journal.Append(each);
             EXPECT_EQ(journal.Flush(), "");
@@ -150,13 +150,13 @@ protected:
 
 TEST_F(Journals, AreMadeHeldAndDiscardedWithTheirWindow) {
     RecoveryJournal journal(state);
-    journal.Begin(baseOf(file));
+    journal.Begin([base = baseOf(file)] { return base; });
     EXPECT_EQ(journal.Flush(), "");
     EXPECT_TRUE(bare()) << "nothing was changed";
     journal.Append(commands[0]);
     EXPECT_EQ(journal.Flush(), "");
     EXPECT_TRUE(left().empty()) << "its window lives";
-    journal.Begin(baseOf(file)); // another document in the same window
+    journal.Begin([base = baseOf(file)] { return base; }); // another document in the same window
     EXPECT_TRUE(bare());
     journal.Append(commands[1]);
     journal.Append({});
@@ -217,7 +217,7 @@ TEST_F(Journals, FollowASave) {
     const auto saveUntil = [&](int stage) {
         support::writeFile(file, "before");
         RecoveryJournal journal(state);
-        journal.Begin(baseOf(file));
+        journal.Begin([base = baseOf(file)] { return base; });
         journal.Append(commands[0]);
         JournalBase after = baseOf(file);
         const std::int32_t handle =
@@ -229,7 +229,7 @@ TEST_F(Journals, FollowASave) {
         EXPECT_EQ(journal.AnnounceSave(after), "");
         stage > 0 ? LornFD_CloseFile(handle) : LornFD_AbandonFile(handle);
         if (stage > 1)
-            journal.Begin(after);
+            journal.Begin([after] { return after; });
         if (stage != 1) {
             journal.Append(commands[1]);
             EXPECT_EQ(journal.Flush(), "");
@@ -263,7 +263,7 @@ TEST_F(Journals, FailuresAreToldOnceAndTriedAgain) {
         });
         {
             RecoveryJournal journal(state);
-            journal.Begin(baseOf(file));
+            journal.Begin([base = baseOf(file)] { return base; });
             journal.Append(commands[0]);
             EXPECT_NE(journal.Flush().find("No space left"), std::string::npos);
             journal.Append(commands[1]);
@@ -279,7 +279,7 @@ TEST_F(Journals, FailuresAreToldOnceAndTriedAgain) {
     }
     support::writeFile(directory / "plain", "");
     RecoveryJournal nowhere(directory / "plain/recovery");
-    nowhere.Begin(baseOf(file));
+    nowhere.Begin([base = baseOf(file)] { return base; });
     nowhere.Append(commands[0]);
     EXPECT_NE(nowhere.Flush(), "");
 }

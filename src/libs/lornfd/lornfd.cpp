@@ -12,6 +12,7 @@
 #include "lornfd/writer.h"
 
 #include <filesystem>
+#include <libdeflate.h>
 #include <new>
 
 using namespace lornfd;
@@ -157,6 +158,10 @@ std::int32_t LornFD_Checksum(std::int32_t File, std::int64_t* Size, std::uint32_
         *Checksum = mark ? mark->crc : 0;
         return mark ? 1 : 0;
     });
+}
+
+std::uint32_t LornFD_ChecksumOf(std::string_view Content) {
+    return libdeflate_crc32(0, Content.data(), Content.size());
 }
 
 // What is written is collected in order, so it ends at the write position anyway.

@@ -72,6 +72,8 @@ std::string_view LornFD_ViewFile(std::int32_t File);
 /// Size and CRC-32 of the unpacked content: of all that a handle opened for reading has, of what
 /// was written so far to one opened for writing. Gives 1 on success.
 std::int32_t LornFD_Checksum(std::int32_t File, std::int64_t* Size, std::uint32_t* Checksum);
+/// The CRC-32 of bytes in memory.
+std::uint32_t LornFD_ChecksumOf(std::string_view Content);
 /// Fixes the length of what is being written at the write position.
 std::int32_t LornFD_SetEndOfFile(std::int32_t File);
 /// The form in which a file opened for reading is stored: LORNFD_PLAIN, _GZIP or _ZSTD; 0 on

@@ -1,11 +1,16 @@
 #include "txteditor/panels/GamePicture.h"
 
 #include "core/mdlComFunctions.h"
+#include "core/mdlCommon.h"
 #include "files/mdlPaths.h"
 #include "lornfd/lornfd.h"
+#include "lornfd/paths.h"
 #include "tessil/tessil.h"
 
-#include <map>
+#include <QDateTime>
+#include <QFileInfo>
+
+#include <optional>
 
 namespace {
 
@@ -42,21 +47,30 @@ QImage read(const std::string& place, const std::string& name) {
     return image;
 }
 
+std::optional<std::string> placeOf(const std::string& name) {
+    if (name.empty())
+        return {};
+    const auto place = FindInVFS(JoinPath({"textures", name}));
+    return place ? place : FindInVFS(JoinPath({"dds", name}));
+}
+
 } // namespace
 
 std::shared_ptr<const QImage> LoadGamePicture(const std::string& Name) {
-    static std::map<std::string, std::weak_ptr<const QImage>> shared; // by place
-    auto place = Name.empty() ? std::nullopt : FindInVFS(JoinPath({"textures", Name}));
-    if (!place && !Name.empty())
-        place = FindInVFS(JoinPath({"dds", Name}));
+    /// The last one, which mostly is asked for again: decoding takes longer than opening a file.
+    struct Kept {
+        std::string Place;
+        qint64 Size = 0;
+        QDateTime Modified;
+        std::shared_ptr<const QImage> Picture;
+    };
+    static Kept kept;
+    const auto place = placeOf(Name);
     if (!place)
         return {};
-    if (auto present = shared[*place].lock())
-        return present;
-    const QImage image = read(*place, Name);
-    if (image.isNull())
-        return {};
-    auto picture = std::make_shared<const QImage>(image);
-    shared[*place] = picture;
-    return picture;
+    const QFileInfo file(QString::fromStdString(lornfd::nativePath(CatalogPart(*place))));
+    if (kept.Place != *place || kept.Size != file.size() || kept.Modified != file.lastModified())
+        kept = {*place, file.size(), file.lastModified(),
+                std::make_shared<const QImage>(read(*place, Name))};
+    return kept.Picture->isNull() ? nullptr : kept.Picture;
 }

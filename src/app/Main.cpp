@@ -43,12 +43,14 @@ constexpr int lookTime = 500; ///< milliseconds between looks at a wish to end
 volatile std::sig_atomic_t endWished = 0;
 
 /// A program that is told to end ends as if its window were closed: unsaved work asks first. A box
-/// that is open is answered before: its window must not go away below it.
+/// that is open is answered before, and work that lets events through is finished: their window
+/// must not go away below them.
 void closeWhenTold(frmMain& launcher) {
     std::signal(SIGTERM, [](int) { endWished = 1; });
     auto* look = new QTimer(&launcher);
     QObject::connect(look, &QTimer::timeout, &launcher, [&launcher] {
-        if (!QApplication::activeModalWidget() && std::exchange(endWished, 0) != 0)
+        const bool busy = QApplication::activeModalWidget() || QGuiApplication::overrideCursor();
+        if (!busy && std::exchange(endWished, 0) != 0)
             launcher.close();
     });
     look->start(lookTime);

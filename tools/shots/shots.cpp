@@ -52,7 +52,11 @@ void settle() {
 bool take(const Shot& shot, const QString& file) {
     bool done = false;
     bool good = false;
-    QTimer::singleShot(settleTime, qApp, [&] {
+    QTimer look;
+    look.callOnTimeout([&] {
+        if (QGuiApplication::overrideCursor())
+            return; // amid work that lets events through: closing its window would be too early
+        look.stop();
         if (QWidget* window = visibleWindow(shot.Class)) {
             shot.Prepare(*window);
             settle();
@@ -61,6 +65,7 @@ bool take(const Shot& shot, const QString& file) {
         }
         done = true;
     });
+    look.start(settleTime);
     shot.Open();
     while (!done)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

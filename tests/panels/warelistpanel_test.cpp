@@ -3,6 +3,8 @@
 #include "panels/paneltest.h"
 #include "txteditor/panels/ucWareList.h"
 
+#include <QSignalSpy>
+
 namespace {
 
 using WareListPanel = PanelTest<ucWareList>;
@@ -29,12 +31,35 @@ TEST_F(WareListPanel, FollowsTheRawDataAndAddsNoList) {
     startWithFile("WareLists.txt", "1;\r\n2;SS_BREAD;SS_NONE;\r\n");
     editField(0, 1, QStringLiteral("SS_SALT"));
     EXPECT_EQ(column("WareListView", 1).join(u' '), QStringLiteral("SS_BREAD SS_SALT"));
+    auto* list = child<QTreeView>("WareListView");
+    const int narrow = list->columnWidth(1);
+    editField(0, 1, QStringLiteral("SS_WITH_A_LONG_NAME_\u00E4"));
+    EXPECT_GT(list->columnWidth(1), narrow);
+    const QModelIndex row = list->model()->index(1, 0);
+    EXPECT_EQ(row.data(Qt::UserRole), QVariant(QStringLiteral("SS_WITH_A_LONG_NAME_\u00E4")));
+    EXPECT_TRUE(row.data(Qt::UserRole + 1).toByteArray().endsWith('\xE4'));
+    trigger("undo");
     trigger("undo");
     EXPECT_EQ(column("WareListView", 1).join(u' '), QStringLiteral("SS_BREAD SS_NONE"));
     script.Box(QStringLiteral("before"), Answer::Yes);
     script.Box(QStringLiteral("none can be added"));
     trigger("mnuNew");
     EXPECT_EQ(window->Parser().ByIndex().size(), 1U);
+}
+
+TEST_F(WareListPanel, ADoubleClickAcrossTwoRowsLeadsNowhere) {
+    startWithFile("WareLists.txt", "1;\r\n2;SS_BREAD;SS_SALT;\r\n");
+    pick("ObjectView", 0);
+    auto* list = child<QTreeView>("WareListView");
+    const QSignalSpy asked(panel, &ObjectEditor::GoToAsked);
+    for (const int row : {1, 0}) {
+        list->setCurrentIndex(list->model()->index(0, 0)); // where the first click was
+        const QPointF place = list->visualRect(list->model()->index(row, 0)).center();
+        QMouseEvent second(QEvent::MouseButtonDblClick, place, list->viewport()->mapToGlobal(place),
+                           Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(list->viewport(), &second);
+        EXPECT_EQ(asked.count(), row == 0 ? 1 : 0);
+    }
 }
 
 TEST_F(WareListPanel, LivesThroughClicksWithBrokenFiles) {

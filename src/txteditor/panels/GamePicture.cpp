@@ -57,7 +57,7 @@ std::optional<std::string> placeOf(const std::string& name) {
 } // namespace
 
 std::shared_ptr<const QImage> LoadGamePicture(const std::string& Name) {
-    /// The last one, which mostly is asked for again: decoding takes longer than opening a file.
+    /// The last one, which mostly is asked for again.
     struct Kept {
         std::string Place;
         qint64 Size = 0;
